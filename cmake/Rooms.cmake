@@ -1,0 +1,33 @@
+# The two shapes of target that the house is made of: a room (a library that may only use the rooms
+# it names) and the tests of a room.
+
+add_library(wine_cellar_flags INTERFACE)
+target_compile_options(wine_cellar_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor
+  -Wold-style-cast -Woverloaded-virtual -Werror)
+if(WINE_CELLAR_SANITIZE)
+  target_compile_options(wine_cellar_flags INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(wine_cellar_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# add_room(NAME SOURCES file... USES target... [PRIVATELY target...])
+function(add_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;USES;PRIVATELY" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES})
+  target_link_libraries(${name}
+    PUBLIC wine_cellar_flags ${ROOM_USES}
+    PRIVATE ${ROOM_PRIVATELY})
+endfunction()
+
+# add_room_tests(NAME SOURCES file... USES target...)
+# Every case of the binary becomes a ctest of its own, named after the room.
+function(add_room_tests name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+  add_executable(${name} ${ROOM_SOURCES})
+  target_link_libraries(${name} PRIVATE wine_cellar_flags ${ROOM_USES} GTest::gtest GTest::gmock)
+  gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
+    PROPERTIES TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()
+
+include(GoogleTest)

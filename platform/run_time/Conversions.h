@@ -17,8 +17,8 @@ double Val(std::string_view text);
 /// "NaN" and "Infinity" are no numbers; neither is an empty text.
 bool Is_Numeric(std::string_view text);
 
-/// The number that Is_Numeric accepts, read in full. 13 where it does not accept the text, 6 where
-/// the value is beyond a double.
+/// The number that Is_Numeric accepts, read in full. 13 where it does not accept the text; a
+/// value beyond a double is not accepted.
 double To_Double(std::string_view text);
 
 /// Round half to even and test the range: 6 beyond it. From text: 13 where it is no number.
@@ -37,8 +37,12 @@ Text To_Text(std::int64_t value);
 Text To_Text(double value);
 Text To_Text(Single value);
 Text To_Text(Currency value);
-inline Text To_Text(int value) { return To_Text(static_cast<std::int64_t>(value)); }
-inline Text To_Text(Integer value) { return To_Text(static_cast<std::int64_t>(value)); }
+inline Text To_Text(int value) {
+  return To_Text(static_cast<std::int64_t>(value));
+}
+inline Text To_Text(Integer value) {
+  return To_Text(static_cast<std::int64_t>(value));
+}
 
 // ---- dates ----
 
@@ -49,8 +53,9 @@ bool Is_Date(std::string_view text);
 /// The moment that Is_Date accepts. 13 where it does not accept the text.
 Date To_Date(std::string_view text);
 
-/// The locale's short date with a four-digit year, and the time to the second unless it is
-/// midnight. Reads back by To_Date as exactly the same moment in every locale.
+/// Day, month and year in the order of the locale, the year with four digits, and the time of day
+/// to the second ("22.11.2026 21:40:02"). Reads back by To_Date as exactly the same moment in every
+/// locale.
 Text To_Text(Date moment);
 
 /// The day as "mm-dd-yyyy", whatever the locale.
@@ -68,9 +73,9 @@ void Set_Locale(std::string_view name);
 
 // ---- texts; positions and lengths count characters (Unicode code points), from 1 ----
 
-Text Trim(std::string_view text);                   ///< without the blanks at both ends
-Long Len(std::string_view text);                    ///< number of characters
-Text Left(std::string_view text, Long count);       ///< 5 where count is negative
+Text Trim(std::string_view text);              ///< without the blanks at both ends
+Long Len(std::string_view text);               ///< number of characters
+Text Left(std::string_view text, Long count);  ///< 5 where count is negative
 /// `count` characters from position `start`; the rest of the text where fewer follow. 5 where start
 /// is below 1 or count negative.
 Text Mid(std::string_view text, Long start, Long count);

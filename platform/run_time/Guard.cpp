@@ -1,6 +1,7 @@
 #include "platform/run_time/Guard.h"
 
 #include <cstdlib>
+#include <new>
 
 namespace {
 
@@ -48,12 +49,18 @@ void Run_Guarded(const std::function<void()>& handler) {
     End_By(error);
   } catch (const std::bad_alloc&) {
     End_By(Run_Time_Error(Failure::Out_Of_Memory));
+  } catch (const std::exception&) {
+    End_By(Run_Time_Error(Failure::Internal_Error));
   }
 }
 
-bool Inside_Handler() { return depth > 0; }
+bool Inside_Handler() {
+  return depth > 0;
+}
 
-void Commit_Before_Showing() { Hooks().commit(); }
+void Commit_Before_Showing() {
+  Hooks().commit();
+}
 
 void End_Process(int status) {
   ended = true;
@@ -64,6 +71,10 @@ void End_Process(int status) {
   std::_Exit(status);
 }
 
-bool Process_Has_Ended() { return ended; }
+bool Process_Has_Ended() {
+  return ended;
+}
 
-void Reset_After_End_For_Tests() { ended = false; }
+void Reset_After_End_For_Tests() {
+  ended = false;
+}

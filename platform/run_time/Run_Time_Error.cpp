@@ -15,6 +15,7 @@ constexpr std::array wordings{
     Wording{Failure::Out_Of_Memory, "Out of memory"},
     Wording{Failure::Subscript_Out_Of_Range, "Subscript out of range"},
     Wording{Failure::Type_Mismatch, "Type mismatch"},
+    Wording{Failure::Internal_Error, "Internal error"},
     Wording{Failure::File_Not_Found, "File not found"},
     Wording{Failure::Path_Not_Found, "Path not found"},
     Wording{Failure::Object_Variable_Not_Set, "Object variable or With block variable not set"},
@@ -61,4 +62,6 @@ std::string Text_Of(Failure failure, std::string_view name) {
 Run_Time_Error::Run_Time_Error(Failure failure, std::string_view name)
     : failure_(failure), text_(Text_Of(failure, name)) {}
 
-void Fail(Failure failure, std::string_view name) { throw Run_Time_Error(failure, name); }
+void Fail(Failure failure, std::string_view name) {
+  throw Run_Time_Error(failure, name);
+}

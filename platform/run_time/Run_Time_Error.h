@@ -13,6 +13,7 @@ enum class Failure : int {
   Out_Of_Memory = 7,
   Subscript_Out_Of_Range = 9,
   Type_Mismatch = 13,
+  Internal_Error = 51,
   File_Not_Found = 53,
   Path_Not_Found = 76,
   Object_Variable_Not_Set = 91,

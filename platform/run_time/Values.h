@@ -13,7 +13,8 @@ using Integer = std::int16_t;
 using Long = std::int32_t;
 using Single = float;
 
-/// An amount of money: a fixed-point number with four decimals, exact within +-922337203685477.5807.
+/// An amount of money: a fixed-point number with four decimals, exact within
+/// +-922337203685477.5807.
 struct Currency {
   std::int64_t ten_thousandths = 0;
 
@@ -28,6 +29,11 @@ struct Date {
   /// The moment of the given calendar day and time of day. The parts are not checked.
   static Date Of(int year, int month, int day, int hour = 0, int minute = 0, int second = 0);
   int Year() const;
+
+  struct Parts {
+    int year, month, day, hour, minute, second;
+  };
+  Parts Split() const;
 
   auto operator<=>(const Date&) const = default;
 };

@@ -11,7 +11,6 @@
 namespace {
 
 constexpr int currency_decimals = 4;
-constexpr int far_below_zero = -1'000'000;
 
 bool Is_Digit(QChar character) {
   return character >= u'0' && character <= u'9';
@@ -70,10 +69,7 @@ Decimal Taken_Apart(const QString& text) {
   for (qsizetype at = 0; at < text.size(); ++at) {
     const QChar character = text[at];
     if (character.toLower() == u'e') {
-      bool fits = false;
-      const int exponent = text.mid(at + 1).toInt(&fits);
-      number.exponent +=
-          fits ? exponent : far_below_zero;  // a number of the type cannot be far above
+      number.exponent += text.mid(at + 1).toInt();
       break;
     }
     if (character == u'-' || QString(character) == Machine_Locale().negativeSign()) {

@@ -1,0 +1,149 @@
+// The tables of texts by language: screens, long texts of the data, glossary, and the languages.
+#pragma once
+
+#include "core/tables/Table.h"
+
+// ---- Words: the texts of the screens; delivered, never written ----
+
+struct Words_Record {
+  Long ID{};
+  Text Program;   ///< key of the screen that reads the row
+  Text Variable;  ///< name of a control
+  Text English;
+  Text Spanish;
+  Text French;
+  Text German;
+  Text Italian;
+  Text Japanese;
+  Text Portuguese;
+  Text types_variable;  ///< "Cap", "Frm" or "Head"
+};
+
+inline Words_Record Words;
+inline Record_Store::Recordset Words_Recordset;  ///< opened beside each query of Words
+inline Record_Store::Recordset Words_Query;      ///< one screen's rows; stays open until the next
+
+/// A language's number, 3 to 9, is its column's ordinal.
+inline const Tables::Table<Words_Record> Words_Description = [] {
+  using R = Words_Record;
+  return Tables::Table<R>{"Words",
+                          {{"ID", &R::ID, Tables::Counter},
+                           {"Program", &R::Program},
+                           {"Variable", &R::Variable},
+                           {"English", &R::English},
+                           {"Spanish", &R::Spanish},
+                           {"French", &R::French},
+                           {"German", &R::German},
+                           {"Italian", &R::Italian},
+                           {"Japanese", &R::Japanese},
+                           {"Portuguese", &R::Portuguese},
+                           {"types_variable", &R::types_variable}},
+                          {}};
+}();
+
+// ---- Words_for_Data: long texts that other rows point to ----
+
+struct Words_for_Data_Record {
+  Long Multi_Language_ID{};
+  Text English;  ///< "x" in a language that has no text
+  Text Spanish;
+  Text French;
+  Text German;
+  Text Italian;
+  Text Japanes;
+  Text Portuguese;
+  Long ID{};  ///< always Multi_Language_ID
+};
+
+inline Words_for_Data_Record Words_for_Data;
+inline Record_Store::Recordset Words_for_Data_Recordset;  ///< open only while in use
+
+/// A language's number less 2 is its column's ordinal. Some screens take the key by the name ID.
+inline const Tables::Table<Words_for_Data_Record> Words_for_Data_Description = [] {
+  using R = Words_for_Data_Record;
+  return Tables::Table<R>{"Words_for_Data",
+                          {{"Multi_Language_ID", &R::Multi_Language_ID, Tables::Counter},
+                           {"English", &R::English, "x"},
+                           {"Spanish", &R::Spanish, "x"},
+                           {"French", &R::French, "x"},
+                           {"German", &R::German, "x"},
+                           {"Italian", &R::Italian, "x"},
+                           {"Japanes", &R::Japanes, "x"},
+                           {"Portuguese", &R::Portuguese, "x"},
+                           {"ID", &R::ID, Tables::Copy_Of_Counter}},
+                          {Tables::Primary("Multi_Language_ID")}};
+}();
+
+// ---- Glossary: delivered, never written ----
+
+struct Glossary_Record {
+  Long ID{};
+  Text Keyword;
+  Text Country_of_Origin;
+  Text English;
+  Text Spanish;
+  Text French;
+  Text German;
+  Text Italian;
+  Text Japanese;
+  Text Portuguese;
+};
+
+inline Glossary_Record Glossary;
+inline Record_Store::Recordset Glossary_Recordset;  ///< open only while in use
+
+/// A language's number, 3 to 9, is its column's ordinal.
+inline const Tables::Table<Glossary_Record> Glossary_Description = [] {
+  using R = Glossary_Record;
+  return Tables::Table<R>{"Glossary",
+                          {{"ID", &R::ID, Tables::Counter},
+                           {"Keyword", &R::Keyword},
+                           {"Country_of_Origin", &R::Country_of_Origin},
+                           {"English", &R::English},
+                           {"Spanish", &R::Spanish},
+                           {"French", &R::French},
+                           {"German", &R::German},
+                           {"Italian", &R::Italian},
+                           {"Japanese", &R::Japanese},
+                           {"Portuguese", &R::Portuguese}},
+                          {Tables::Primary("ID")}};
+}();
+
+// ---- ReplaceKeys: words of the screens back into the English words of the data; never written
+// ----
+
+struct ReplaceKeys_Record {
+  Text Foreign_Key;
+  Text English_Key;
+};
+
+inline ReplaceKeys_Record ReplaceKeys;
+inline Record_Store::Recordset ReplaceKeys_Recordset;  ///< open only while in use
+
+inline const Tables::Table<ReplaceKeys_Record> ReplaceKeys_Description = [] {
+  using R = ReplaceKeys_Record;
+  return Tables::Table<R>{
+      "ReplaceKeys", {{"Foreign_Key", &R::Foreign_Key}, {"English_Key", &R::English_Key}}, {}};
+}();
+
+// ---- Languages_Available: delivered, never written ----
+
+struct Languages_Available_Record {
+  Long ID{};
+  Text Language_Name;
+  Integer Language_Number{};  ///< 3 to 9
+  Integer Width_Main{};       ///< width of the main window in this language
+};
+
+inline Languages_Available_Record Languages_Available;
+inline Record_Store::Recordset Languages_Available_Recordset;  ///< open only while in use
+
+inline const Tables::Table<Languages_Available_Record> Languages_Available_Description = [] {
+  using R = Languages_Available_Record;
+  return Tables::Table<R>{"Languages_Available",
+                          {{"ID", &R::ID},
+                           {"Language_Name", &R::Language_Name},
+                           {"Language_Number", &R::Language_Number},
+                           {"Width_Main", &R::Width_Main}},
+                          {{"Language_Number"}}};
+}();

@@ -1,0 +1,62 @@
+#include "platform/forms/Application.h"
+
+#include <QApplication>
+
+#include "platform/forms/Focus.h"
+#include "platform/forms/Message_Box.h"
+#include "platform/forms/Qt_Text.h"
+#include "platform/forms/Screens.h"
+#include "platform/forms/Screens_Inside.h"
+#include "platform/run_time/Guard.h"
+
+namespace Forms {
+
+namespace {
+
+std::string& App_Path_For_Tests() {
+  static std::string path;
+  return path;
+}
+
+void Settle() {
+  Settle_Screens();
+  Focus_Watch::The().Settle();
+}
+
+}  // namespace
+
+struct Application::Data {
+  Data(int& argc, char** argv) : toolkit(argc, argv) {}
+  QApplication toolkit;
+};
+
+Application::Application(int& argc, char** argv) : data_(std::make_unique<Data>(argc, argv)) {
+  QApplication::setOrganizationName("Wine Cellar");
+  QApplication::setOrganizationDomain("winecellar.org");
+  QApplication::setApplicationName("wine-cellar");
+  QApplication::setDesktopFileName("org.winecellar.Wine_Cellar");
+  QApplication::setQuitOnLastWindowClosed(false);
+  Focus_Watch::The().Begin();
+  Hooks().show = Show_Failure;
+  Hooks().settled = Settle;
+}
+
+Application::~Application() {
+  Hooks().show = [](const Run_Time_Error&) {};
+  Hooks().settled = [] {};
+  Screens::Clear_For_Tests();
+}
+
+int Application::Run(const std::function<void()>& start) {
+  Run_Guarded(start);
+  return QApplication::exec();
+}
+
+std::string App_Path() {
+  if (!App_Path_For_Tests().empty()) return App_Path_For_Tests();
+  return From_Qt(QApplication::applicationDirPath());
+}
+
+void Set_App_Path_For_Tests(std::string_view path) { App_Path_For_Tests() = path; }
+
+}  // namespace Forms

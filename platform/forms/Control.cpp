@@ -1,0 +1,132 @@
+#include "platform/forms/Control.h"
+
+#include <QLayout>
+#include <QWidget>
+
+#include "platform/forms/Focus.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Form_Data.h"
+#include "platform/forms/Look.h"
+#include "platform/forms/Qt_Text.h"
+
+namespace Forms {
+
+Control::Control(Form& form, std::string_view name, std::string_view caption)
+    : form_(form), name_(name), caption_(caption) {
+  form_.Data().controls.push_back(this);
+}
+
+Control::~Control() { std::erase(form_.Data().controls, this); }
+
+void Control::Set_Caption(std::string_view caption) {
+  if (caption == caption_) return;
+  caption_ = caption;
+  Show_Caption();
+  if (form_.Visible()) Assign_Mnemonics(form_);
+}
+
+void Control::Set_Enabled(bool enabled) {
+  if (enabled == enabled_) return;
+  enabled_ = enabled;
+  Show_Enabled();
+}
+
+void Control::Set_Visible(bool visible) {
+  if (visible == visible_) return;
+  visible_ = visible;
+  Show_Visible();
+}
+
+Placed_Control::Placed_Control(Form& form, std::string_view name, std::string_view caption)
+    : Control(form, name, caption) {}
+
+Placed_Control::~Placed_Control() {
+  Focus_Watch::The().Remove(widget_, *this);
+  delete widget_;
+}
+
+QWidget* Placed_Control::Widget_Parent() const { return Owner().Data().content; }
+
+void Placed_Control::Set_Widget(QWidget* widget) {
+  widget_ = widget;
+  widget_->setObjectName(To_Qt(Name()));
+  widget_->hide();
+  Focus_Watch::The().Enter(widget_, *this);
+  Show_Caption();
+  Show_Accessible_Name();
+}
+
+void Placed_Control::Set_Placed() {
+  placed_ = true;
+  Show_Visible();
+}
+
+void Placed_Control::Show_Caption() { Show_Accessible_Name(); }
+
+void Placed_Control::Show_Enabled() { widget_->setEnabled(Enabled()); }
+
+void Placed_Control::Show_Visible() { widget_->setVisible(placed_ && Visible()); }
+
+void Placed_Control::SetFocus() { Focus_Watch::The().Set_Focus(*this); }
+
+void Placed_Control::Set_BackColor(Color color) {
+  if (color == back_color_) return;
+  back_color_ = color;
+  Show_Look();
+}
+
+void Placed_Control::Set_ForeColor(Color color) {
+  if (color == fore_color_) return;
+  fore_color_ = color;
+  Show_Look();
+}
+
+void Placed_Control::Show_Look() {
+  Dress(widget_, back_color_, fore_color_);
+  if (back_color_ == Required_Color) {
+    Show_State(State_Words().required);
+  } else if (back_color_ == Locked_Color || Is_Locked()) {
+    Show_State(State_Words().locked);
+  } else if (back_color_ == Active_List_Color) {
+    Show_State(State_Words().to_click_next);
+  } else {
+    Show_State({});
+  }
+}
+
+void Placed_Control::Show_State(std::string_view words) {
+  widget_->setAccessibleDescription(To_Qt(words));
+  widget_->setToolTip(To_Qt(words));
+}
+
+void Placed_Control::Set_Accessible_Name(std::string_view name) {
+  accessible_name_ = name;
+  Show_Accessible_Name();
+}
+
+void Placed_Control::Set_Label_Caption(std::string_view caption) {
+  label_caption_ = caption;
+  Show_Accessible_Name();
+}
+
+void Placed_Control::Show_Accessible_Name() {
+  QString name = To_Qt(accessible_name_);
+  if (name.isEmpty()) name = To_Qt(label_caption_);
+  if (name.isEmpty()) name = To_Qt(Caption());
+  if (name.isEmpty()) name = To_Qt(Name()).replace('_', ' ');
+  widget_->setAccessibleName(name);
+}
+
+void Lockable_Control::Set_Locked(bool locked) {
+  if (locked == locked_) return;
+  locked_ = locked;
+  Show_Locked();
+  Show_Look();
+}
+
+Words_Of_State& State_Words() {
+  static Words_Of_State words;
+  return words;
+}
+
+}  // namespace Forms

@@ -1,0 +1,124 @@
+#include "platform/forms/Form.h"
+
+#include <QScreen>
+#include <QScrollArea>
+#include <algorithm>
+
+#include "platform/forms/Command_Button.h"
+#include "platform/forms/Focus.h"
+#include "platform/forms/Form_Data.h"
+#include "platform/forms/Layout_Building.h"
+#include "platform/forms/Menu.h"
+#include "platform/forms/Qt_Text.h"
+#include "platform/forms/Screens_Inside.h"
+#include "platform/run_time/Guard.h"
+
+namespace Forms {
+
+namespace {
+
+bool Same_Name(std::string_view a, std::string_view b) {
+  return To_Qt(a).compare(To_Qt(b), Qt::CaseInsensitive) == 0;
+}
+
+}  // namespace
+
+Form::Form(std::string_view name, std::string_view caption) : data_(std::make_unique<Form_Data>()) {
+  data_->name = name;
+  data_->window = new Form_Window(*this);
+  data_->window->setObjectName(To_Qt(name));
+  Set_Caption(caption);
+  // A form never needs more room than the desktop has: what does not fit can be scrolled to.
+  auto* area = new QScrollArea(data_->window);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setFocusPolicy(Qt::NoFocus);
+  data_->content = new QWidget(area);
+  area->setWidget(data_->content);
+  data_->window->setCentralWidget(area);
+}
+
+Form::~Form() {
+  Focus_Watch::The().Forget(*this);
+  if (data_->caller != nullptr) --data_->caller->Data().waiting_for;
+  delete data_->window;
+}
+
+const std::string& Form::Name() const { return data_->name; }
+const std::string& Form::Caption() const { return data_->caption; }
+const std::string& Form::Tag() const { return data_->tag; }
+void Form::Set_Tag(std::string_view tag) { data_->tag = tag; }
+bool Form::Visible() const { return data_->window->isVisible(); }
+QWidget* Form::Window() const { return data_->window; }
+
+void Form::Set_Caption(std::string_view caption) {
+  data_->caption = caption;
+  data_->window->setWindowTitle(To_Qt(caption));
+}
+
+void Form::Set_Enabled(bool enabled) {
+  if (!enabled) Focus_Watch::The().Forget(*this);
+  data_->window->setEnabled(enabled);
+}
+
+void Form::Set_Width(int pixels) {
+  data_->content->setMinimumWidth(pixels);
+  if (data_->was_shown) Fit_To_Desktop(*data_->window);
+}
+
+bool Form::Is_Live() const { return data_->loaded && !data_->unloaded && !Process_Has_Ended(); }
+
+void Form::Load() {
+  if (data_->loaded) return;
+  data_->loaded = true;
+  Form_Load();
+}
+
+void Form::Show() {
+  Load();
+  if (data_->unloaded || Process_Has_Ended()) return;
+  if (!data_->was_shown) {
+    data_->was_shown = true;
+    Assign_Mnemonics(*this);
+    Fit_To_Desktop(*data_->window);
+    Focus_First(*data_);
+  }
+  data_->window->show();
+  data_->window->raise();
+  data_->window->activateWindow();
+  Focus_Watch::The().Shown(*this);
+  Form_Activate();
+}
+
+void Form::Hide() {
+  Focus_Watch::The().Forget(*this);
+  if (data_->caller != nullptr) {
+    --data_->caller->Data().waiting_for;
+    data_->caller = nullptr;
+  }
+  data_->window->hide();
+}
+
+void Form::Unload() {
+  if (data_->unloading) return;
+  data_->unloading = true;
+  if (data_->loaded) Form_Unload();
+  data_->unloaded = true;
+  Hide();
+  Bury(*this);
+}
+
+Control& Form::Find_Control(std::string_view name) const {
+  const auto found = std::ranges::find_if(
+      data_->controls, [name](const Control* control) { return Same_Name(control->Name(), name); });
+  if (found == data_->controls.end()) Fail(Failure::Control_Not_Found, name);
+  return **found;
+}
+
+void Form::Set_Content(const Place& content) { Build_Layout(*data_, content); }
+
+void Form::Set_Exit(Command_Button& button) { data_->exit_button = &button; }
+
+void Form::Set_Exit(Menu_Entry& entry) { data_->exit_entry = &entry; }
+
+}  // namespace Forms

@@ -1,0 +1,84 @@
+// One screen of the program: a window, its controls, its life.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/forms/Control.h"
+#include "platform/forms/Layout.h"
+
+class QMenuBar;
+class QWidget;
+
+namespace Forms {
+
+class Command_Button;
+class Menu_Entry;
+struct Form_Data;
+
+/// The base of every screen. A screen's controls are its members; its constructor builds the
+/// design (captions, events, layout) and touches nothing else. It is made and owned by the
+/// registry (Screens.h).
+///
+/// Life: made; Form_Load, once, before it is visible; any number of Show and Hide; Unload, which
+/// runs Form_Unload at once and forgets everything. A handler of the form that unloads it runs on
+/// to its end; the object goes afterwards.
+class Form {
+ public:
+  Form(std::string_view name, std::string_view caption);
+  virtual ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::string& Name() const;
+  const std::string& Caption() const;  ///< the window's title
+  void Set_Caption(std::string_view caption);
+  const std::string& Tag() const;
+  void Set_Tag(std::string_view tag);
+  bool Visible() const;
+  /// A form that is not enabled takes no input. No control of it raises LostFocus by that.
+  void Set_Enabled(bool enabled);
+  /// The width of the window's inside, in pixels of an unscaled desktop.
+  void Set_Width(int pixels);
+
+  /// Loads the form if that has not been, shows it, brings it to the front; then Form_Activate.
+  void Show();
+  /// Takes it off the desktop; keeps everything.
+  void Hide();
+  /// Form_Unload, then off the desktop and out of the registry.
+  void Unload();
+
+  /// The control of this name, without regard to case; a menu or menu entry too. 730 if none.
+  Control& Find_Control(std::string_view name) const;
+
+  /// Once per load, before the form is visible.
+  virtual void Form_Load() {}
+  /// After each Show, and when the user comes here from another window of the program; never on
+  /// the return from a message box or from another program.
+  virtual void Form_Activate() {}
+  /// At the unload.
+  virtual void Form_Unload() {}
+
+  /// For this room and the tests.
+  Form_Data& Data() const { return *data_; }
+  QWidget* Window() const;
+  /// Runs Form_Load if that has not been.
+  void Load();
+  /// Whether the user's doings still reach handlers: loaded and not yet unloaded.
+  bool Is_Live() const;
+
+ protected:
+  /// The layout of everything that is seen. Called once, at the end of the constructor.
+  void Set_Content(const Place& content);
+  /// The way out: the window's close button, and Esc, do what this button does.
+  void Set_Exit(Command_Button& button);
+  /// The same for an entry that ends the run: only the window's close button does what it does.
+  void Set_Exit(Menu_Entry& entry);
+
+ private:
+  friend class Control;
+  std::unique_ptr<Form_Data> data_;
+};
+
+}  // namespace Forms

@@ -1,0 +1,57 @@
+// What a form consists of inside. For the sources of this room only.
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+#include <string>
+#include <vector>
+
+namespace Forms {
+
+class Command_Button;
+class Control;
+class Form;
+class Menu_Entry;
+class Menu_Item;
+
+/// The window of a form: its close button and Esc are the form's exit.
+class Form_Window : public QMainWindow {
+ public:
+  explicit Form_Window(Form& form) : form_(form) {}
+  Form& Owner() const { return form_; }
+
+  bool event(QEvent* event) override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  Form& form_;
+};
+
+struct Form_Data {
+  std::string name;
+  std::string caption;
+  std::string tag;
+  Form_Window* window = nullptr;
+  QWidget* content = nullptr;      ///< what the layout fills; parent of the controls' widgets
+  std::vector<Control*> controls;  ///< in the order of their making
+  std::vector<QPointer<QWidget>> reading_order;
+  Command_Button* exit_button = nullptr;
+  Menu_Entry* exit_entry = nullptr;
+  Form* caller = nullptr;  ///< the form that waits for this one
+  int waiting_for = 0;     ///< how many forms this one waits for
+  bool loaded = false;
+  bool unloading = false;
+  bool unloaded = false;
+  bool was_shown = false;
+};
+
+/// The form whose window, or a popup of whose window, `widget` belongs to; nullptr for others.
+Form* Form_Of(const QWidget* widget);
+/// Does what the form's exit does.
+void Leave(Form& form, bool by_key);
+/// Gives the captions of the form's controls their mnemonics.
+void Assign_Mnemonics(Form& form);
+}  // namespace Forms

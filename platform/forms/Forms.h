@@ -1,0 +1,15 @@
+// Everything that a screen is made of.
+#pragma once
+
+// IWYU pragma: begin_exports
+#include "platform/forms/Colors.h"
+#include "platform/forms/Command_Button.h"
+#include "platform/forms/Control.h"
+#include "platform/forms/Form.h"
+#include "platform/forms/Label.h"
+#include "platform/forms/Layout.h"
+#include "platform/forms/Menu.h"
+#include "platform/forms/Message_Box.h"
+#include "platform/forms/Screens.h"
+#include "platform/forms/Text_Box.h"
+// IWYU pragma: end_exports

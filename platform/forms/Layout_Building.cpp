@@ -1,0 +1,212 @@
+#include "platform/forms/Layout_Building.h"
+
+#include <QBoxLayout>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QSplitter>
+
+#include "platform/forms/Form_Data.h"
+#include "platform/forms/Place_Data.h"
+
+namespace Forms {
+
+namespace {
+
+/// Builds one form's layout, reading the places in order.
+class Builder {
+ public:
+  explicit Builder(Form_Data& form) : form_(form) {}
+
+  QLayout* Layout_Of(const Place& place, QWidget* parent) {
+    const Place_Data& data = *place.Data();
+    switch (data.kind) {
+      case Place_Kind::Column:
+        return Box_Of(new QVBoxLayout, data.places, parent);
+      case Place_Kind::Fields:
+        return Fields_Of(data.places, parent);
+      case Place_Kind::Below:
+        return Below_Of(data.places, parent);
+      case Place_Kind::Grid:
+        return Grid_Of(data, parent);
+      case Place_Kind::Buttons:
+        return Buttons_Of(data.places, parent);
+      case Place_Kind::Row:
+        return Box_Of(new QHBoxLayout, data.places, parent);
+      default:
+        return Box_Of(new QVBoxLayout, {place}, parent);
+    }
+  }
+
+ private:
+  QLayout* Box_Of(QBoxLayout* box, const Places& places, QWidget* parent) {
+    for (const Place& place : places) Add(*box, place, parent);
+    return box;
+  }
+
+  void Add(QBoxLayout& box, const Place& place, QWidget* parent) {
+    const Place_Data& data = *place.Data();
+    if (data.kind == Place_Kind::Stretch) {
+      box.addStretch(data.share);
+    } else if (data.kind == Place_Kind::Space) {
+      box.addSpacing(parent->fontMetrics().height());
+    } else if (QWidget* widget = Widget_Of(place, parent)) {
+      box.addWidget(widget, data.share, data.alignment);
+    } else {
+      box.addLayout(Layout_Of(place, parent), data.share);
+    }
+  }
+
+  void Add(QGridLayout& grid, const Place& place, QWidget* parent, int row, int column) {
+    const Place_Data& data = *place.Data();
+    if (QWidget* widget = Widget_Of(place, parent)) {
+      grid.addWidget(widget, row, column, data.alignment);
+    } else {
+      grid.addLayout(Layout_Of(place, parent), row, column);
+    }
+    if (data.share > 0) grid.setRowStretch(row, data.share);
+  }
+
+  // The widget that takes a place of itself; nullptr where it takes a layout.
+  QWidget* Widget_Of(const Place& place, QWidget* parent) {
+    const Place_Data& data = *place.Data();
+    switch (data.kind) {
+      case Place_Kind::Control:
+        return Settle(data, parent);
+      case Place_Kind::Group: {
+        QWidget* frame = Settle(data, parent);
+        frame->setLayout(Layout_Of(data.places.front(), frame));
+        return frame;
+      }
+      case Place_Kind::Above_Below:
+        return Splitter_Of(Qt::Vertical, data.places, parent);
+      case Place_Kind::Side_By_Side:
+        return Splitter_Of(Qt::Horizontal, data.places, parent);
+      default:
+        return nullptr;
+    }
+  }
+
+  QWidget* Settle(const Place_Data& data, QWidget* parent) {
+    QWidget* widget = data.control->Widget();
+    if (widget->parentWidget() != parent) widget->setParent(parent);
+    const QFontMetrics metrics = widget->fontMetrics();
+    if (data.characters > 0) {
+      widget->setMinimumWidth((data.characters + 2) * metrics.averageCharWidth());
+    }
+    if (data.lines > 0) widget->setMinimumHeight(data.lines * metrics.lineSpacing() + 8);
+    data.control->Set_Placed();
+    form_.reading_order.emplace_back(widget);
+    return widget;
+  }
+
+  QWidget* Splitter_Of(Qt::Orientation orientation, const Places& places, QWidget* parent) {
+    auto* splitter = new QSplitter(orientation, parent);
+    splitter->setChildrenCollapsible(false);
+    for (const Place& place : places) {
+      QWidget* part = Widget_Of(place, splitter);
+      if (part == nullptr) {
+        part = new QWidget(splitter);
+        part->setLayout(Layout_Of(place, part));
+        part->layout()->setContentsMargins(0, 0, 0, 0);
+      }
+      splitter->addWidget(part);
+      splitter->setStretchFactor(splitter->count() - 1, place.Data()->share);
+    }
+    return splitter;
+  }
+
+  QLayout* Fields_Of(const Places& places, QWidget* parent) {
+    auto* grid = new QGridLayout;
+    for (std::size_t i = 0; i + 1 < places.size(); i += 2) {
+      const int row = static_cast<int>(i / 2);
+      QWidget* label = Widget_Of(places[i], parent);
+      const bool high = places[i + 1].Data()->lines > 1 || places[i + 1].Data()->share > 0;
+      grid->addWidget(label, row, 0, high ? Qt::AlignTop : Qt::AlignVCenter);
+      Add(*grid, places[i + 1], parent, row, 1);
+      Join(places[i], places[i + 1]);
+    }
+    grid->setColumnStretch(1, 1);
+    return grid;
+  }
+
+  QLayout* Below_Of(const Places& places, QWidget* parent) {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(2);
+    Join(places[0], places[1]);
+    return Box_Of(column, places, parent);
+  }
+
+  // The label names the first control of its field.
+  void Join(const Place& label, const Place& field) {
+    const Place* first = &field;
+    while (first->Data()->control == nullptr && !first->Data()->places.empty()) {
+      first = &first->Data()->places.front();
+    }
+    if (first->Data()->control == nullptr) return;
+    static_cast<Label*>(label.Data()->control)->Set_Buddy(*first->Data()->control);
+  }
+
+  QLayout* Grid_Of(const Place_Data& data, QWidget* parent) {
+    auto* grid = new QGridLayout;
+    for (std::size_t i = 0; i < data.places.size(); ++i) {
+      const int place = static_cast<int>(i);
+      Add(*grid, data.places[i], parent, place / data.columns, place % data.columns);
+    }
+    for (int column = 0; column < data.columns; ++column) grid->setColumnStretch(column, 1);
+    return grid;
+  }
+
+  QLayout* Buttons_Of(const Places& places, QWidget* parent) {
+    auto* row = new QHBoxLayout;
+    row->addStretch(1);
+    for (const Place& place : places) {
+      Add(*row, place, parent);
+      QWidget* button = place.Data()->control->Widget();
+      button->setMinimumWidth(14 * button->fontMetrics().averageCharWidth());
+    }
+    return row;
+  }
+
+  Form_Data& form_;
+};
+
+}  // namespace
+
+void Build_Layout(Form_Data& form, const Place& content) {
+  QLayout* layout = Builder(form).Layout_Of(content, form.content);
+  layout->setContentsMargins(16, 12, 16, 12);
+  form.content->setLayout(layout);
+  QWidget* before = nullptr;
+  for (const auto& widget : form.reading_order) {
+    if (before != nullptr) QWidget::setTabOrder(before, widget);
+    before = widget;
+  }
+}
+
+void Fit_To_Desktop(QMainWindow& window) {
+  const auto* area = static_cast<QScrollArea*>(window.centralWidget());
+  QSize wanted = area->widget()->sizeHint().expandedTo(area->widget()->minimumSize());
+  if (!window.menuBar()->actions().isEmpty()) {
+    const QSize bar = window.menuBar()->sizeHint();
+    wanted = QSize(qMax(wanted.width(), bar.width()), wanted.height() + bar.height());
+  }
+  const QRect desktop = window.screen()->availableGeometry();
+  window.resize(wanted.boundedTo(desktop.size() * 0.94));
+  window.move(desktop.center() - QPoint(window.width() / 2, window.height() / 2));
+}
+
+void Focus_First(Form_Data& form) {
+  if (form.window->focusWidget() != nullptr) return;
+  for (const auto& widget : form.reading_order) {
+    if (widget == nullptr || !widget->isEnabled() || widget->isHidden()) continue;
+    if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
+    widget->setFocus(Qt::OtherFocusReason);
+    return;
+  }
+}
+
+}  // namespace Forms

@@ -1,0 +1,105 @@
+#include "platform/forms/Menu.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "platform/forms/Form_Data.h"
+#include "platform/forms/Handlers.h"
+#include "platform/forms/Mnemonics.h"
+#include "platform/forms/Qt_Text.h"
+
+namespace Forms {
+
+namespace {
+
+// An action keeps its plain caption as its data: the text that is shown has a mnemonic in it.
+void Assign_Mnemonics_Of(const QWidget* place) {
+  std::vector<std::string> captions;
+  for (const QAction* action : place->actions()) {
+    captions.push_back(From_Qt(action->data().toString()));
+  }
+  std::set<QChar> used;
+  const std::vector<QString> texts = With_Mnemonics(captions, used);
+  for (qsizetype i = 0; i < place->actions().size(); ++i) {
+    if (!place->actions()[i]->isSeparator()) {
+      place->actions()[i]->setText(texts[static_cast<std::size_t>(i)]);
+    }
+  }
+}
+
+}  // namespace
+
+Menu_Item::Menu_Item(Form& form, Menu* menu, std::string_view name, std::string_view caption)
+    : Control(form, name, caption), menu_(menu) {}
+
+Menu_Item::~Menu_Item() = default;
+
+QWidget* Menu_Item::Place_Of_Action() const {
+  if (menu_ != nullptr) return menu_->Sheet();
+  return Owner().Data().window->menuBar();
+}
+
+void Menu_Item::Set_Action(QAction* action) {
+  action_ = action;
+  action_->setObjectName(To_Qt(Name()));
+  action_->setMenuRole(QAction::NoRole);
+  Show_Caption();
+}
+
+void Menu_Item::Show_Caption() {
+  action_->setData(To_Qt(Caption()));
+  Assign_Mnemonics_Of(Place_Of_Action());
+}
+
+void Menu_Item::Show_Enabled() { action_->setEnabled(Enabled()); }
+
+void Menu_Item::Show_Visible() { action_->setVisible(Visible()); }
+
+Menu::Menu(Form& form, std::string_view name, std::string_view caption)
+    : Menu_Item(form, nullptr, name, caption) {
+  Make();
+}
+
+Menu::Menu(Menu& above, std::string_view name, std::string_view caption)
+    : Menu_Item(above.Owner(), &above, name, caption) {
+  Make();
+}
+
+Menu::~Menu() = default;
+
+void Menu::Make() {
+  sheet_ = new QMenu(Place_Of_Action());
+  sheet_->setObjectName(To_Qt(Name()));
+  Place_Of_Action()->addAction(sheet_->menuAction());
+  Set_Action(sheet_->menuAction());
+}
+
+Menu_Entry::Menu_Entry(Form& form, std::string_view name, std::string_view caption)
+    : Menu_Item(form, nullptr, name, caption) {
+  Make();
+}
+
+Menu_Entry::Menu_Entry(Menu& menu, std::string_view name, std::string_view caption)
+    : Menu_Item(menu.Owner(), &menu, name, caption) {
+  Make();
+}
+
+Menu_Entry::~Menu_Entry() = default;
+
+void Menu_Entry::Make() {
+  auto* action = new QAction(Place_Of_Action());
+  Place_Of_Action()->addAction(action);
+  Set_Action(action);
+  QObject::connect(action, &QAction::triggered, [this] { Raise(*this, Click); });
+}
+
+Menu_Separator::Menu_Separator(Menu& menu, std::string_view name)
+    : Menu_Item(menu.Owner(), &menu, name, {}) {
+  Set_Action(menu.Sheet()->addSeparator());
+}
+
+Menu_Separator::~Menu_Separator() = default;
+
+}  // namespace Forms

@@ -1,0 +1,19 @@
+// Between the program's texts and the toolkit's. For the sources of this room only.
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace Forms {
+
+inline QString To_Qt(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+inline std::string From_Qt(const QString& text) { return text.toStdString(); }
+
+/// A caption as the toolkit shows it without a mnemonic: each ampersand stands for itself.
+inline QString Escaped(std::string_view caption) { return To_Qt(caption).replace("&", "&&"); }
+
+}  // namespace Forms

@@ -1,0 +1,175 @@
+#include "platform/forms/Screens.h"
+
+#include <QApplication>
+#include <QTimer>
+#include <QWindow>
+#include <map>
+#include <vector>
+
+#include "platform/forms/Focus.h"
+#include "platform/forms/Form_Data.h"
+#include "platform/forms/Screens_Inside.h"
+#include "platform/run_time/Guard.h"
+
+namespace Forms {
+
+namespace {
+
+struct Entry {
+  Screens::Factory factory;
+  std::unique_ptr<Form> form;
+  std::string waiting_tag;  ///< set while the screen was not loaded
+};
+
+struct Registry {
+  std::map<std::string, Entry, std::less<>> entries;
+  std::string main;
+  std::vector<std::unique_ptr<Form>> buried;
+};
+
+Registry& The_Registry() {
+  static Registry registry;
+  return registry;
+}
+
+Entry* Find(std::string_view name) {
+  const auto found = The_Registry().entries.find(name);
+  return found == The_Registry().entries.end() ? nullptr : &found->second;
+}
+
+Form* Loaded(std::string_view name) {
+  const Entry* entry = Find(name);
+  return entry == nullptr ? nullptr : entry->form.get();
+}
+
+Form& Load_Form(std::string_view name) {
+  Entry* entry = Find(name);
+  if (entry == nullptr) Fail(Failure::Object_Required);
+  if (entry->form == nullptr) {
+    entry->form = entry->factory();
+    entry->form->Set_Tag(std::exchange(entry->waiting_tag, {}));
+    entry->form->Load();
+    // A screen may unload itself while it loads.
+    if (entry->form == nullptr) return *The_Registry().buried.back();
+  }
+  return *entry->form;
+}
+
+void Empty_Grave() {
+  if (!Inside_Handler()) The_Registry().buried.clear();
+}
+
+bool Any_Window_Visible() {
+  for (const auto& [name, entry] : The_Registry().entries) {
+    if (entry.form != nullptr && entry.form->Visible()) return true;
+  }
+  return false;
+}
+
+void Make_Wait(Form& caller, Form& picker) {
+  Focus_Watch::The().Forget(caller);
+  ++caller.Data().waiting_for;
+  picker.Data().caller = &caller;
+  picker.Window()->setWindowModality(Qt::WindowModal);
+  picker.Window()->winId();
+  picker.Window()->windowHandle()->setTransientParent(caller.Window()->windowHandle());
+}
+
+}  // namespace
+
+void Bury(Form& form) {
+  Registry& registry = The_Registry();
+  Entry* entry = Find(form.Name());
+  if (entry == nullptr || entry->form.get() != &form) return;
+  registry.buried.push_back(std::move(entry->form));
+  QTimer::singleShot(0, qApp, Empty_Grave);
+}
+
+void Settle_Screens() {
+  if (!The_Registry().buried.empty()) QTimer::singleShot(0, qApp, Empty_Grave);
+  const std::string& main = The_Registry().main;
+  if (main.empty() || Any_Window_Visible() || Process_Has_Ended()) return;
+  Screen(main).Show();
+  Hooks().commit();
+}
+
+bool Screen::Exists() const { return Find(name_) != nullptr; }
+
+bool Screen::Is_Loaded() const { return Loaded(name_) != nullptr; }
+
+bool Screen::Visible() const { return Is_Loaded() && Loaded(name_)->Visible(); }
+
+void Screen::Open() const {
+  if (!Exists()) return;
+  Unload();
+  Load_Form(name_).Show();
+}
+
+void Screen::Open_Over(Form& caller) const {
+  if (!Exists()) return;
+  Unload();
+  Form& picker = Load_Form(name_);
+  if (!picker.Is_Live()) return;
+  Make_Wait(caller, picker);
+  picker.Show();
+}
+
+void Screen::Show() const {
+  if (Exists()) Load_Form(name_).Show();
+}
+
+void Screen::Hide() const {
+  if (Form* form = Loaded(name_)) form->Hide();
+}
+
+void Screen::Unload() const {
+  if (Form* form = Loaded(name_)) form->Unload();
+}
+
+void Screen::Load() const { Load_Form(name_); }
+
+std::string Screen::Tag() const {
+  if (const Form* form = Loaded(name_)) return form->Tag();
+  const Entry* entry = Find(name_);
+  return entry == nullptr ? std::string() : entry->waiting_tag;
+}
+
+void Screen::Set_Tag(std::string_view tag) const {
+  if (Form* form = Loaded(name_)) {
+    form->Set_Tag(tag);
+  } else if (Entry* entry = Find(name_)) {
+    entry->waiting_tag = tag;
+  }
+}
+
+const std::string& Screen::Caption() const { return Instance().Caption(); }
+
+void Screen::Set_Caption(std::string_view caption) const { Instance().Set_Caption(caption); }
+
+Forms::Control& Screen::Control(std::string_view name) const {
+  return Instance().Find_Control(name);
+}
+
+Form& Screen::Instance() const { return Load_Form(name_); }
+
+void Screen::Fail_As_Other_Kind() { Fail(Failure::Type_Mismatch); }
+
+namespace Screens {
+
+void Register(std::string_view name, Factory factory) {
+  The_Registry().entries[std::string(name)].factory = std::move(factory);
+}
+
+void Set_Main(std::string_view name) { The_Registry().main = name; }
+
+void Clear_For_Tests() {
+  Registry& registry = The_Registry();
+  registry.buried.clear();
+  for (auto& [name, entry] : registry.entries) {
+    entry.form.reset();
+    entry.waiting_tag.clear();
+  }
+}
+
+}  // namespace Screens
+}  // namespace Forms

@@ -1,0 +1,67 @@
+#include "platform/forms/Text_Box.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+
+#include "platform/forms/Handlers.h"
+#include "platform/forms/Qt_Text.h"
+
+namespace Forms {
+
+Text_Box::Text_Box(Form& form, std::string_view name, Lines lines)
+    : Lockable_Control(form, name, {}), lines_(lines) {
+  if (lines_ == Lines::One) {
+    auto* line = new QLineEdit(Widget_Parent());
+    line->setFixedHeight(line->sizeHint().height());
+    QObject::connect(line, &QLineEdit::textChanged,
+                     [this](const QString& text) { Take_Over(From_Qt(text)); });
+    Set_Widget(line);
+    return;
+  }
+  auto* sheet = new QPlainTextEdit(Widget_Parent());
+  sheet->setTabChangesFocus(true);
+  QObject::connect(sheet, &QPlainTextEdit::textChanged, [this, sheet] {
+    Take_Over(From_Qt(sheet->toPlainText().replace("\n", "\r\n")));
+  });
+  Set_Widget(sheet);
+}
+
+Text_Box::~Text_Box() { Widget()->blockSignals(true); }
+
+void Text_Box::Take_Over(std::string text) {
+  if (text == text_) return;
+  text_ = std::move(text);
+  Raise(*this, Change);
+}
+
+void Text_Box::Set_Text(std::string_view text) {
+  if (text == text_) return;
+  text_ = text;
+  {
+    const QSignalBlocker no_signals(Widget());
+    if (lines_ == Lines::One) {
+      static_cast<QLineEdit*>(Widget())->setText(To_Qt(text));
+    } else {
+      static_cast<QPlainTextEdit*>(Widget())->setPlainText(To_Qt(text).replace("\r\n", "\n"));
+    }
+  }
+  if (Change) Change();
+}
+
+void Text_Box::Raise_Lost_Focus() {
+  if (LostFocus && Owner().Is_Live() && Owner().Visible()) LostFocus();
+}
+
+void Text_Box::Show_Locked() {
+  if (lines_ == Lines::One) {
+    static_cast<QLineEdit*>(Widget())->setReadOnly(Locked());
+    return;
+  }
+  auto* sheet = static_cast<QPlainTextEdit*>(Widget());
+  sheet->setReadOnly(Locked());
+  if (Locked())
+    sheet->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+}
+
+}  // namespace Forms

@@ -1,0 +1,58 @@
+// The entries of the main window's menu that speak of the user's cellars.
+#include "core/Gereral_Processes.h"
+#include "core/Globals.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "platform/forms/Screens.h"
+#include "platform/run_time/Conversions.h"
+
+namespace {
+
+Forms::Control& Entry(std::string_view name) {
+  return Forms::Screen("Wine_Cellar_Form").Control(name);
+}
+
+void Show_Entries(bool visible, std::initializer_list<const char*> names) {
+  for (const char* name : names) Entry(name).Set_Visible(visible);
+}
+
+// What needs a cellar to speak of.
+void Enable_Cellar_Services(bool enabled) {
+  for (const char* name : {"Wines_Cellar", "Pairing_Search_Cellar", "Cheeses_Pairing_Cellar"}) {
+    Entry(name).Set_Enabled(enabled);
+  }
+}
+
+}  // namespace
+
+void Show_Named_Cellars(std::string_view first, std::string_view second) {
+  Show_Entries(false, {"Cellar_View", "Cellar_Add", "Cellar_Print"});
+  Show_Entries(true, {"Cellar_Mod", "Cellars_View", "Cellars_Print", "Cellar1_View", "Cellar2_View",
+                      "Cellar1_Print", "Cellar2_Print"});
+  Enable_Cellar_Services(true);
+  const Text& name = Current_Cellar_Name;
+  Forms::Screen("Wine_Cellar_Form").Set_Caption("My Current Cellar: " + name);
+  Entry("Wines_Cellar").Set_Caption(name + " Cellar");
+  Entry("Pairing_Search_Cellar").Set_Caption("For Pairings in " + name + " Cellar");
+  Entry("Cheeses_Pairing_Cellar").Set_Caption("With " + name + " Cellar Wines");
+  for (const char* entry : {"Cellar1_View", "Cellar1_Print"}) Entry(entry).Set_Caption(first);
+  for (const char* entry : {"Cellar2_View", "Cellar2_Print"}) Entry(entry).Set_Caption(second);
+}
+
+void Set_Cellar_Menu() {
+  Open_Table(Cellars_Recordset, "Cellars");
+  Read_Cellars_Record();
+  Current_Cellar_ID = To_Integer(Cellars.ID);
+  Current_Cellar_Name = Cellars.Cellar_Name;
+  if (Current_Cellar_Name == "x") {
+    Show_Entries(true, {"Cellar_Add", "Cellar_View"});
+    Show_Entries(false, {"Cellar_Print"});
+    Enable_Cellar_Services(false);
+    return;
+  }
+  const Text first = Current_Cellar_Name;
+  Cellars_Recordset.MoveNext();
+  Show_Named_Cellars(first, Cellars_Recordset.Fields("Cellar_Name").As_Text());
+  Close_Table(Cellars_Recordset);
+}

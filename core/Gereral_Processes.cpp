@@ -1,0 +1,200 @@
+#include "core/Gereral_Processes.h"
+
+#include <array>
+
+#include "core/Globals.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Mobile_Wines_DB.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "platform/run_time/Conversions.h"
+
+namespace {
+
+template <int Last, std::size_t Count>
+void Fill(Bounded_Array<Text, Last>& list, const std::array<const char*, Count>& words) {
+  int entry = 0;
+  for (const char* word : words) list[++entry] = word;
+}
+
+// The position of `wanted` in the list, 0 where it is not there.
+template <int Last>
+int Place_Of(std::string_view wanted, const Bounded_Array<Text, Last>& list, int count) {
+  for (int entry = 1; entry <= count; ++entry) {
+    if (list[entry] == wanted) return entry;
+  }
+  return 0;
+}
+
+template <class Keys>
+Text Country_By(const char* index, Keys key, const char* wanted) {
+  Open_Table(World_Contries_Recordset, "World_Contries");
+  World_Contries_Recordset.Index(index);
+  World_Contries_Recordset.Seek("=", key);
+  Text name = World_Contries_Recordset.Fields(wanted).As_Text();
+  Close_Table(World_Contries_Recordset);
+  return name;
+}
+
+constexpr std::array wine_type_codes{"VA", "LE", "AP"};
+
+}  // namespace
+
+void Load_Bottle_Sizes() {
+  Fill(Bottle_Sizes,
+       std::array{"200 ml", "375 ml", "500 ml", "750 ml", "1.0 Lt", "1.5 Lt", "2.25 Lt", "3.0 Lt",
+                  "4.5 Lt", "5.0 Lt", "6.0 Lt", "9.0 Lt", "12.0 Lt", "18.0 Lt"});
+}
+
+void Load_Cheese_Types() {
+  Fill(Cheese_Types, std::array{"Blue-vein", "Fresh", "Hard", "Processed", "Semi-hard", "Semi-soft",
+                                "Soft", "Soft/Hard", "Soft-ripened"});
+  Cheese_Types_Count = 10;
+}
+
+void Load_Milk_Types() {
+  Fill(Milk_Types,
+       std::array{"Cow", "Cow-Goat", "Cow-Goat-Sheep", "Goat", "Sheep", "Water Buffalo"});
+  Milk_Types_Count = 6;
+}
+
+void Load_Countries() {
+  Open_Table(World_Contries_Recordset, "World_Contries");
+  World_Contries_Recordset.Index("Long_Name");
+  Integer row = 0;
+  for (; !World_Contries_Recordset.Eof(); World_Contries_Recordset.MoveNext()) {
+    Read_World_Contries_Record();
+    const auto& country = Countries_Memory;
+    Countries[++row] = {country.Long_Name,  country.Language,        country.Language_Number,
+                        country.Short_Name, country.Zip_Code_Length, country.Zip_Type};
+  }
+  Countries_Count = row;
+  Close_Table(World_Contries_Recordset);
+}
+
+void Load_Mobile_Countries() {
+  Mobile_Countries.Clear();
+  Integer count = 0;
+  Open_Table(Mobile_Wines_Recordset, "Mobile_Wines");
+  for (; !Mobile_Wines_Recordset.Eof(); Mobile_Wines_Recordset.MoveNext()) {
+    Read_Mobile_Wines_Record();
+    const Text& country = Mobile_Wines.Mobile_Wine_Country;
+    if (Place_Of(country, Mobile_Countries, count) == 0) Mobile_Countries[++count] = country;
+  }
+  Mobile_Countries_Count = count;
+}
+
+void Load_Cheese_Countries() {
+  Integer count = 0;
+  Text previous;
+  Open_Table(Cheeses_Recordset, "Cheeses");
+  for (; !Cheeses_Recordset.Eof(); Cheeses_Recordset.MoveNext()) {
+    Read_Cheeses_Record();
+    if (Cheeses.Cheese_Country == previous) continue;
+    previous = Cheeses.Cheese_Country;
+    Cheese_Countries[++count] = previous;
+  }
+  Cheese_Countries_Count = count;
+  Close_Table(Cheeses_Recordset);
+}
+
+void Load_Wine_System() {
+  Open_Table(Wine_System_Recordset, "Wine_System");
+  Read_Wine_System_Record();
+  Close_Table(Wine_System_Recordset);
+}
+
+void Read_Winery_By_ID(Integer key) {
+  Open_Table(Wineries_Recordset, "Wineries");
+  Wineries_Recordset.Index("Winery_ID");
+  Wineries_Recordset.Seek("=", key);
+  Read_Wineries_Record();
+  Close_Table(Wineries_Recordset);
+}
+
+Text Country_Short_Name(std::string_view long_name) {
+  return Country_By("Long_Name", long_name, "Short_Name");
+}
+
+Text Country_Long_Name(std::string_view short_name) {
+  return Country_By("Short_Name", short_name, "Long_Name");
+}
+
+Integer Color_Index(std::string_view color) {
+  constexpr std::array<std::string_view, 5> colors{"Red", "White", "Rosé", "Sparkling",
+                                                   "Fortified"};
+  for (Integer index = 0; index < 5; ++index) {
+    if (colors[static_cast<std::size_t>(index)] == color) return index;
+  }
+  return 0;
+}
+
+Text Replace_Key(std::string_view foreign) {
+  Text english = " ";
+  Open_Table(ReplaceKeys_Recordset, "ReplaceKeys");
+  for (; !ReplaceKeys_Recordset.Eof(); ReplaceKeys_Recordset.MoveNext()) {
+    if (ReplaceKeys_Recordset.Fields("Foreign_Key").As_Text() != foreign) continue;
+    english = ReplaceKeys_Recordset.Fields("English_Key").As_Text();
+    break;
+  }
+  Close_Table(ReplaceKeys_Recordset);
+  return english;
+}
+
+Text Wine_Type_Word(std::string_view code) {
+  for (int type = 2; type <= 3; ++type) {
+    if (code == wine_type_codes[static_cast<std::size_t>(type) - 1]) return Mobile_Type_Words[type];
+  }
+  return Mobile_Type_Words[1];
+}
+
+Text Wine_Type_Code(std::string_view word) {
+  const int type = Place_Of(word, Mobile_Type_Words, Mobile_Type_Words.Bound());
+  return wine_type_codes[static_cast<std::size_t>(type == 0 ? 1 : type) - 1];
+}
+
+bool Valid_E_Mail(const Text& address) {
+  Long at = In_Str(1, address, "@");
+  if (at == 0) at = In_Str(1, address, "%40");
+  if (at == 0) return false;
+  const Long dot = In_Str(at, address, ".");
+  return dot > at && dot < Len(address);
+}
+
+Integer Other_Language() { return System_Language == 3 ? 4 : 3; }
+
+void Open_Query(Record_Store::Recordset& query, std::string_view statement) {
+  if (!Wine_Cellar_DB) Fail(Failure::Object_Variable_Not_Set);
+  query = Wine_Cellar_DB->OpenRecordset(statement);
+}
+
+void Open_Regions_Of_Country(std::string_view country) {
+  Open_Table(Regions_Recordset, "Regions");
+  Open_Query(Regions_Query, "SELECT * FROM Regions WHERE Country='" + Text(country) +
+                                "'  ORDER BY  Country ASC,  Region_Name ASC");
+}
+
+void Open_World_Contries_Sorted() {
+  constexpr std::array columns{"Long_Name", "Spanish_Name", "French",    "German",
+                               "Italian",   "Japanese",     "Portuguese"};
+  Text statement = "SELECT * FROM World_Contries";
+  if (System_Language >= 3 && System_Language <= 9) {
+    statement += " ORDER BY ";
+    statement += columns[static_cast<std::size_t>(System_Language) - 3];
+    statement += " ASC";
+  }
+  Open_Table(World_Contries_Recordset, "World_Contries");
+  Open_Query(World_Contries_Query, statement);
+}
+
+void Open_States_Of_Contry(std::string_view country) {
+  Open_Table(State_of_Contries_Recordset, "State_of_Contries");
+  Open_Query(State_of_Contries_Query, "SELECT * FROM State_of_Contries WHERE Contry='" +
+                                          Text(country) + "'  ORDER BY Long_Name ASC");
+}
+
+void Open_Labels_Of_Region(Long region_id) {
+  Open_Table(Labels_Recordset, "Labels");
+  Open_Query(Labels_Query, "SELECT * FROM Labels WHERE Region_ID=" + To_Text(region_id) +
+                               "  ORDER BY Label_Name ASC");
+}

@@ -1,0 +1,100 @@
+// The lists that are filled once at start-up, the conversions between a name and a short name, the
+// ordered queries, and small routines that every screen shares.
+#pragma once
+
+#include <string_view>
+
+#include "platform/record_store/Record_Store.h"
+#include "platform/run_time/Bounded_Array.h"
+#include "platform/run_time/Values.h"
+
+// ---- lists, filled from entry 1; a further entry than the bound is failure 9 ----
+
+/// A country as the lists keep it. Life of the lists: from start-up to the end of the process.
+struct Country_Entry {
+  Text Long_Name;
+  Text Language;
+  Integer Language_Number = 0;
+  Text Short_Name;
+  Integer Zip_Code_Length = 0;
+  Text Zip_Type;
+};
+
+inline Bounded_Array<Text, 14> Bottle_Sizes;
+/// The colours of wine in the language in force; the data holds their English words.
+inline Bounded_Array<Text, 5> Color_Names;
+/// Ten by count; the tenth is empty until the words of the language are read.
+inline Bounded_Array<Text, 10> Cheese_Types;
+inline Integer Cheese_Types_Count = 0;
+inline Bounded_Array<Text, 6> Milk_Types;
+inline Integer Milk_Types_Count = 0;
+/// In the order of `Long_Name`.
+inline Bounded_Array<Country_Entry, 200> Countries;
+inline Integer Countries_Count = 0;
+/// The distinct countries of the general wine list, in the order of their first wine.
+inline Bounded_Array<Text, 200> Mobile_Countries;
+inline Integer Mobile_Countries_Count = 0;
+/// The country of each run of neighbouring cheeses.
+inline Bounded_Array<Text, 200> Cheese_Countries;
+inline Integer Cheese_Countries_Count = 0;
+/// The words of the language for the wine types "VA", "LE" and "AP".
+inline Bounded_Array<Text, 3> Mobile_Type_Words;
+
+void Load_Bottle_Sizes();
+void Load_Cheese_Types();
+void Load_Milk_Types();
+void Load_Countries();
+/// Leaves `Mobile_Wines` open.
+void Load_Mobile_Countries();
+void Load_Cheese_Countries();
+/// Reads the one row of `Wine_System` into its memory record.
+void Load_Wine_System();
+
+// ---- start-up ----
+
+/// Opens the data file and fills everything that lives for the whole run. Leaves `Words` open.
+void Open_Databases();
+/// The path of the shared reference file by what the `Wine_System` memory record says at this
+/// moment.
+void Set_Database_Paths();
+/// Everything that precedes the main window's words: paths, data file, lists, cellar menu, first
+/// run.
+void Start_System();
+/// Brings the main window's menu into line with `Cellars`, and makes the first cellar the current
+/// one. Leaves `Cellars` open where no cellars are named.
+void Set_Cellar_Menu();
+/// The menu of a user who has named cellars: entries shown and captioned. `first` and `second` are
+/// the cellars' names; what speaks of the current cellar takes `Current_Cellar_Name`.
+void Show_Named_Cellars(std::string_view first, std::string_view second);
+
+// ---- look-ups; a key or name without a row is failure 3021, raised by the read ----
+
+void Read_Winery_By_ID(Integer key);
+Text Country_Short_Name(std::string_view long_name);
+Text Country_Long_Name(std::string_view short_name);
+/// 0 to 4 for "Red", "White", "Rosé", "Sparkling", "Fortified", exactly so written; 0 for any
+/// other.
+Integer Color_Index(std::string_view color);
+/// The English word for a foreign one; one blank for a word that `ReplaceKeys` does not hold.
+Text Replace_Key(std::string_view foreign);
+/// The program's folder less its last part; "" where the path has no parts.
+Text Parent_Folder();
+/// "VA", "LE" or "AP" to the language's word and back; any other code or text is taken for "VA".
+Text Wine_Type_Word(std::string_view code);
+Text Wine_Type_Code(std::string_view word);
+/// Whether a "." stands behind the "@" (or "%40") with at least one character after it.
+bool Valid_E_Mail(const Text& address);
+/// The language in which a pairing's second name is kept: English, or Spanish under English.
+Integer Other_Language();
+
+/// Replaces what `query` holds by the rows of `statement`, in its order. 3075 where the statement
+/// is broken, for instance by a quote in a value.
+void Open_Query(Record_Store::Recordset& query, std::string_view statement);
+
+// ---- ordered queries: each opens the table and, beside it, the query; the caller closes both ----
+
+void Open_Regions_Of_Country(std::string_view country);
+/// By the name in the language in force; in storage order for a number that is no language's.
+void Open_World_Contries_Sorted();
+void Open_States_Of_Contry(std::string_view country);
+void Open_Labels_Of_Region(Long region_id);

@@ -1,0 +1,39 @@
+// What every screen shares of start-up: the operation under way, the cellar, the language, the
+// file.
+#pragma once
+
+#include "platform/run_time/Values.h"
+
+/// The operation under way, set by the menu entry that begins it; keeps its value after a screen
+/// closes.
+inline Text Current_Command;
+
+/// `ID` of the current row of `Cellars`; new wines take it. Set at start-up and by the menu.
+inline Integer Current_Cellar_ID = 0;
+
+/// `Cellar_Name` of the current cellar, "x" while no cellars are named.
+inline Text Current_Cellar_Name;
+
+/// The language number in force: 3 English, 4 Spanish, 5 French, 6 German, 7 Italian, 8 Japanese,
+/// 9 Portuguese. Set at start-up.
+inline Integer System_Language = 0;
+
+/// Carriage return and line feed, joined into messages. Set at start-up.
+inline Text New_Line;
+
+/// True from the start until the first set-up has loaded.
+inline bool First_Run = false;
+
+/// Set by the catalogue screens when a region or a label changed; cleared when the main window
+/// comes to the front.
+inline bool Region_Or_Label_Changed = false;
+
+/// A text handed from a list screen to the screen that called it.
+inline Text Selected_Text;
+
+/// While True the events of the entry fields do nothing: code is setting their values.
+inline bool Ignore_Events = false;
+
+/// The data file, and the shared reference file that is named but never opened. Set at start-up.
+inline Text Wine_Cellar_DB_Path;
+inline Text Shared_DB_Path;

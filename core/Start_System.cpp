@@ -1,0 +1,71 @@
+// Start-up: from the program's folder to the open data file and the filled lists.
+#include "core/Gereral_Processes.h"
+#include "core/Globals.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "platform/forms/Application.h"
+#include "platform/forms/Picture.h"
+#include "platform/forms/Screens.h"
+#include "platform/run_time/Guard.h"
+
+using Forms::App_Path;
+using Forms::Screen;
+
+Text Parent_Folder() {
+  const Text path = App_Path();
+  const auto last = path.rfind('/');
+  return last == Text::npos ? Text() : path.substr(0, last);
+}
+
+// The settings are not read yet at this point of the start, so the own folder is what it comes to.
+void Set_Database_Paths() {
+  const Text folder = Wine_System.Wine_Cellar_as_Option ? Parent_Folder() : App_Path();
+  Shared_DB_Path = folder + "/dbase/Marlune2003.mdb";
+}
+
+namespace {
+
+void Fit_Window_To_Language() {
+  Open_Table(Languages_Available_Recordset, "Languages_Available");
+  Languages_Available_Recordset.Index("Language_Number");
+  Languages_Available_Recordset.Seek("=", System_Language);
+  Read_Languages_Available_Record();
+  Screen("Wine_Cellar_Form").Instance().Set_Width(Languages_Available.Width_Main);
+  Screen("Wine_Cellar_Form")
+      .Get<Forms::Picture>("Corvale_Logo")
+      .Set_Width(Languages_Available.Width_Main);
+  Close_Table(Languages_Available_Recordset);
+}
+
+}  // namespace
+
+void Open_Databases() {
+  Open_Wine_Cellar_DB();
+  Hooks().commit = [] { Wine_Cellar_DB->Commit(); };
+  Load_Countries();
+  Open_Table(Words_Recordset, "Words");
+  Load_Wine_System();
+  System_Language = Wine_System.System_Language_Number;
+  Fit_Window_To_Language();
+  Load_Bottle_Sizes();
+  Load_Cheese_Types();
+  Load_Milk_Types();
+  Load_Mobile_Countries();
+  Load_Cheese_Countries();
+  New_Line = "\r\n";
+  Selected_Text = "";
+}
+
+void Start_System() {
+  Wine_Cellar_DB_Path = App_Path() + "/dbase/Wine_Cellar.mdb";
+  Set_Database_Paths();
+  Open_Databases();
+  Set_Cellar_Menu();
+  First_Run = true;
+  const bool not_set_up = Wine_System.Wine_Cellar_as_Option && !Wine_System.System_Initialized;
+  if (not_set_up && Screen("Initialize_Form").Exists()) {
+    Screen("Wine_Cellar_Form").Hide();
+    Screen("Initialize_Form").Open();
+  }
+}

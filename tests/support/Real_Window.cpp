@@ -1,0 +1,121 @@
+#include "tests/support/Real_Window.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QThread>
+#include <functional>
+#include <stdexcept>
+
+namespace Real_Window {
+
+namespace {
+
+constexpr int patience = 10'000;  // milliseconds
+constexpr int pause = 20;
+
+// Another process is asked again and again: it cannot tell when it is ready.
+bool Comes_True(const std::function<bool()>& condition) {
+  const QDeadlineTimer deadline(patience);
+  while (!condition()) {
+    if (deadline.hasExpired()) return false;
+    QThread::msleep(pause);
+  }
+  return true;
+}
+
+}  // namespace
+
+Display::Display() {
+  server_.setProcessChannelMode(QProcess::SeparateChannels);
+  server_.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x720x24", "-nolisten", "tcp"});
+  QByteArray number;
+  while (!number.contains('\n')) {
+    if (!server_.waitForReadyRead(patience)) throw std::runtime_error("Xvfb does not start");
+    number += server_.readAllStandardOutput();
+  }
+  name_ = ":" + QString::fromLatin1(number).trimmed();
+}
+
+Display::~Display() {
+  server_.terminate();
+  server_.waitForFinished(patience);
+}
+
+QString Display::Run(const QString& command, const QStringList& arguments) const {
+  QProcess process;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("DISPLAY", name_);
+  process.setProcessEnvironment(environment);
+  process.start(command, arguments);
+  process.waitForFinished(patience);
+  return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+Program::Program(const Display& display) : display_(display) {
+  const QDir delivered(DELIVERED_FOLDER);
+  const QDir folder(folder_.path());
+  folder.mkpath("dbase");
+  folder.mkpath("photos");
+  const bool copied =
+      QFile::copy(delivered.filePath("wine_cellar"), folder.filePath("wine_cellar")) &&
+      QFile::copy(delivered.filePath("dbase/Wine_Cellar.mdb"),
+                  folder.filePath("dbase/Wine_Cellar.mdb"));
+  if (!copied) throw std::runtime_error("no delivered program to copy in " DELIVERED_FOLDER);
+}
+
+Program::~Program() { Kill(); }
+
+void Program::Start() {
+  process_ = std::make_unique<QProcess>();
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("DISPLAY", display_.Name());
+  environment.insert("QT_QPA_PLATFORM", "xcb");
+  environment.remove("WAYLAND_DISPLAY");
+  process_->setProcessEnvironment(environment);
+  process_->setProcessChannelMode(QProcess::ForwardedChannels);
+  process_->start(QDir(folder_.path()).filePath("wine_cellar"), QStringList());
+  if (!process_->waitForStarted(patience)) throw std::runtime_error("the program does not start");
+}
+
+void Program::Kill() {
+  if (!process_) return;
+  process_->kill();
+  process_->waitForFinished(patience);
+}
+
+int Program::Wait_For_End() {
+  if (!process_->waitForFinished(patience)) return -1;
+  return process_->exitStatus() == QProcess::NormalExit ? process_->exitCode() : -1;
+}
+
+bool Program::Is_Running() const { return process_ && process_->state() == QProcess::Running; }
+
+bool Program::Sees_Window(const QString& title) const {
+  const QString exactly = "^" + QRegularExpression::escape(title) + "$";
+  return Comes_True([&] {
+    return !display_.Run("xdotool", {"search", "--onlyvisible", "--name", exactly}).isEmpty();
+  });
+}
+
+bool Program::Window_Has_Gone(const QString& title) const {
+  const QString exactly = "^" + QRegularExpression::escape(title) + "$";
+  return Comes_True([&] {
+    return display_.Run("xdotool", {"search", "--onlyvisible", "--name", exactly}).isEmpty();
+  });
+}
+
+void Program::Press(const QStringList& keys) const {
+  display_.Run("xdotool", QStringList{"key", "--delay", "30"} + keys);
+}
+
+void Program::Type(const QString& text) const {
+  display_.Run("xdotool", {"type", "--delay", "15", text});
+}
+
+void Program::Take_Picture(const QString& file) const {
+  display_.Run("import", {"-window", "root", file});
+}
+
+}  // namespace Real_Window

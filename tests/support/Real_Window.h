@@ -1,0 +1,58 @@
+// The built program in a real window: a display of its own, the program on a copy of its folder,
+// and a user's keys and mouse from outside.
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <QTemporaryDir>
+#include <memory>
+#include <string>
+
+namespace Real_Window {
+
+/// An X display that nobody sees, for as long as the object lives.
+class Display {
+ public:
+  Display();
+  ~Display();
+  QString Name() const { return name_; }
+  /// Runs a command on this display and returns what it printed, without the last line break.
+  QString Run(const QString& command, const QStringList& arguments) const;
+
+ private:
+  QProcess server_;
+  QString name_;
+};
+
+/// The program, started in a folder of its own with a copy of the delivered data file.
+class Program {
+ public:
+  explicit Program(const Display& display);
+  ~Program();
+
+  void Start();
+  /// Ends it at once, as nothing else does.
+  void Kill();
+  /// Waits for its own end; the exit status, or -1 after ten seconds.
+  int Wait_For_End();
+  bool Is_Running() const;
+
+  std::string Folder() const { return folder_.path().toStdString(); }
+  std::string Data_File() const { return Folder() + "/dbase/Wine_Cellar.mdb"; }
+
+  /// Waits until a window with exactly this title is shown; False after ten seconds.
+  bool Sees_Window(const QString& title) const;
+  /// Waits until no window has this title.
+  bool Window_Has_Gone(const QString& title) const;
+  /// Presses keys one after the other, by their X names: "alt+m", "Down", "Return".
+  void Press(const QStringList& keys) const;
+  void Type(const QString& text) const;
+  void Take_Picture(const QString& file) const;
+
+ private:
+  const Display& display_;
+  QTemporaryDir folder_;
+  std::unique_ptr<QProcess> process_;
+};
+
+}  // namespace Real_Window

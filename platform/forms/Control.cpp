@@ -67,6 +67,8 @@ void Placed_Control::Show_Enabled() { widget_->setEnabled(Enabled()); }
 
 void Placed_Control::Show_Visible() { widget_->setVisible(placed_ && Visible()); }
 
+void Placed_Control::Set_Width(int pixels) { widget_->setFixedWidth(pixels); }
+
 void Placed_Control::SetFocus() { Focus_Watch::The().Set_Focus(*this); }
 
 void Placed_Control::Set_BackColor(Color color) {

@@ -76,6 +76,9 @@ class Placed_Control : public Control {
   Color ForeColor() const { return fore_color_; }
   void Set_ForeColor(Color color);
 
+  /// The width of its place, in pixels of an unscaled desktop; without one the layout decides.
+  void Set_Width(int pixels);
+
   /// Gives the control the focus; raises the LostFocus of the text box that had it, unless called
   /// inside a LostFocus. On a form that is not in front the focus waits for it.
   void SetFocus();

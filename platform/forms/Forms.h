@@ -10,6 +10,7 @@
 #include "platform/forms/Layout.h"
 #include "platform/forms/Menu.h"
 #include "platform/forms/Message_Box.h"
+#include "platform/forms/Picture.h"
 #include "platform/forms/Screens.h"
 #include "platform/forms/Text_Box.h"
 // IWYU pragma: end_exports

@@ -1,0 +1,314 @@
+#include "tests/support/Drive.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTreeView>
+#include <QWheelEvent>
+#include <QWindow>
+#include <stdexcept>
+
+#include "platform/run_time/Guard.h"
+
+namespace {
+
+QString To_Qt(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString Without_Mnemonic(QString text) {
+  return text.replace("&&", QChar(1)).remove('&').replace(QChar(1), "&");
+}
+
+bool Is_In(const QWidget* widget, const QString& form) {
+  return form.isEmpty() || widget->window()->objectName() == form;
+}
+
+QWidget* Search(std::string_view name) {
+  const QStringList parts = To_Qt(name).split('/');
+  const QString form = parts.size() > 1 ? parts.front() : QString();
+  QWidget* hidden = nullptr;
+  for (QWidget* widget : QApplication::allWidgets()) {
+    if (widget->objectName() != parts.back() || !Is_In(widget, form)) continue;
+    if (widget->isVisible()) return widget;
+    hidden = widget;
+  }
+  return hidden;
+}
+
+QAction* Search_Action(std::string_view name) {
+  QAction* hidden = nullptr;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    for (QAction* action : window->findChildren<QAction*>(To_Qt(name))) {
+      if (window->isVisible()) return action;
+      hidden = action;
+    }
+  }
+  return hidden;
+}
+
+[[noreturn]] void No_Such(std::string_view name) {
+  ADD_FAILURE() << "there is nothing named " << name;
+  throw std::runtime_error("no control " + std::string(name));
+}
+
+QAction& Find_Action(std::string_view name) {
+  QAction* action = Search_Action(name);
+  if (action == nullptr) No_Such(name);
+  return *action;
+}
+
+// Through the window, as from the desktop: what is disabled, covered or waiting gets nothing.
+void Click_At(QWidget& widget, QPoint place, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+  QWidget* window = widget.window();
+  QTest::mouseClick(window->windowHandle(), Qt::LeftButton, keys, widget.mapTo(window, place));
+  Settle_Events();
+}
+
+QAbstractItemView& Find_List(std::string_view name) {
+  auto* view = dynamic_cast<QAbstractItemView*>(&Find(name));
+  if (view == nullptr) No_Such(name);
+  return *view;
+}
+
+QRect Row_Place(QAbstractItemView& view, int row) {
+  const QModelIndex index = view.model()->index(row, 0);
+  view.scrollTo(index);
+  return view.visualRect(index);
+}
+
+// The menus that lead to an action, outermost first.
+std::vector<QAction*> Way_To(QAction* action) {
+  std::vector<QAction*> way{action};
+  for (QObject* above = action->parent(); above != nullptr;) {
+    auto* menu = qobject_cast<QMenu*>(above);
+    if (menu == nullptr) break;
+    if (menu->menuAction() != way.front()) way.insert(way.begin(), menu->menuAction());
+    above = menu->parent();
+  }
+  return way;
+}
+
+QWidget* Bar_Or_Menu_Of(const QAction* action) {
+  for (QObject* object : action->associatedObjects()) {
+    auto* widget = qobject_cast<QWidget*>(object);
+    if (qobject_cast<QMenu*>(widget) != nullptr || qobject_cast<QMenuBar*>(widget) != nullptr) {
+      return widget;
+    }
+  }
+  return nullptr;
+}
+
+QRect Place_Of(const QWidget* bar_or_menu, QAction* action) {
+  if (const auto* menu = qobject_cast<const QMenu*>(bar_or_menu))
+    return menu->actionGeometry(action);
+  return qobject_cast<const QMenuBar*>(bar_or_menu)->actionGeometry(action);
+}
+
+}  // namespace
+
+QWidget& Find(std::string_view name) {
+  QWidget* widget = Search(name);
+  if (widget == nullptr) No_Such(name);
+  return *widget;
+}
+
+bool Is_There(std::string_view name) {
+  return Search(name) != nullptr || Search_Action(name) != nullptr;
+}
+
+bool Is_Seen(std::string_view name) {
+  if (const QAction* action = Search_Action(name)) return action->isVisible();
+  const QWidget* widget = Search(name);
+  return widget != nullptr && widget->isVisible();
+}
+
+bool Is_Usable(std::string_view name) {
+  if (const QAction* action = Search_Action(name))
+    return action->isVisible() && action->isEnabled();
+  const QWidget* widget = Search(name);
+  return widget != nullptr && widget->isVisible() && widget->isEnabled();
+}
+
+std::string Shown_Text(std::string_view name) {
+  if (const QAction* action = Search_Action(name)) {
+    return Without_Mnemonic(action->text()).toStdString();
+  }
+  QWidget& widget = Find(name);
+  if (const auto* combo = qobject_cast<QComboBox*>(&widget)) {
+    return combo->currentText().toStdString();
+  }
+  if (const auto* sheet = qobject_cast<QPlainTextEdit*>(&widget)) {
+    return sheet->toPlainText().toStdString();
+  }
+  if (const auto* line = qobject_cast<QLineEdit*>(&widget)) return line->text().toStdString();
+  if (widget.isWindow()) return widget.windowTitle().toStdString();
+  if (const auto* label = qobject_cast<QLabel*>(&widget)) {
+    return (label->buddy() != nullptr ? Without_Mnemonic(label->text()) : label->text())
+        .toStdString();
+  }
+  const QVariant text = widget.property("text");
+  return Without_Mnemonic(text.isValid() ? text.toString() : widget.property("title").toString())
+      .toStdString();
+}
+
+std::vector<std::string> Shown_Rows(std::string_view name) {
+  QWidget& widget = Find(name);
+  const auto* combo = qobject_cast<QComboBox*>(&widget);
+  const QAbstractItemModel* model = combo != nullptr ? combo->model() : Find_List(name).model();
+  std::vector<std::string> rows;
+  for (int row = 0; row < model->rowCount(); ++row) {
+    QStringList cells;
+    for (int column = 0; column < model->columnCount(); ++column) {
+      cells.append(model->index(row, column).data().toString());
+    }
+    rows.push_back(cells.join(" | ").toStdString());
+  }
+  return rows;
+}
+
+void Click(std::string_view name) {
+  QWidget& widget = Find(name);
+  Click_At(widget, widget.rect().center());
+}
+
+void Double_Click(std::string_view name) {
+  QWidget& widget = Find(name);
+  QWidget* window = widget.window();
+  QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, {},
+                     widget.mapTo(window, widget.rect().center()));
+  Settle_Events();
+}
+
+void Click_Row(std::string_view name, int row, bool with_ctrl) {
+  QAbstractItemView& view = Find_List(name);
+  const QRect place = Row_Place(view, row);
+  Click_At(*view.viewport(), QPoint(place.right() - qMin(8, place.width() / 2), place.center().y()),
+           with_ctrl ? Qt::ControlModifier : Qt::NoModifier);
+}
+
+void Click_Tick(std::string_view name, int row) {
+  QAbstractItemView& view = Find_List(name);
+  const QRect place = Row_Place(view, row);
+  Click_At(*view.viewport(), QPoint(place.left() + place.height() / 2, place.center().y()));
+}
+
+void Click_Header(std::string_view name, int column) {
+  auto* header = Find(name).findChild<QHeaderView*>();
+  if (header == nullptr) No_Such(name);
+  Click_At(*header->viewport(),
+           QPoint(header->sectionViewportPosition(column) + header->sectionSize(column) / 2,
+                  header->height() / 2));
+}
+
+void Choose(std::string_view name, std::string_view entry) {
+  auto* combo = dynamic_cast<QComboBox*>(&Find(name));
+  if (combo == nullptr || combo->findText(To_Qt(entry)) < 0) No_Such(entry);
+  Click(name);
+  QAbstractItemView& list = *combo->view();
+  if (!Wait_Until([&] { return list.isVisible(); })) No_Such(entry);
+  // The list takes no click that belongs to the one that opened it.
+  QTest::qWait(QApplication::doubleClickInterval());
+  const QRect place = Row_Place(list, combo->findText(To_Qt(entry)));
+  Click_At(*list.viewport(), place.center());
+}
+
+void Type_Into(std::string_view name, std::string_view text) {
+  Click(name);
+  Press("Ctrl+A");
+  Press("Delete");
+  Type(text);
+}
+
+void Type(std::string_view text) {
+  for (const QChar letter : To_Qt(text)) {
+    QWindow* window = QApplication::focusWindow();
+    if (window == nullptr) return;
+    QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+  }
+  Settle_Events();
+}
+
+void Press(std::string_view key) {
+  const QKeyCombination keys = QKeySequence(To_Qt(key))[0];
+  QWindow* window = QApplication::focusWindow();
+  if (QWidget* popup = QApplication::activePopupWidget()) window = popup->windowHandle();
+  if (window == nullptr) return;
+  QTest::keyClick(window, keys.key(), keys.keyboardModifiers());
+  Settle_Events();
+}
+
+void Pick(std::string_view entry) {
+  for (QAction* action : Way_To(&Find_Action(entry))) {
+    QWidget* place = Bar_Or_Menu_Of(action);
+    if (place == nullptr || !Wait_Until([place] { return place->isVisible(); })) No_Such(entry);
+    Click_At(*place, Place_Of(place, action).center());
+  }
+}
+
+void Close_Window(std::string_view form) {
+  Find(form).close();
+  Settle_Events();
+}
+
+std::string Focused() {
+  for (const QWidget* widget = QApplication::focusWidget(); widget != nullptr;
+       widget = widget->parentWidget()) {
+    if (!widget->objectName().isEmpty()) return widget->objectName().toStdString();
+  }
+  return {};
+}
+
+void Turn_Wheel(std::string_view name) {
+  QWidget& widget = Find(name);
+  const QPointF place = widget.rect().center();
+  QWheelEvent turn(place, widget.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                   Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&widget, &turn);
+  Settle_Events();
+}
+
+bool Wait_Until(const std::function<bool()>& condition) { return QTest::qWaitFor(condition, 5000); }
+
+void Settle_Events() {
+  QCoreApplication::processEvents();
+  QCoreApplication::processEvents();
+}
+
+Box_Script::Box_Script(std::vector<bool> answers) : answers_(std::move(answers)) {
+  Forms::Watch_Boxes_For_Tests([this](const Forms::Box& box) -> std::optional<bool> {
+    boxes_.push_back(box);
+    if (answers_.empty()) return true;
+    const bool answer = answers_.front();
+    answers_.erase(answers_.begin());
+    return answer;
+  });
+}
+
+Box_Script::~Box_Script() { Forms::Watch_Boxes_For_Tests({}); }
+
+std::vector<std::string> Box_Script::Texts() const {
+  std::vector<std::string> texts;
+  for (const Forms::Box& box : boxes_) texts.push_back(box.text);
+  return texts;
+}
+
+End_Watch::End_Watch() {
+  Hooks().end_process = [this](int status) { status_ = status; };
+}
+
+End_Watch::~End_Watch() {
+  Hooks().end_process = {};
+  Reset_After_End_For_Tests();
+}

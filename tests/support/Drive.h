@@ -1,0 +1,87 @@
+// Drives the running windows as a user does: real mouse and key events on real controls, which are
+// found by their names. For the tests of every screen.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/forms/Message_Box.h"
+
+class QWidget;
+
+/// The widget of this name: a form, or a control. "Form/Control" where two forms have one of the
+/// name; otherwise one that can be seen is preferred. Fails the test, and throws, if there is none.
+QWidget& Find(std::string_view name);
+bool Is_There(std::string_view name);
+
+/// Whether the user can see it, and could use it. For menu entries too.
+bool Is_Seen(std::string_view name);
+bool Is_Usable(std::string_view name);
+/// What it shows: a text, the entry of a combo box, a caption (without mnemonic), a window's title.
+std::string Shown_Text(std::string_view name);
+/// The same of a list, a line for each row; the cells of a row are parted by " | ".
+std::vector<std::string> Shown_Rows(std::string_view name);
+
+/// Clicks in the middle, with the left button; `Double_Click` twice.
+void Click(std::string_view name);
+void Double_Click(std::string_view name);
+/// Clicks on the row of a list, from 0, the tick box of a check list, or the header of a column.
+void Click_Row(std::string_view name, int row, bool with_ctrl = false);
+void Click_Tick(std::string_view name, int row);
+void Click_Header(std::string_view name, int column);
+/// Chooses the entry of a combo box by mouse: opens the list and clicks the line.
+void Choose(std::string_view name, std::string_view entry);
+/// Clicks into the field, empties it and types.
+void Type_Into(std::string_view name, std::string_view text);
+/// Types into whatever has the focus.
+void Type(std::string_view text);
+/// Presses a key, named as in "Tab", "Shift+Tab", "Return", "Esc", "Alt+S", "Ctrl+C".
+void Press(std::string_view key);
+/// Chooses a menu entry with the mouse: opens the menus on the way to it.
+void Pick(std::string_view entry);
+/// Closes a form by its frame.
+void Close_Window(std::string_view form);
+/// The name of the control that has the focus; "" if none.
+std::string Focused();
+/// The wheel over a control, one notch down.
+void Turn_Wheel(std::string_view name);
+
+/// Lets events happen until `condition` holds; False after five seconds.
+bool Wait_Until(const std::function<bool()>& condition);
+/// Lets all events that are due happen.
+void Settle_Events();
+
+/// Answers the message boxes of a test and keeps what they said. A box without an answer left in
+/// the script is answered with OK or Yes.
+class Box_Script {
+ public:
+  explicit Box_Script(std::vector<bool> answers = {});
+  ~Box_Script();
+  Box_Script(const Box_Script&) = delete;
+  Box_Script& operator=(const Box_Script&) = delete;
+
+  const std::vector<Forms::Box>& Boxes() const { return boxes_; }
+  std::vector<std::string> Texts() const;
+  void Forget() { boxes_.clear(); }
+
+ private:
+  std::vector<bool> answers_;
+  std::vector<Forms::Box> boxes_;
+};
+
+/// Keeps the process alive where the program would end it, and tells the status it ended with.
+class End_Watch {
+ public:
+  End_Watch();
+  ~End_Watch();  ///< handlers run again
+  End_Watch(const End_Watch&) = delete;
+  End_Watch& operator=(const End_Watch&) = delete;
+
+  bool Ended() const { return status_ >= 0; }
+  int Status() const { return status_; }
+
+ private:
+  int status_ = -1;
+};

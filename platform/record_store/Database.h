@@ -58,7 +58,7 @@ std::unique_ptr<Database> OpenDatabase(const std::string& path, bool exclusive, 
                                        std::string_view connect);
 
 /// Makes a new data file with these tables, all of them empty, and opens it exclusively for being
-/// filled: here a new row's counter may be assigned. 3022 where a file of this name exists, 3031
+/// filled: here a new row's counter may be assigned. 3219 where a file of this name exists, 3031
 /// without a password. The tables are durable from the next Commit on.
 std::unique_ptr<Database> Create_Database(const std::string& path, std::string_view connect,
                                           std::span<const Table_Schema> tables);

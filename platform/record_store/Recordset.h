@@ -21,7 +21,7 @@ class Key {
   Key(Integer value) : value_(static_cast<std::int64_t>(value)) {}
   Key(std::int64_t value) : value_(value) {}
   Key(double value) : value_(value) {}
-  Key(Single value) : value_(static_cast<double>(value)) {}
+  Key(Single value) : value_(value) {}
   Key(bool value) : value_(value) {}
   Key(Currency value) : value_(value) {}
   Key(Date value) : value_(value) {}
@@ -29,7 +29,7 @@ class Key {
   Key(const char* value) : value_(std::string_view(value)) {}
   Key(const Text& value) : value_(std::string_view(value)) {}
 
-  using Value = std::variant<std::int64_t, double, bool, Currency, Date, std::string_view>;
+  using Value = std::variant<std::int64_t, double, Single, bool, Currency, Date, std::string_view>;
   const Value& Get() const { return value_; }
 
  private:

@@ -16,6 +16,4 @@ int Compare_Texts(std::string_view a, std::string_view b);
 int Compare_Keys(std::string_view a, std::string_view b);
 
 /// Equal without regard to case: "ROSÉ" and "Rosé" are, "ROSE" is another text.
-inline bool Same_Text(std::string_view a, std::string_view b) {
-  return Compare_Keys(a, b) == 0;
-}
+inline bool Same_Text(std::string_view a, std::string_view b) { return Compare_Keys(a, b) == 0; }

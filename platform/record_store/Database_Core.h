@@ -1,0 +1,83 @@
+// What stands behind an open database: the connection, its bursts, the tables and the cursors.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/record_store/Engine.h"
+#include "platform/record_store/Query_Cursor.h"
+#include "platform/record_store/Table.h"
+#include "platform/record_store/Table_Cursor.h"
+
+namespace Record_Store {
+
+class Database_Core {
+ public:
+  /// `building`: the file is new and is being filled.
+  Database_Core(std::unique_ptr<Engine> engine, bool building);
+  ~Database_Core();
+  Database_Core(const Database_Core&) = delete;
+  Database_Core& operator=(const Database_Core&) = delete;
+
+  const Engine& Store() const { return *engine_; }
+  bool Building() const { return building_; }
+
+  // ---- bursts: the engine's transactions ----
+
+  /// Reading goes on in the burst that runs, or begins one.
+  void Begin_Read() {
+    if (burst_kind_ == Burst_Kind::None || !engine_->In_Burst()) Begin("BEGIN", Burst_Kind::Read);
+  }
+  /// Takes the file for writing, and makes the cursors on this table ready for its change.
+  void Begin_Write(Table& table);
+  /// The first burst of a new file, in which its tables are made.
+  void Begin_Building() { Begin("BEGIN IMMEDIATE", Burst_Kind::Write); }
+  void Commit();
+  /// A number for the burst that runs, another one for each.
+  std::uint64_t Burst() const { return burst_; }
+
+  // ---- tables ----
+
+  Table* Find_Table(std::string_view name);  ///< nullptr where there is none
+  std::vector<std::string> Table_Names();
+
+  // ---- cursors ----
+
+  Cursor& Open(std::string_view table_or_statement);
+  void Put_Away(Cursor& cursor) noexcept;
+
+ private:
+  enum class Burst_Kind { None, Read, Write };
+
+  struct Name_Hash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view name) const { return Hash_Of_Name(name); }
+  };
+  struct Name_Equal {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const { return Same_Name(a, b); }
+  };
+
+  void Begin(const char* statement, Burst_Kind kind);
+  void Detach_All();
+  Cursor& Open_Table(Table& table);
+  Cursor& Open_Query(std::string_view text);
+
+  std::unique_ptr<Engine> engine_;
+  bool building_;
+  Burst_Kind burst_kind_ = Burst_Kind::None;
+  std::uint64_t burst_ = 0;
+
+  std::unordered_map<std::string, std::unique_ptr<Table>, Name_Hash, Name_Equal> tables_;
+
+  // Cursors are kept for the next opening. An open one belongs to its recordset.
+  std::vector<Table_Cursor*> open_tables_;
+  std::vector<Query_Cursor*> open_queries_;
+  std::vector<std::unique_ptr<Table_Cursor>> free_tables_;
+  std::vector<std::unique_ptr<Query_Cursor>> free_queries_;
+};
+
+}  // namespace Record_Store

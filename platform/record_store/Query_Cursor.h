@@ -1,0 +1,25 @@
+// The cursor of a query recordset: rows taken over at the opening.
+#pragma once
+
+#include "platform/record_store/Cursor.h"
+
+namespace Record_Store {
+
+class Query_Cursor final : public Cursor {
+ public:
+  /// Runs the statement. 3075 where it is not one SELECT that can be run, 3078 for a table in it
+  /// that is not there.
+  void Open(Database_Core& database, std::string_view text);
+  void Close() override;
+
+  void Move_First() override;
+  void Move_Last() override;
+  void Move_Next() override;
+  void Move_Previous() override;
+  Long Count() override { return static_cast<Long>(row_.Rows()); }
+
+ private:
+  Record_Store::Layout fields_;
+};
+
+}  // namespace Record_Store

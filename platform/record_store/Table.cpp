@@ -1,0 +1,202 @@
+#include "platform/record_store/Table.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+
+#include "platform/record_store/Sql_Texts.h"
+
+namespace Record_Store {
+namespace {
+
+Layout Layout_Of(const Table_Schema& schema) {
+  std::vector<Column> columns;
+  for (const Field_Schema& field : schema.fields) {
+    columns.push_back({field.name, field.type, field.counter, field.copy_of_counter});
+  }
+  return Layout(std::move(columns));
+}
+
+Order Order_Of(const Table_Schema& schema, const Index_Schema& index, const Layout& layout) {
+  Order order;
+  order.name = index.name;
+  order.unique = index.unique;
+  std::vector<Sort_Column> cases;
+  for (const std::string& field : index.fields) {
+    const int ordinal = layout.Find(field);
+    order.keys.push_back(ordinal);
+    order.sort.push_back({ordinal, false});
+    if (!index.unique && layout.At(ordinal).type == Field_Type::Text) {
+      cases.push_back({ordinal, true});
+    }
+  }
+  if (Is_Counter_Index(schema, index)) {
+    order.sort.clear();
+  } else {
+    order.sort.insert(order.sort.end(), cases.begin(), cases.end());
+    order.engine_index = Engine_Index_Name(schema.name, index.name);
+  }
+  return order;
+}
+
+// A form as a number, for the table of kept statements.
+int Number_Of(const Form& form) {
+  return (form.prefix * 5 + form.range) * 2 + (form.backwards ? 1 : 0);
+}
+
+}  // namespace
+
+Table::Table(Table_Schema schema, Engine& engine)
+    : engine_(&engine), schema_(std::move(schema)), layout_(Layout_Of(schema_)) {
+  orders_.emplace_back();
+  for (const Index_Schema& index : schema_.indexes) {
+    orders_.push_back(Order_Of(schema_, index, layout_));
+  }
+  pools_.resize(orders_.size());
+  last_number_ = schema_.first_counter - 1;
+}
+
+const Order* Table::Find_Order(std::string_view index) const {
+  for (std::size_t i = 1; i < orders_.size(); ++i) {
+    if (Same_Name(orders_[i].name, index)) return &orders_[i];
+  }
+  return nullptr;
+}
+
+// ---- questions ----
+
+std::string Table::Quoted_Field(int ordinal) const { return Quoted(layout_.At(ordinal).name); }
+
+std::string Table::Question(const Order& order, const Form& form) const {
+  const auto column = [&](const Sort_Column& sort) {
+    return Quoted_Field(sort.ordinal) + (sort.by_case ? " COLLATE WINE_CASE" : "");
+  };
+  const bool counter_sought = order.sort.empty() && form.range == Form::Sought;
+
+  std::string text = "SELECT ";
+  for (int i = 0; i < layout_.Count(); ++i) text += Quoted_Field(i) + ", ";
+  text += "rowid FROM " + Quoted(schema_.name);
+  if (!order.engine_index.empty()) text += " INDEXED BY " + Quoted(order.engine_index);
+
+  std::string condition;
+  const auto add = [&](const std::string& part) {
+    condition += (condition.empty() ? " WHERE " : " AND ") + part;
+  };
+  const char* equal = form.range == Form::Sought ? "=?" : " IS ?";
+  for (int i = 0; i < form.prefix && !counter_sought; ++i) {
+    add(column(order.sort[static_cast<std::size_t>(i)]) + equal);
+  }
+  const auto next = static_cast<std::size_t>(form.prefix);
+  const std::string border = next < order.sort.size() ? column(order.sort[next]) : "rowid";
+  if (counter_sought) add("rowid=?");
+  if (form.range == Form::Beyond) add(border + (form.backwards ? "<?" : ">?"));
+  if (form.range == Form::From) add(border + ">=?");
+  if (form.range == Form::Nulls) add(border + " IS NULL");
+  text += condition;
+
+  // The columns that are given stand still. Naming them too would make the engine sort.
+  const char* direction = form.backwards ? " DESC" : "";
+  text += " ORDER BY ";
+  const std::size_t first = next + (form.range == Form::Nulls ? 1 : 0);
+  for (std::size_t i = first; i < order.sort.size(); ++i) {
+    text += column(order.sort[i]) + direction + ", ";
+  }
+  return text + "rowid" + direction;
+}
+
+Table::Pool& Table::Pool_Of(const Order& order, const Form& form) {
+  auto& pools = pools_[static_cast<std::size_t>(&order - orders_.data())];
+  Pool& pool = pools[Number_Of(form)];
+  if (pool.engine_ == nullptr) {
+    pool.engine_ = engine_;
+    pool.text_ = Question(order, form);
+  }
+  return pool;
+}
+
+Statement Table::Pool::Borrow() {
+  if (free_.empty()) return engine_->Prepare(text_);
+  Statement statement = std::move(free_.back());
+  free_.pop_back();
+  return statement;
+}
+
+// ---- statements on one row ----
+
+sqlite3_stmt* Table::Keep(Statement& place, const std::string& text) {
+  if (!place) place = engine_->Prepare(text);
+  return place.get();
+}
+
+sqlite3_stmt* Table::Row_Statement() {
+  if (row_) return row_.get();
+  std::string text = "SELECT ";
+  for (int i = 0; i < layout_.Count(); ++i) text += Quoted_Field(i) + ", ";
+  return Keep(row_, text + "rowid FROM " + Quoted(schema_.name) + " WHERE rowid=?");
+}
+
+sqlite3_stmt* Table::Insert_Statement() {
+  if (insert_) return insert_.get();
+  std::string fields = "rowid";
+  std::string places = "?";
+  for (int i = 0; i < layout_.Count(); ++i) {
+    if (i == layout_.Counter()) continue;
+    fields += ", " + Quoted_Field(i);
+    places += ", ?" + std::to_string(i + 2);
+  }
+  return Keep(insert_,
+              "INSERT INTO " + Quoted(schema_.name) + " (" + fields + ") VALUES (" + places + ")");
+}
+
+sqlite3_stmt* Table::Delete_Statement() {
+  if (delete_) return delete_.get();
+  return Keep(delete_, "DELETE FROM " + Quoted(schema_.name) + " WHERE rowid=?");
+}
+
+sqlite3_stmt* Table::Update_Statement(const std::vector<bool>& assigned) {
+  Statement& place = updates_[assigned];
+  if (place) return place.get();
+  std::string fields;
+  for (int i = 0; i < layout_.Count(); ++i) {
+    if (!assigned[static_cast<std::size_t>(i)]) continue;
+    fields += (fields.empty() ? "" : ", ") + Quoted_Field(i) + "=?";
+  }
+  return Keep(place, "UPDATE " + Quoted(schema_.name) + " SET " + fields + " WHERE rowid=?");
+}
+
+// ---- numbers of rows ----
+
+std::int64_t Table::Next_Number(std::uint64_t burst) {
+  if (numbered_in_burst_ != burst) {
+    if (!counter_) {
+      counter_ = engine_->Prepare(layout_.Counter() >= 0
+                                      ? "SELECT seq FROM sqlite_sequence WHERE name=?"
+                                      : "SELECT max(rowid) FROM " + Quoted(schema_.name));
+    }
+    if (layout_.Counter() >= 0) {
+      sqlite3_bind_text(counter_.get(), 1, schema_.name.c_str(), -1, SQLITE_STATIC);
+    }
+    if (engine_->Step(counter_.get())) Has_Seen(sqlite3_column_int64(counter_.get(), 0));
+    sqlite3_reset(counter_.get());
+    numbered_in_burst_ = burst;
+  }
+  const bool small =
+      layout_.Counter() >= 0 && layout_.At(layout_.Counter()).type == Field_Type::Integer;
+  const std::int64_t highest = small ? INT16_MAX : INT32_MAX;
+  if (layout_.Counter() >= 0 && last_number_ >= highest) Fail(Failure::Overflow);
+  return ++last_number_;
+}
+
+void Table::Has_Seen(std::int64_t number) { last_number_ = std::max(last_number_, number); }
+
+std::int64_t Table::Count(std::uint64_t burst) {
+  if (counted_in_burst_ != burst) {
+    if (!count_) count_ = engine_->Prepare("SELECT count(*) FROM " + Quoted(schema_.name));
+    counted_ = engine_->Step(count_.get()) ? sqlite3_column_int64(count_.get(), 0) : 0;
+    sqlite3_reset(count_.get());
+    counted_in_burst_ = burst;
+  }
+  return counted_;
+}
+
+}  // namespace Record_Store

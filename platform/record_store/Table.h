@@ -1,0 +1,108 @@
+// A table as the store works on it: its orders, the statements kept for it, its counter.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/record_store/Engine.h"
+#include "platform/record_store/Layout.h"
+#include "platform/record_store/Schema.h"
+
+namespace Record_Store {
+
+/// A column by which rows are sorted. A text sorts twice: by its key first, by its case behind all
+/// the keys.
+struct Sort_Column {
+  int ordinal;
+  bool by_case = false;
+};
+
+/// An order of rows: the storage order, or an index. Behind the sort columns rows stand in storage
+/// order.
+struct Order {
+  std::string name;       ///< as Index is told; empty for the storage order
+  std::vector<int> keys;  ///< ordinals of the fields that Seek takes
+  std::vector<Sort_Column>
+      sort;                  ///< empty too for an index on the counter: that is the storage order
+  std::string engine_index;  ///< empty where `sort` is
+  bool unique = false;
+};
+
+/// A question to the engine about rows in one order. Its rows have the first `prefix` sort columns
+/// equal to given values; of those, `range` takes a part by the next sort column, or, where all are
+/// equal, by the storage order.
+struct Form {
+  enum Range { All, Sought, Beyond, From, Nulls };
+
+  int prefix = 0;
+  Range range = All;
+  bool backwards = false;
+};
+
+class Table {
+ public:
+  Table(Table_Schema schema, Engine& engine);
+
+  const Table_Schema& Schema() const { return schema_; }
+  const Record_Store::Layout& Layout() const { return layout_; }
+  int Width() const { return layout_.Count() + 1; }  ///< columns of a question: the fields, the row
+
+  const Order& Storage_Order() const { return orders_.front(); }
+  const Order* Find_Order(std::string_view index) const;  ///< nullptr where there is none
+
+  /// Statements for one question, ready to be bound. Several cursors may ask the same at once.
+  class Pool {
+   public:
+    Statement Borrow();
+    void Give_Back(Statement statement) { free_.push_back(std::move(statement)); }
+
+   private:
+    friend class Table;
+    const Engine* engine_ = nullptr;
+    std::string text_;
+    std::vector<Statement> free_;
+  };
+  Pool& Pool_Of(const Order& order, const Form& form);
+
+  sqlite3_stmt* Row_Statement();     ///< the row of number ?1
+  sqlite3_stmt* Insert_Statement();  ///< ?1 is the row's number, the fields follow
+  sqlite3_stmt* Delete_Statement();  ///< the row of number ?1
+  /// Parameters are the assigned fields in storage order, then the row's number.
+  sqlite3_stmt* Update_Statement(const std::vector<bool>& assigned);
+
+  /// The number for a new row: one above all that this file or this run has seen. 6 beyond the
+  /// range of the counter.
+  std::int64_t Next_Number(std::uint64_t burst);
+  void Has_Seen(std::int64_t number);
+
+  /// Rows in the table. Counted once for each state of the table.
+  std::int64_t Count(std::uint64_t burst);
+  void Has_Changed() { counted_in_burst_ = 0; }
+
+ private:
+  std::string Quoted_Field(int ordinal) const;
+  std::string Question(const Order& order, const Form& form) const;
+  sqlite3_stmt* Keep(Statement& place, const std::string& text);
+
+  Engine* engine_;
+  Table_Schema schema_;
+  Record_Store::Layout layout_;
+  std::vector<Order> orders_;
+  std::vector<std::unordered_map<int, Pool>> pools_;  // by order, then by form
+
+  Statement row_;
+  Statement insert_;
+  Statement delete_;
+  Statement counter_;
+  Statement count_;
+  std::unordered_map<std::vector<bool>, Statement> updates_;
+
+  std::int64_t last_number_ = 0;
+  std::uint64_t numbered_in_burst_ = 0;
+  std::int64_t counted_ = 0;
+  std::uint64_t counted_in_burst_ = 0;
+};
+
+}  // namespace Record_Store

@@ -1,0 +1,294 @@
+#include "platform/record_store/Table_Cursor.h"
+
+#include <sqlite3.h>
+
+#include <limits>
+
+#include "platform/record_store/Database_Core.h"
+#include "platform/record_store/Plain_Values.h"
+
+namespace Record_Store {
+
+void Table_Cursor::Open(Database_Core& database, Table& table) {
+  core = &database;
+  table_ = &table;
+  layout_ = &table.Layout();
+  order_ = &table.Storage_Order();
+  place_ = Place::First;
+  no_match_ = false;
+  change_ = Change::None;
+}
+
+void Table_Cursor::Close() {
+  Release();
+  table_ = nullptr;
+}
+
+// ---- the statement under the row ----
+
+void Table_Cursor::Release() {
+  live_ = nullptr;
+  if (!statement_) return;
+  sqlite3_reset(statement_.get());
+  pool_->Give_Back(std::move(statement_));
+}
+
+void Table_Cursor::Detach() {
+  if (live_ != nullptr) {
+    row_.Clear(table_->Width());
+    row_.Append(live_);
+  }
+  Release();
+}
+
+void Table_Cursor::Settle() {
+  if (place_ == Place::First) Find_First();
+  Detach();
+}
+
+bool Table_Cursor::Ask(const Form& form) {
+  Release();
+  core->Begin_Read();
+  form_ = form;
+  pool_ = &table_->Pool_Of(*order_, form);
+  statement_ = pool_->Borrow();
+  Bind();
+  return Step();
+}
+
+bool Table_Cursor::Step() {
+  live_ = nullptr;
+  if (!core->Store().Step(statement_.get())) {
+    Release();
+    return false;
+  }
+  live_ = statement_.get();
+  place_ = Place::Row;
+  return true;
+}
+
+void Table_Cursor::Bind() {
+  int parameter = 0;
+  const int equal = order_->sort.empty() && form_.range == Form::Sought ? 1 : form_.prefix;
+  for (int i = 0; i < equal; ++i) Bind_Value(statement_.get(), ++parameter, anchor_.At(0, i));
+  if (form_.range == Form::Beyond) {
+    Bind_Value(statement_.get(), ++parameter, anchor_.At(0, form_.prefix));
+  }
+  if (form_.range == Form::From) {
+    const int ordinal = order_->sort[Position(form_.prefix)].ordinal;
+    const bool text = layout_->At(ordinal).type == Field_Type::Text;
+    Bind_Value(
+        statement_.get(), ++parameter,
+        text ? Value::Of(std::string_view()) : Value::Of(-std::numeric_limits<double>::infinity()));
+  }
+}
+
+// ---- moves ----
+
+void Table_Cursor::Find_First() {
+  if (!Ask({})) place_ = Place::Empty;
+}
+
+void Table_Cursor::Move_First() {
+  change_ = Change::None;
+  Release();
+  place_ = Place::First;
+}
+
+void Table_Cursor::Move_Last() {
+  change_ = Change::None;
+  if (Ask({0, Form::All, true})) return;
+  place_ = Place::Empty;
+  Fail(Failure::No_Current_Record);
+}
+
+void Table_Cursor::Move(bool backwards) {
+  change_ = Change::None;
+  if (place_ == Place::First) Find_First();
+  const Place entrance = backwards ? Place::Behind : Place::Before;
+  bool found = false;
+  if (place_ == entrance) {
+    found = Ask({0, Form::All, backwards});
+  } else if (place_ == Place::Row || place_ == Place::Deleted) {
+    found = Advance(backwards);
+  } else {
+    Fail(Failure::No_Current_Record);
+  }
+  if (found) return;
+  const bool rows = Ask({});
+  Release();
+  place_ = !rows ? Place::Empty : backwards ? Place::Before : Place::Behind;
+}
+
+bool Table_Cursor::Advance(bool backwards) {
+  const bool lone = order_->sort.empty() && form_.range == Form::Sought;
+  if (live_ != nullptr && form_.backwards == backwards && !lone) {
+    if (Step()) return true;
+  } else {
+    Take_Anchor();
+    if (Ask({static_cast<int>(order_->sort.size()), Form::Beyond, backwards})) return true;
+  }
+  while (To_Wider_Form()) {
+    if (Ask(form_)) return true;
+  }
+  return false;
+}
+
+// The part of the order that lies next behind the one that is used up: one sort column fewer is
+// equal. Nulls stand before all values.
+bool Table_Cursor::To_Wider_Form() {
+  const bool bounded = form_.prefix < static_cast<int>(order_->sort.size());
+  if (form_.backwards && form_.range == Form::Beyond && bounded &&
+      !order_->sort[Position(form_.prefix)].by_case) {
+    form_.range = Form::Nulls;
+    return true;
+  }
+  while (form_.prefix > 0) {
+    --form_.prefix;
+    const bool null = anchor_.At(0, form_.prefix).kind == Cell_Kind::Null;
+    if (null && form_.backwards) continue;
+    form_.range = null ? Form::From : Form::Beyond;
+    return true;
+  }
+  return false;
+}
+
+Value Table_Cursor::Raw(int column) const {
+  return live_ != nullptr ? Column_Value(live_, column) : row_.At(at_, column);
+}
+
+std::int64_t Table_Cursor::Row_Number() const { return Raw(layout_->Count()).number; }
+
+void Table_Cursor::Take_Anchor() {
+  const int columns = static_cast<int>(order_->sort.size());
+  anchor_.Make_Row(columns + 1);
+  for (int i = 0; i < columns; ++i) anchor_.Set(i, Raw(order_->sort[Position(i)].ordinal));
+  anchor_.Set(columns, Value::Of(Row_Number()));
+}
+
+// ---- order and search ----
+
+void Table_Cursor::Index(std::string_view name) {
+  const Order* order = table_->Find_Order(name);
+  if (order == nullptr) Fail(Failure::Not_An_Index, name);
+  Move_First();
+  order_ = order;
+}
+
+void Table_Cursor::Seek(std::string_view comparison, std::span<const Key> keys) {
+  if (order_->name.empty()) Fail(Failure::No_Current_Index);
+  if (comparison != "=" || keys.empty() || keys.size() > order_->keys.size()) {
+    Fail(Failure::Invalid_Procedure_Call);
+  }
+  change_ = Change::None;
+  Release();
+  const int prefix = order_->sort.empty() ? 0 : static_cast<int>(keys.size());
+  no_match_ = !Take_Keys(keys) || !Ask({prefix, Form::Sought, false});
+  if (no_match_) place_ = Place::Missed;
+}
+
+// False where a key is one that no row can have.
+bool Table_Cursor::Take_Keys(std::span<const Key> keys) {
+  anchor_.Make_Row(static_cast<int>(std::max(order_->sort.size(), order_->keys.size())) + 1);
+  std::string room;
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    const Field_Type type = layout_->At(order_->keys[i]).type.value();
+    const std::optional<Value> value = To_Key(keys[i].Get(), type, room);
+    if (!value) return false;
+    anchor_.Set(static_cast<int>(i), *value);
+  }
+  return true;
+}
+
+Long Table_Cursor::Count() {
+  core->Begin_Read();
+  return static_cast<Long>(table_->Count(core->Burst()));
+}
+
+// ---- changes ----
+
+void Table_Cursor::Add_New() {
+  change_ = Change::None;
+  core->Begin_Write(*table_);
+  Begin_Change(Change::Add);
+  if (layout_->Counter() < 0) return;
+  const Value number = Value::Of(table_->Next_Number(core->Burst()));
+  for (int ordinal = 0; ordinal < layout_->Count(); ++ordinal) {
+    const Column& column = layout_->At(ordinal);
+    if (column.counter || column.copy_of_counter) new_row_.Set(ordinal, number);
+  }
+}
+
+void Table_Cursor::Edit() {
+  change_ = Change::None;
+  Require_Row();
+  if (live_ == nullptr) {
+    core->Begin_Read();
+    const std::int64_t number = Row_Number();
+    sqlite3_stmt* again = table_->Row_Statement();
+    sqlite3_bind_int64(again, 1, number);
+    if (!core->Store().Step(again)) {
+      sqlite3_reset(again);
+      Fail(Failure::Record_Is_Deleted);
+    }
+    row_.Clear(table_->Width());
+    row_.Append(again);
+    sqlite3_reset(again);
+  }
+  Begin_Change(Change::Edit);
+}
+
+void Table_Cursor::Update() {
+  if (change_ == Change::None) Fail(Failure::No_Add_New_Or_Edit);
+  core->Begin_Write(*table_);
+  if (change_ == Change::Add) {
+    Insert_New_Row();
+  } else {
+    Store_Changes();
+  }
+  change_ = Change::None;
+  table_->Has_Changed();
+}
+
+void Table_Cursor::Insert_New_Row() {
+  const int counter = layout_->Counter();
+  const std::int64_t number =
+      counter >= 0 ? new_row_.At(0, counter).number : table_->Next_Number(core->Burst());
+  sqlite3_stmt* insert = table_->Insert_Statement();
+  sqlite3_bind_int64(insert, 1, number);
+  for (int ordinal = 0; ordinal < layout_->Count(); ++ordinal) {
+    if (ordinal != counter) Bind_Value(insert, ordinal + 2, new_row_.At(0, ordinal));
+  }
+  core->Store().Run(insert);
+  table_->Has_Seen(number);
+}
+
+void Table_Cursor::Store_Changes() {
+  const std::int64_t number = Row_Number();
+  sqlite3_stmt* update = nullptr;
+  int parameter = 0;
+  for (int ordinal = 0; ordinal < layout_->Count(); ++ordinal) {
+    if (!assigned_[Position(ordinal)]) continue;
+    if (update == nullptr) update = table_->Update_Statement(assigned_);
+    Bind_Value(update, ++parameter, new_row_.At(0, ordinal));
+  }
+  if (update == nullptr) return;
+  sqlite3_bind_int64(update, ++parameter, number);
+  if (core->Store().Run(update) == 0) Fail(Failure::Record_Is_Deleted);
+  for (int ordinal = 0; ordinal < layout_->Count(); ++ordinal) {
+    if (assigned_[Position(ordinal)]) row_.Set(ordinal, new_row_.At(0, ordinal));
+  }
+}
+
+void Table_Cursor::Delete() {
+  change_ = Change::None;
+  Require_Row();
+  core->Begin_Write(*table_);
+  sqlite3_stmt* remove = table_->Delete_Statement();
+  sqlite3_bind_int64(remove, 1, Row_Number());
+  if (core->Store().Run(remove) == 0) Fail(Failure::Record_Is_Deleted);
+  place_ = Place::Deleted;
+  table_->Has_Changed();
+}
+
+}  // namespace Record_Store

@@ -1,0 +1,149 @@
+// The texts of the screens, and the way back from their words to the English ones of the data.
+#include <algorithm>
+#include <set>
+#include <span>
+
+#include "tools/Compile_Library.h"
+#include "tools/Vocabulary.h"
+
+namespace Data_Compiler {
+
+namespace {
+
+constexpr std::size_t Texts_Of_A_Form = 150;
+constexpr std::string_view Main_Form = "Wine_Cellar_Form";
+
+/// A key under which a screen asks for its texts, and how many it reads; 0 where it does not say.
+struct Form {
+  std::string_view key;
+  std::size_t rows;
+};
+constexpr std::array<Form, 8> Forms = {{{Main_Form, 0},
+                                        {"Wine_Form", 0},
+                                        {"Mobile_Wine_Form", 88},
+                                        {"Cate_Add_Form", 0},
+                                        {"Find_File_Form", 34},
+                                        {"Select_Mult_Varieties", 0},
+                                        {"Select_Mult_Cat", 22},
+                                        {"Initialize_Form", 0}}};
+
+/// The main window reads what stands behind its "Frm" row by position: colours, types of cheese,
+/// milks, and eight words of its own.
+constexpr std::size_t Cheese_Types_On_Screen = Cheese_Types.size() + 1;
+constexpr std::size_t Own_Words = 8;
+constexpr std::size_t Head_Rows =
+    Colors.size() + Cheese_Types_On_Screen + Milk_Types.size() + Own_Words;
+
+using Rows = std::vector<const Words_Record*>;
+
+Rows Rows_Of_Form(const Library& library, std::string_view form) {
+  Rows rows;
+  for (const Words_Record& row : library.Of<Words_Record>())
+    if (row.Program == form) rows.push_back(&row);
+  return rows;
+}
+
+void Check_Forms(const Library& library, Problems& problems) {
+  for (const Words_Record& row : library.Of<Words_Record>()) {
+    const auto known = [&](const Form& form) { return form.key == row.Program; };
+    if (std::none_of(Forms.begin(), Forms.end(), known))
+      problems.Report(library.Where(row), "no screen asks for '" + row.Program + "'");
+    if (!Is_One_Of(std::array<std::string_view, 3>{"Cap", "Frm", "Head"}, row.types_variable))
+      problems.Report(library.Where(row), "unknown type '" + row.types_variable + "'");
+  }
+  for (const Form& form : Forms) {
+    const std::size_t count = Rows_Of_Form(library, form.key).size();
+    const std::string name(form.key);
+    if (count > Texts_Of_A_Form) problems.Report("words.tsv", name + " has more than 150 texts");
+    if (form.rows != 0 && count != 0 && count != form.rows)
+      problems.Report("words.tsv", name + " reads " + std::to_string(form.rows) + " texts, not " +
+                                       std::to_string(count));
+  }
+}
+
+/// `words` must stand in these rows, in this order.
+void Check_Run(const Library& library, std::span<const Words_Record* const> rows,
+               std::span<const std::string_view> words, Problems& problems) {
+  for (std::size_t i = 0; i < words.size(); ++i)
+    if (rows[i]->English != words[i])
+      problems.Report(library.Where(*rows[i]), "'" + std::string(words[i]) + "' is expected here");
+}
+
+/// The "Cap" rows, each control once, then the "Frm" row; gives the rows behind it.
+Rows Check_Captions(const Library& library, const Rows& rows, Problems& problems) {
+  std::set<Text> controls;
+  std::size_t at = 0;
+  for (; at < rows.size() && rows[at]->types_variable == "Cap"; ++at)
+    if (!controls.insert(rows[at]->Variable).second)
+      problems.Report(library.Where(*rows[at]), "'" + rows[at]->Variable + "' stands twice");
+  if (at == rows.size() || rows[at]->types_variable != "Frm") {
+    problems.Report("words.tsv", "the captions of Wine_Cellar_Form do not end in one Frm row");
+    return {};
+  }
+  return {rows.begin() + static_cast<std::ptrdiff_t>(at) + 1, rows.end()};
+}
+
+/// The words of one list of the screen, in any language, must lead back to English words of it.
+void Check_Way_Back(const Library& library, std::span<const Words_Record* const> rows,
+                    Problems& problems) {
+  std::map<Text, Text> keys;
+  for (const ReplaceKeys_Record& key : library.Of<ReplaceKeys_Record>())
+    keys.emplace(key.Foreign_Key, key.English_Key);
+  std::set<Text> english;
+  for (const Words_Record* row : rows) english.insert(row->English);
+  for (const Words_Record* row : rows)
+    for (const Text* word : {&row->Spanish, &row->French, &row->German, &row->Italian,
+                             &row->Japanese, &row->Portuguese}) {
+      const auto found = keys.find(*word);
+      if (found == keys.end() || !english.contains(found->second))
+        problems.Report(library.Where(*row), "replace_keys.tsv does not lead '" + *word +
+                                                 "' back to a word of the same list");
+    }
+}
+
+void Check_Main_Form(const Library& library, Problems& problems) {
+  const Rows heads = Check_Captions(library, Rows_Of_Form(library, Main_Form), problems);
+  const auto is_head = [](const Words_Record* row) { return row->types_variable == "Head"; };
+  if (heads.size() != Head_Rows || !std::all_of(heads.begin(), heads.end(), is_head)) {
+    problems.Report("words.tsv", "behind the Frm row of Wine_Cellar_Form stand " +
+                                     std::to_string(heads.size()) + " rows, not " +
+                                     std::to_string(Head_Rows) + " of type Head");
+    return;
+  }
+  const std::span all(heads);
+  const auto colors = all.first(Colors.size());
+  const auto cheeses = all.subspan(Colors.size(), Cheese_Types_On_Screen);
+  const auto milks = all.subspan(Colors.size() + Cheese_Types_On_Screen, Milk_Types.size());
+  Check_Run(library, colors, Colors, problems);
+  Check_Run(library, cheeses, Cheese_Types, problems);
+  Check_Run(library, milks, Milk_Types, problems);
+  for (const auto& list : {colors, cheeses, milks}) Check_Way_Back(library, list, problems);
+}
+
+/// A blank at the end of a caption is meant only where the English one has it too.
+void Check_Blanks(const Library& library, Problems& problems) {
+  for (const Words_Record& row : library.Of<Words_Record>())
+    for (const Text* text :
+         {&row.Spanish, &row.French, &row.German, &row.Italian, &row.Japanese, &row.Portuguese})
+      if (text->starts_with(' ') || (text->ends_with(' ') && !row.English.ends_with(' ')))
+        problems.Report(library.Where(row), "stray blank in '" + *text + "'");
+}
+
+/// The first row that holds the word wins.
+void Check_Replace_Keys(const Library& library, Problems& problems) {
+  std::set<Text> seen;
+  for (const ReplaceKeys_Record& row : library.Of<ReplaceKeys_Record>())
+    if (!seen.insert(row.Foreign_Key).second)
+      problems.Report(library.Where(row), "'" + row.Foreign_Key + "' stands twice");
+}
+
+}  // namespace
+
+void Check_Words(const Library& library, Problems& problems) {
+  Check_Forms(library, problems);
+  Check_Main_Form(library, problems);
+  Check_Blanks(library, problems);
+  Check_Replace_Keys(library, problems);
+}
+
+}  // namespace Data_Compiler

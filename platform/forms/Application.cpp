@@ -5,6 +5,7 @@
 #include "platform/forms/Focus.h"
 #include "platform/forms/Message_Box.h"
 #include "platform/forms/Qt_Text.h"
+#include "platform/forms/Row_Table.h"
 #include "platform/forms/Screens.h"
 #include "platform/forms/Screens_Inside.h"
 #include "platform/run_time/Guard.h"
@@ -21,6 +22,7 @@ std::string& App_Path_For_Tests() {
 void Settle() {
   Settle_Screens();
   Focus_Watch::The().Settle();
+  Refresh_Lists();
 }
 
 }  // namespace

@@ -40,9 +40,11 @@ void Control::Set_Visible(bool visible) {
 Placed_Control::Placed_Control(Form& form, std::string_view name, std::string_view caption)
     : Control(form, name, caption) {}
 
-Placed_Control::~Placed_Control() {
-  Focus_Watch::The().Remove(widget_, *this);
-  delete widget_;
+Placed_Control::~Placed_Control() { Destroy_Widget(); }
+
+// A frame takes the widgets inside it along.
+void Placed_Control::Destroy_Widget() {
+  if (widget_ != nullptr) delete widget_;
 }
 
 QWidget* Placed_Control::Widget_Parent() const { return Owner().Data().content; }
@@ -52,6 +54,10 @@ void Placed_Control::Set_Widget(QWidget* widget) {
   widget_->setObjectName(To_Qt(Name()));
   widget_->hide();
   Focus_Watch::The().Enter(widget_, *this);
+  QObject::connect(widget_, &QObject::destroyed, [this] {
+    Focus_Watch::The().Remove(widget_, *this);
+    widget_ = nullptr;
+  });
   Show_Caption();
   Show_Accessible_Name();
 }

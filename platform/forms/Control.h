@@ -101,6 +101,7 @@ class Placed_Control : public Control {
 
   /// Called once by each kind of control with the widget it made; owned by the form's window.
   void Set_Widget(QWidget* widget);
+  void Destroy_Widget();
   /// The widget that form children are made under.
   QWidget* Widget_Parent() const;
   /// Shows the colours and the state anew.

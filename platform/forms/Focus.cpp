@@ -85,6 +85,16 @@ void Focus_Watch::Set_Focus(Placed_Control& control) {
   }
 }
 
+void Focus_Watch::Give_Back(Placed_Control& control) {
+  const Form& form = control.Owner();
+  if (!form.Is_Live() || !form.Visible() || front_ != &form || form.Data().waiting_for > 0) return;
+  if (owner_ == &control || !control.Widget()->isEnabled()) return;
+  by_code_ = true;
+  control.Widget()->setFocus(Qt::OtherFocusReason);
+  by_code_ = false;
+  owner_ = &control;
+}
+
 void Focus_Watch::Forget(const Form& form) {
   if (owner_ != nullptr && &owner_->Owner() == &form) owner_ = nullptr;
   if (front_ == &form) front_ = nullptr;

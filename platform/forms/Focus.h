@@ -27,6 +27,8 @@ class Focus_Watch : public QObject {
 
   /// From code.
   void Set_Focus(Placed_Control& control);
+  /// The focus returns to `control` after a handler took it away in passing; nobody is told.
+  void Give_Back(Placed_Control& control);
   /// The form goes, or takes no input from now on: nothing of it loses the focus by that.
   void Forget(const Form& form);
 

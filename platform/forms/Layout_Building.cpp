@@ -182,6 +182,7 @@ void Build_Layout(Form_Data& form, const Place& content) {
   form.content->setLayout(layout);
   QWidget* before = nullptr;
   for (const auto& widget : form.reading_order) {
+    if (widget->focusPolicy() == Qt::NoFocus) continue;
     if (before != nullptr) QWidget::setTabOrder(before, widget);
     before = widget;
   }

@@ -27,7 +27,7 @@ Text_Box::Text_Box(Form& form, std::string_view name, Lines lines)
   Set_Widget(sheet);
 }
 
-Text_Box::~Text_Box() { Widget()->blockSignals(true); }
+Text_Box::~Text_Box() = default;
 
 void Text_Box::Take_Over(std::string text) {
   if (text == text_) return;

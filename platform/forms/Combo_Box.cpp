@@ -1,0 +1,91 @@
+#include "platform/forms/Combo_Box.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QListView>
+#include <QWheelEvent>
+
+#include "platform/forms/Handlers.h"
+#include "platform/forms/Plain_List.h"
+
+namespace Forms {
+
+namespace {
+
+constexpr int entries_at_once = 20;
+constexpr int shortest_text = 8;
+
+bool Moves_On(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab ||
+         event.key() == Qt::Key_Escape;
+}
+
+class Combo_Widget : public QComboBox {
+ public:
+  Combo_Widget(QWidget* parent, Combo_Box& combo) : QComboBox(parent), combo_(combo) {
+    setFocusPolicy(Qt::StrongFocus);
+    setMaxVisibleItems(entries_at_once);
+    // The widest of ten thousand entries is not worth looking for.
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(shortest_text);
+    // Without it the toolkit would choose the first entry by itself.
+    setPlaceholderText(" ");
+  }
+
+  void showPopup() override {
+    if (combo_.Locked() || count() == 0) return;
+    if (auto* list = qobject_cast<QListView*>(view())) list->setUniformItemSizes(true);
+    QComboBox::showPopup();
+  }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    if (!combo_.Locked()) QComboBox::mousePressEvent(event);
+  }
+
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    hidePopup();
+    if (event->button() == Qt::LeftButton) Raise(combo_, combo_.DblClick);
+  }
+
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus() && !combo_.Locked()) {
+      QComboBox::wheelEvent(event);
+    } else {
+      event->ignore();
+    }
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->matches(QKeySequence::Copy)) {
+      QApplication::clipboard()->setText(currentText());
+    } else if (!combo_.Locked() || Moves_On(*event)) {
+      QComboBox::keyPressEvent(event);
+    } else {
+      event->ignore();
+    }
+  }
+
+ private:
+  Combo_Box& combo_;
+};
+
+}  // namespace
+
+Combo_Box::Combo_Box(Form& form, std::string_view name) : Item_List(form, name) {
+  auto* widget = new Combo_Widget(Widget_Parent(), *this);
+  widget->setModel(&Entries());
+  widget->setFixedHeight(widget->sizeHint().height());
+  QObject::connect(widget, &QComboBox::activated, [this](int index) { Chosen_By_User(index); });
+  Set_Widget(widget);
+}
+
+Combo_Box::~Combo_Box() = default;
+
+void Combo_Box::Show_List_Index() {
+  static_cast<QComboBox*>(Widget())->setCurrentIndex(ListIndex());
+}
+
+}  // namespace Forms

@@ -1,0 +1,42 @@
+// A list that stands open.
+#pragma once
+
+#include "platform/forms/Item_List.h"
+
+namespace Forms {
+
+/// The user's choice raises Click: a click of the mouse, also on the chosen entry, a move by the
+/// arrow keys, and typing, which goes to the next entry that begins so.
+class List_Box : public Item_List {
+ public:
+  List_Box(Form& form, std::string_view name);
+  ~List_Box() override;
+
+ protected:
+  void Show_List_Index() override;
+};
+
+/// A list of entries that can be ticked, each for itself. ListIndex is the entry with the focus.
+class Check_List : public Item_List {
+ public:
+  Check_List(Form& form, std::string_view name);
+  ~Check_List() override;
+
+  /// Whether the entry is ticked. 381 outside the list.
+  bool Selected(int index) const;
+  /// Raises ItemCheck where that is a change.
+  void Set_Selected(int index, bool selected);
+  /// How many are ticked.
+  int SelCount() const;
+
+  /// After each change of a tick, by the user or by code, with the entry's index.
+  std::function<void(int item)> ItemCheck;
+
+ protected:
+  void Show_List_Index() override;
+
+ private:
+  void Ticked_By_User(int index, bool ticked);
+};
+
+}  // namespace Forms

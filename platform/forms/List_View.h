@@ -1,0 +1,154 @@
+// A table of texts in rows and columns: the list screens, the cellar, the glossary.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/forms/Control.h"
+
+class QItemSelection;
+
+namespace Forms {
+
+class List_Rows;
+class List_View;
+
+/// A row, as a cheap value: it stays the same row however the list is sorted, until it is removed
+/// or the list is cleared.
+class List_Item {
+ public:
+  List_Item(List_View& view, int row) : view_(&view), row_(row) {}
+  bool operator==(const List_Item&) const = default;
+
+  std::string Text() const;
+  void Set_Text(std::string_view text);
+
+  /// The text of sub-item `column`, counted from 1 (0 is the item's text); "" where it was never
+  /// set. 380 outside the list's columns.
+  std::string SubItems(int column) const;
+  void Set_SubItems(int column, std::string_view text);
+  /// The same, but 35600 where it was never set.
+  std::string ListSubItems(int column) const;
+
+  bool Bold() const;
+  void Set_Bold(bool bold);
+  Color ForeColor() const;
+  void Set_ForeColor(Color color);
+
+  bool Selected() const;
+  /// From code: raises nothing. In a list of single selection any other row is deselected.
+  void Set_Selected(bool selected);
+  /// Scrolls the list so that the row is seen.
+  void EnsureVisible();
+  /// The row's place, counted from 1 in the order shown.
+  int Index() const;
+
+ private:
+  friend class List_View;
+  List_View* view_;
+  int row_;
+};
+
+/// A column of the design. Its width counts characters; the column of the key is hidden.
+struct List_Column {
+  std::string text;
+  int characters = 12;
+  bool hidden = false;
+};
+
+/// What ColumnClick tells: the header's place, counted from 1, and its text.
+struct Column_Header {
+  int Index = 0;
+  std::string Text;
+};
+
+class List_View : public Placed_Control {
+ public:
+  enum class Where { Text, Sub_Items };
+  enum class Match { Whole, Beginning };
+
+  List_View(Form& form, std::string_view name, std::vector<List_Column> columns);
+  ~List_View() override;
+
+  // ---- the rows; nothing is selected after a fill, and nothing here raises an event ----
+
+  List_Item Add(std::string_view text);
+  void Clear();
+  /// 35600 outside 1 .. Count.
+  void Remove(int index);
+  int Count() const;
+  /// By place, counted from 1 in the order shown. 35600 outside 1 .. Count.
+  List_Item ListItems(int index);
+
+  /// The selected row that was picked last, or the first one. 91 where none is selected.
+  List_Item SelectedItem();
+  void Set_SelectedItem(List_Item item);
+  bool Has_Selection() const;
+
+  /// The first row, in the order shown, whose text (or one of whose sub-items, these only as a
+  /// whole) is `text`, without regard to case.
+  std::optional<List_Item> FindItem(std::string_view text, Where where = Where::Text,
+                                    Match match = Match::Whole);
+
+  // ---- the order: by the texts of one column, without regard to case ----
+
+  bool Sorted() const { return sorted_; }
+  void Set_Sorted(bool sorted);
+  /// 0 for the item's text, 1 and above for a sub-item. 380 outside the list's columns.
+  int SortKey() const { return sort_key_; }
+  void Set_SortKey(int column);
+  /// 0 ascending, 1 descending. 380 for another number.
+  int SortOrder() const { return sort_order_; }
+  void Set_SortOrder(int order);
+
+  // ---- the columns, counted from 1 ----
+
+  int Column_Count() const;
+  const std::string& Header_Text(int column) const;
+  void Set_Header_Text(int column, std::string_view text);
+
+  // ---- the user ----
+
+  /// Several rows can be selected, with Ctrl.
+  void Set_MultiSelect(bool several);
+  /// False where a pick asks a question or leaves the screen: the arrow keys only move then, and
+  /// Enter or Space picks.
+  void Set_Arrow_Keys_Pick(bool pick) { arrow_keys_pick_ = pick; }
+
+  /// The user picked a row, by mouse (the selected one too), Enter, Space or the arrow keys.
+  std::function<void(List_Item item)> ItemClick;
+  std::function<void(const Column_Header& header)> ColumnClick;
+
+  // ---- for this room and the tests ----
+
+  /// Brings what is shown up to date, which otherwise happens at the end of the handler.
+  void Refresh();
+  void Picked(int place, bool by_arrow);
+  void Header_Clicked(int column);
+
+ private:
+  friend class List_Item;
+  void Changed(bool order_too);
+  void Set_Cell(int row, int column, std::string_view text);
+  void Select(int row, bool selected);
+  void Take_Over(const QItemSelection& places, bool selected);
+  void Sort_If_Needed() const;
+  void Check_Column(int column) const;
+  bool Is_Found(int row, std::string_view text, Where where, Match match) const;
+
+  struct Show;
+  std::unique_ptr<List_Rows> rows_;
+  std::unique_ptr<Show> show_;
+  std::vector<List_Column> columns_;
+  bool sorted_ = false;
+  mutable bool order_is_old_ = false;
+  int sort_key_ = 0;
+  int sort_order_ = 0;
+  bool arrow_keys_pick_ = true;
+};
+
+}  // namespace Forms

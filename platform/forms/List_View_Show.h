@@ -1,0 +1,24 @@
+// The toolkit's side of a list view. For the sources of this room only.
+#pragma once
+
+#include <set>
+
+#include "platform/forms/List_View.h"
+#include "platform/forms/Row_Table.h"
+
+namespace Forms {
+
+struct List_View::Show {
+  Show(QWidget* parent, List_View& list, const List_Rows& rows,
+       const std::vector<List_Column>& columns)
+      : model(rows, columns), view(new Row_View(parent, list, model)) {}
+
+  Row_Model model;
+  Row_View* view;
+  std::set<int> selected;  ///< rows
+  int current = -1;        ///< the row picked last
+  bool changed = false;    ///< since the rows were shown
+  bool to_the_top = false;
+};
+
+}  // namespace Forms

@@ -1,0 +1,150 @@
+#include "platform/forms/Row_Table.h"
+
+#include <QFont>
+#include <QHeaderView>
+#include <QKeyEvent>
+
+#include "platform/forms/List_Rows.h"
+#include "platform/forms/Qt_Text.h"
+
+namespace Forms {
+
+int Row_Model::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : shown_; }
+
+int Row_Model::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : rows_.Columns();
+}
+
+QVariant Row_Model::data(const QModelIndex& index, int role) const {
+  if (!index.isValid() || index.row() >= rows_.Shown()) return {};
+  const int row = rows_.Row_At(index.row());
+  if (role == Qt::DisplayRole) return To_Qt(rows_.Cell(row, index.column()));
+  if (role == Qt::FontRole && rows_.Marks(row).bold) {
+    QFont font;
+    font.setBold(true);
+    return font;
+  }
+  if (role == Qt::ForegroundRole) {
+    const Color color = rows_.Marks(row).fore_color;
+    if (!color.of_the_theme) return QColor(color.red, color.green, color.blue);
+  }
+  return {};
+}
+
+QVariant Row_Model::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+  return To_Qt(columns_[static_cast<std::size_t>(section)].text);
+}
+
+Qt::ItemFlags Row_Model::flags(const QModelIndex& index) const {
+  return QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
+}
+
+void Row_Model::Show_Rows() {
+  const int now = rows_.Shown();
+  if (now < shown_) {
+    beginRemoveRows({}, now, shown_ - 1);
+    shown_ = now;
+    endRemoveRows();
+  } else if (now > shown_) {
+    beginInsertRows({}, shown_, now - 1);
+    shown_ = now;
+    endInsertRows();
+  }
+  if (now > 0) emit dataChanged(index(0, 0), index(now - 1, columnCount() - 1));
+}
+
+Row_View::Row_View(QWidget* parent, List_View& list, Row_Model& model)
+    : QTreeView(parent), list_(list) {
+  setModel(&model);
+  setRootIsDecorated(false);
+  setItemsExpandable(false);
+  setUniformRowHeights(true);
+  setAllColumnsShowFocus(true);
+  setAlternatingRowColors(true);
+  setSelectionMode(SingleSelection);
+  setSelectionBehavior(SelectRows);
+  setEditTriggers(NoEditTriggers);
+  setTabKeyNavigation(false);
+  header()->setSectionsMovable(false);
+  header()->setSectionsClickable(true);
+  header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  connect(header(), &QHeaderView::sectionClicked,
+          [this](int section) { list_.Header_Clicked(section + 1); });
+}
+
+void Row_View::Show_Columns(const std::vector<List_Column>& columns) {
+  const int character = fontMetrics().averageCharWidth();
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    const int section = static_cast<int>(i);
+    header()->resizeSection(section, (columns[i].characters + 3) * character);
+    setColumnHidden(section, columns[i].hidden);
+  }
+}
+
+void Row_View::Select(const std::vector<int>& places, int current) {
+  selecting_ = true;
+  QItemSelection selection;
+  for (const int place : places) {
+    selection.select(model()->index(place, 0), model()->index(place, model()->columnCount() - 1));
+  }
+  if (current >= 0) {
+    selectionModel()->setCurrentIndex(model()->index(current, 0), QItemSelectionModel::NoUpdate);
+  } else {
+    selectionModel()->clearCurrentIndex();
+  }
+  selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+  selecting_ = false;
+}
+
+// A click beside the rows, or with Ctrl on the one that is selected, leaves a selected row
+// selected.
+QItemSelectionModel::SelectionFlags Row_View::selectionCommand(const QModelIndex& index,
+                                                               const QEvent* event) const {
+  if (Takes_Several()) return QTreeView::selectionCommand(index, event);
+  if (!index.isValid()) return QItemSelectionModel::NoUpdate;
+  return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+}
+
+void Row_View::mousePressEvent(QMouseEvent* event) {
+  QTreeView::mousePressEvent(event);
+  const bool left = event->button() == Qt::LeftButton;
+  pressed_ = left ? indexAt(event->position().toPoint()).row() : -1;
+}
+
+void Row_View::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+// In a list of single selection a drag does not choose: the row that was pressed is the one picked.
+void Row_View::mouseMoveEvent(QMouseEvent* event) {
+  if (Takes_Several() || event->buttons() == Qt::NoButton) QTreeView::mouseMoveEvent(event);
+}
+
+void Row_View::mouseReleaseEvent(QMouseEvent* event) {
+  QTreeView::mouseReleaseEvent(event);
+  const int place = std::exchange(pressed_, -1);
+  if (event->button() == Qt::LeftButton && place >= 0) list_.Picked(place, false);
+}
+
+void Row_View::keyPressEvent(QKeyEvent* event) {
+  const int key = event->key();
+  if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
+    Pick_By_Key();
+    return;
+  }
+  const int before = currentIndex().row();
+  QTreeView::keyPressEvent(event);
+  const int now = currentIndex().row();
+  if (now >= 0 && now != before) list_.Picked(now, true);
+}
+
+void Row_View::Pick_By_Key() {
+  const QModelIndex current = currentIndex();
+  if (!current.isValid()) return;
+  const bool several = Takes_Several();
+  selectionModel()->select(
+      current, (several ? QItemSelectionModel::Select : QItemSelectionModel::ClearAndSelect) |
+                   QItemSelectionModel::Rows);
+  list_.Picked(current.row(), false);
+}
+
+}  // namespace Forms

@@ -1,0 +1,66 @@
+// A list view as the toolkit sees it: a model over the rows, and the view on it. For the sources of
+// this room only.
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QTreeView>
+#include <vector>
+
+#include "platform/forms/List_View.h"
+
+namespace Forms {
+
+class List_Rows;
+
+/// Shows as many rows as Show_Rows told last: the rows may have changed since, and are shown anew
+/// at the end of the handler, not at each step of a fill.
+class Row_Model : public QAbstractTableModel {
+ public:
+  Row_Model(const List_Rows& rows, const std::vector<List_Column>& columns)
+      : rows_(rows), columns_(columns) {}
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+  void Show_Rows();
+
+ private:
+  const List_Rows& rows_;
+  const std::vector<List_Column>& columns_;
+  int shown_ = 0;
+};
+
+class Row_View : public QTreeView {
+ public:
+  Row_View(QWidget* parent, List_View& list, Row_Model& model);
+
+  void Show_Columns(const std::vector<List_Column>& columns);
+  /// Selects these places, and no others, as code does: nobody is told.
+  void Select(const std::vector<int>& places, int current);
+  bool Is_Selecting() const { return selecting_; }
+
+ protected:
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void Pick_By_Key();
+  bool Takes_Several() const { return selectionMode() == ExtendedSelection; }
+
+  List_View& list_;
+  int pressed_ = -1;
+  bool selecting_ = false;
+};
+
+/// Shows every list anew whose rows have changed: at the end of a handler.
+void Refresh_Lists();
+
+}  // namespace Forms

@@ -1,0 +1,185 @@
+// Init, Read and Write of the memory records, over every table by its description.
+#include "core/Globals.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Mobile_Wines_DB.h"
+#include "tests/core/tables/New_Data_File.h"
+#include "tests/support/Expect_Failure.h"
+
+namespace {
+
+using Memory_Records = New_Data_File;
+using Record_Store::Recordset;
+
+// A value for the n-th member that no other member has, near the end of its type's range.
+void Set(bool& value, int) { value = true; }
+void Set(Integer& value, int n) { value = static_cast<Integer>(32000 + n); }
+void Set(Long& value, int n) { value = -2000000000 - n; }
+void Set(Single& value, int n) { value = 13.5F + static_cast<Single>(n) / 10; }
+void Set(Currency& value, int n) { value = {100000000000000 + n}; }
+void Set(Date& value, int n) { value = Date::Of(1947, 3, 5, 23, 59, n); }
+void Set(Text& value, int n) { value = "'Rosé' 日本語 \"" + std::to_string(n); }
+
+template <class Record>
+Record Filled(const Tables::Table<Record>& table) {
+  Record record;
+  int n = 0;
+  for (const auto& field : table.Fields())
+    std::visit([&](auto member) { Set(record.*member, ++n); }, field.Place());
+  return record;
+}
+
+template <class Record>
+bool Same(const Tables::Field<Record>& field, const Record& a, const Record& b) {
+  return std::visit([&](auto member) { return a.*member == b.*member; }, field.Place());
+}
+
+template <class Record>
+void Expect_Round_Trip(const Tables::Table<Record>& table) {
+  const Record written = Filled(table);
+  Recordset rows;
+  Open_Table(rows, table.Name());
+  rows.AddNew();
+  table.Write(rows, written);
+  rows.MoveLast();
+  Record read;
+  table.Read(rows, read);
+  for (const auto& field : table.Fields())
+    EXPECT_EQ(Same(field, written, read), field.Is_Written())
+        << table.Name() << "." << field.Schema().name;
+}
+
+TEST_F(Memory_Records, Every_Table_Reads_What_It_Wrote) {
+  Tables::For_Each_Table([](const auto& table) { Expect_Round_Trip(table); });
+}
+
+TEST_F(Memory_Records, Names_Decide_And_Not_Positions) {
+  auto schemas = Tables::All_Schemas();
+  for (auto& schema : schemas) std::reverse(schema.fields.begin(), schema.fields.end());
+  Make(schemas);
+  Tables::For_Each_Table([](const auto& table) { Expect_Round_Trip(table); });
+}
+
+TEST_F(Memory_Records, Init_Sets_The_Defaults) {
+  const Date moment = Date::Of(2026, 5, 1, 12, 30, 15);
+  Set_Clock_For_Tests(&moment);
+  Current_Cellar_ID = 2;
+  Wines = Filled(Wines_Description);
+  Init_Wines_Record();
+  Set_Clock_For_Tests(nullptr);
+  EXPECT_EQ(Wines.Winery_ID, -1);
+  EXPECT_EQ(Wines.Label, "x");
+  EXPECT_EQ(Wines.Value_Guide, Currency::Of(-1));
+  EXPECT_EQ(Wines.Alcohol, -1.0F);
+  EXPECT_EQ(Wines.Last_Date_Uncorked, No_Date);
+  EXPECT_EQ(Wines.Date_Added, moment);
+  EXPECT_FALSE(Wines.In_Cellar);
+  EXPECT_EQ(Wines.Cellar_ID, 2);
+  EXPECT_EQ(Wines.SERIAL_NUMBER, "CUS");
+  EXPECT_EQ(Wines.Used, 0);
+
+  Init_Labels_Record();
+  EXPECT_EQ(Labels.Label_Name, "No Label");
+  EXPECT_EQ(Labels.Appellation_ID, -1);
+  Init_Varieties_Per_Maridage_Record();
+  EXPECT_EQ(Varieties_Per_Maridage.GROUP, -1);
+  EXPECT_EQ(Varieties_Per_Maridage.Maridage_ID, 0);
+  Init_Wine_Tasting_Record();
+  EXPECT_TRUE(Wine_Tasting.Cellar_Wine);
+  Init_Mobile_Wines_per_Maridage_Record();
+  EXPECT_EQ(Mobile_Wines_per_Maridage.Mobile_Wine_ID, -1);
+}
+
+// Members without a default keep what the last row left in them; of all keys only that of a variety
+// has a default.
+TEST_F(Memory_Records, Init_Leaves_Other_Members_Alone) {
+  EXPECT_EQ(Maridages_Record{}.Cheese_ID, -1);
+  Maridages = Filled(Maridages_Description);
+  const Maridages_Record before = Maridages;
+  Init_Maridages_Record();
+  EXPECT_EQ(Maridages.Cheese_ID, before.Cheese_ID);
+  EXPECT_EQ(Maridages.CAT_ID, before.CAT_ID);
+  EXPECT_EQ(Maridages.Maridage_ID, before.Maridage_ID);
+  EXPECT_EQ(Maridages.Japanese, "x");
+
+  Varieties = Filled(Varieties_Description);
+  const Long group = Varieties.Variety_Group;
+  Init_Varieties_Record();
+  EXPECT_EQ(Varieties.Variety_Group, group);
+  EXPECT_EQ(Varieties.Variety_ID, 0);
+
+  Tables::For_Each_Table([]<class Record>(const Tables::Table<Record>& table) {
+    const Record filled = Filled(table);
+    Record record = filled;
+    table.Init(record);
+    for (const auto& field : table.Fields()) {
+      const bool is_key = field.Schema().counter || field.Schema().copy_of_counter;
+      if (is_key && table.Name() != "Varieties") {
+        EXPECT_TRUE(Same(field, record, filled)) << table.Name();
+      }
+    }
+  });
+}
+
+// A row made in two steps: a placeholder that gives the key, overwritten when all is known.
+TEST_F(Memory_Records, New_Row_In_Two_Steps) {
+  for (Long expected : {10001, 10002}) {
+    Open_Table(Wineries_Recordset, "Wineries");
+    Wineries_Recordset.Index("Winery_ID");
+    Init_Wineries_Record();
+    Wineries_Recordset.AddNew();
+    Write_Wineries_Record();
+    Wineries_Recordset.MoveLast();
+    Read_Wineries_Record();
+    EXPECT_EQ(Wineries.Winery_ID, std::to_string(expected));
+    EXPECT_EQ(Wineries.Winery_Name, "x");
+    Close_Table(Wineries_Recordset);
+  }
+  Open_Table(Wineries_Recordset, "Wineries");
+  Wineries_Recordset.Index("Winery_ID");
+  Wineries_Recordset.Seek("=", "10001");
+  Wineries_Recordset.Edit();
+  Wineries.Winery_ID = "77";
+  Wineries.Winery_Name = "Quinta";
+  Write_Wineries_Record();
+  Read_Wineries_Record();
+  EXPECT_EQ(Wineries.Winery_ID, "10001") << "the key is never written";
+  EXPECT_EQ(Wineries.Winery_Name, "Quinta");
+  Close_Table(Wineries_Recordset);
+  EXPECT_FAILURE(3420, Close_Table(Wineries_Recordset));
+}
+
+TEST_F(Memory_Records, Query_Row_Of_A_General_Wine_Keeps_Other_Members) {
+  Open_Table(Mobile_Wines_Recordset, "Mobile_Wines");
+  Init_Mobile_Wines_Record();
+  Mobile_Wines.Mobile_Wine_Name = "Merlot";
+  Mobile_Wines_Recordset.AddNew();
+  Write_Mobile_Wines_Record();
+  Close_Table(Mobile_Wines_Recordset);
+  Mobile_Wines = Filled(Mobile_Wines_Description);
+  const Mobile_Wines_Record before = Mobile_Wines;
+  Mobile_Wines_Query =
+      Wine_Cellar_DB->OpenRecordset("SELECT * FROM Mobile_Wines ORDER BY Mobile_Wine_Name");
+  Read_Mobile_Wines_Query_Row();
+  EXPECT_EQ(Mobile_Wines.Mobile_Wine_Name, "Merlot");
+  EXPECT_EQ(Mobile_Wines.Mobile_Wine_ID, 20001);
+  EXPECT_EQ(Mobile_Wines.Used, 0);
+  EXPECT_EQ(Mobile_Wines.Mobile_Winery_Name, before.Mobile_Winery_Name);
+  EXPECT_EQ(Mobile_Wines.Mobile_Wine_Merit, before.Mobile_Wine_Merit);
+}
+
+TEST_F(Memory_Records, Failures) {
+  Open_Table(Regions_Recordset, "Regions");
+  EXPECT_FAILURE(3021, Read_Regions_Record());
+  EXPECT_FAILURE(3020, Write_Regions_Record());
+  Regions_Recordset.AddNew();
+  Regions_Recordset.Update();
+  Regions_Recordset.MoveFirst();
+  EXPECT_FAILURE(94, Read_Regions_Record());
+  EXPECT_FAILURE(3078, Open_Table(Regions_Recordset, "Blends"));
+  Recordset never_opened;
+  EXPECT_FAILURE(91, Close_Table(never_opened));
+  Wine_Cellar_DB.reset();
+  EXPECT_FAILURE(91, Open_Table(Regions_Recordset, "Regions"));
+}
+
+}  // namespace

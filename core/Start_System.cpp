@@ -5,7 +5,6 @@
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/forms/Application.h"
-#include "platform/forms/Picture.h"
 #include "platform/forms/Screens.h"
 #include "platform/run_time/Guard.h"
 
@@ -26,15 +25,13 @@ void Set_Database_Paths() {
 
 namespace {
 
+// The logo lies across the window and is as wide as it.
 void Fit_Window_To_Language() {
   Open_Table(Languages_Available_Recordset, "Languages_Available");
   Languages_Available_Recordset.Index("Language_Number");
   Languages_Available_Recordset.Seek("=", System_Language);
   Read_Languages_Available_Record();
   Screen("Wine_Cellar_Form").Instance().Set_Width(Languages_Available.Width_Main);
-  Screen("Wine_Cellar_Form")
-      .Get<Forms::Picture>("Corvale_Logo")
-      .Set_Width(Languages_Available.Width_Main);
   Close_Table(Languages_Available_Recordset);
 }
 

@@ -32,13 +32,13 @@ Wine_Cellar_Form::Wine_Cellar_Form() : Form("Wine_Cellar_Form", "Wine Cellar") {
 }
 
 void Wine_Cellar_Form::Lay_Out() {
-  Picture1.Load(":/title.svg");
-  Image1.Load(":/icon.svg");
-  Corvale_Logo.Load(":/logo.svg");
-  const Forms::Place texts =
-      Column({Corvale_Label, Row({Version_Label, Language_Version_Label}), Wait_Label});
-  Set_Content(Column(
-      {Forms::Place(Picture1).Grow(), Corvale_Logo, Row({Image1, texts, Forms::Stretch()})}));
+  using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  Picture1.Set_Picture(":/title.svg");
+  Image1.Set_Picture(":/logo.svg");
+  Corvale_Logo.Set_Picture(":/logo.svg");
+  const Place versions = Row({Version_Label, Language_Version_Label});
+  Set_Content(Column({Place(Picture1).Grow(), Corvale_Logo,
+                      Row({Image1, Column({Corvale_Label, versions, Wait_Label}), Stretch()})}));
   Set_Exit(Wine_Cellar_Exit);
 }
 

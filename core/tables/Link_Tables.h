@@ -20,15 +20,7 @@ struct Maridages_Per_Wines_Record {
 inline Maridages_Per_Wines_Record Maridages_Per_Wines;
 inline Record_Store::Recordset Maridages_Per_Wines_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Maridages_Per_Wines_Record> Maridages_Per_Wines_Description = [] {
-  using R = Maridages_Per_Wines_Record;
-  return Tables::Table<R>{"Maridages_Per_Wines",
-                          {{"Maridages_per_Wines_ID", &R::Maridages_per_Wines_ID, Tables::Counter},
-                           {"Wine_ID", &R::Wine_ID},
-                           {"GROUP", &R::GROUP},
-                           {"SUBCATEGO", &R::SUBCATEGO}},
-                          {{"Wine_ID"}, {"GROUP"}}};
-}();
+extern const Tables::Table<Maridages_Per_Wines_Record> Maridages_Per_Wines_Description;
 
 struct Maridages_Per_Mobile_Wines_Record {
   Long Maridages_Per_Mobile_Wine_ID{};
@@ -40,17 +32,8 @@ struct Maridages_Per_Mobile_Wines_Record {
 inline Maridages_Per_Mobile_Wines_Record Maridages_Per_Mobile_Wines;
 inline Record_Store::Recordset Maridages_Per_Mobile_Wines_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Maridages_Per_Mobile_Wines_Record>
-    Maridages_Per_Mobile_Wines_Description = [] {
-      using R = Maridages_Per_Mobile_Wines_Record;
-      return Tables::Table<R>{
-          "Maridages_Per_Mobile_Wines",
-          {{"Maridages_Per_Mobile_Wine_ID", &R::Maridages_Per_Mobile_Wine_ID, Tables::Counter},
-           {"Mobile_Wine_ID", &R::Mobile_Wine_ID},
-           {"GROUP", &R::GROUP},
-           {"SUBCATEGO", &R::SUBCATEGO}},
-          {{"Mobile_Wine_ID"}, {"GROUP"}}};
-    }();
+extern const Tables::Table<Maridages_Per_Mobile_Wines_Record>
+    Maridages_Per_Mobile_Wines_Description;
 
 struct Maridages_Per_Cheeses_Record {
   Long Cheese_ID{};
@@ -61,13 +44,7 @@ struct Maridages_Per_Cheeses_Record {
 inline Maridages_Per_Cheeses_Record Maridages_Per_Cheeses;
 inline Record_Store::Recordset Maridages_Per_Cheeses_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Maridages_Per_Cheeses_Record> Maridages_Per_Cheeses_Description = [] {
-  using R = Maridages_Per_Cheeses_Record;
-  return Tables::Table<R>{
-      "Maridages_Per_Cheeses",
-      {{"Cheese_ID", &R::Cheese_ID}, {"GROUP", &R::GROUP}, {"SUBCATEGO", &R::SUBCATEGO}},
-      {{"Cheese_ID"}}};
-}();
+extern const Tables::Table<Maridages_Per_Cheeses_Record> Maridages_Per_Cheeses_Description;
 
 struct Maridages_Per_Variety_Record {
   Integer Maridages_Per_Variety_ID{};
@@ -80,17 +57,7 @@ struct Maridages_Per_Variety_Record {
 inline Maridages_Per_Variety_Record Maridages_Per_Variety;
 inline Record_Store::Recordset Maridages_Per_Variety_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Maridages_Per_Variety_Record> Maridages_Per_Variety_Description = [] {
-  using R = Maridages_Per_Variety_Record;
-  return Tables::Table<R>{
-      "Maridages_Per_Variety",
-      {{"Maridages_Per_Variety_ID", &R::Maridages_Per_Variety_ID, Tables::Counter},
-       {"Variety_ID", &R::Variety_ID, 0},
-       {"GROUP", &R::GROUP, 0},
-       {"SUBCATEGO", &R::SUBCATEGO, 0},
-       {"SERIAL_NUMBER", &R::SERIAL_NUMBER, "CUS"}},
-      {{"Variety_ID"}}};
-}();
+extern const Tables::Table<Maridages_Per_Variety_Record> Maridages_Per_Variety_Description;
 
 // ---- group link rows: varieties of an owner ----
 
@@ -105,17 +72,7 @@ struct Varieties_Per_Region_Record {
 inline Varieties_Per_Region_Record Varieties_Per_Region;
 inline Record_Store::Recordset Varieties_Per_Region_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Varieties_Per_Region_Record> Varieties_Per_Region_Description = [] {
-  using R = Varieties_Per_Region_Record;
-  return Tables::Table<R>{
-      "Varieties_Per_Region",
-      {{"Varieties_Per_Region_ID", &R::Varieties_Per_Region_ID, Tables::Counter},
-       {"Region_ID", &R::Region_ID},
-       {"GROUP", &R::GROUP},
-       {"SUBCATEGO", &R::SUBCATEGO},
-       {"SERIAL_NUMBER", &R::SERIAL_NUMBER}},
-      {{"Region_ID"}, {"GROUP"}}};
-}();
+extern const Tables::Table<Varieties_Per_Region_Record> Varieties_Per_Region_Description;
 
 struct Varieties_Per_Cheeses_Record {
   Integer Varieties_Per_Cheeses_ID{};
@@ -128,17 +85,7 @@ struct Varieties_Per_Cheeses_Record {
 inline Varieties_Per_Cheeses_Record Varieties_Per_Cheeses;
 inline Record_Store::Recordset Varieties_Per_Cheeses_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Varieties_Per_Cheeses_Record> Varieties_Per_Cheeses_Description = [] {
-  using R = Varieties_Per_Cheeses_Record;
-  return Tables::Table<R>{
-      "Varieties_Per_Cheeses",
-      {{"Varieties_Per_Cheeses_ID", &R::Varieties_Per_Cheeses_ID, Tables::Counter},
-       {"Cheese_ID", &R::Cheese_ID},
-       {"GROUP", &R::GROUP},
-       {"SUBCATEGO", &R::SUBCATEGO},
-       {"SERIAL_NUMBER", &R::SERIAL_NUMBER}},
-      {{"Cheese_ID"}}};
-}();
+extern const Tables::Table<Varieties_Per_Cheeses_Record> Varieties_Per_Cheeses_Description;
 
 // ---- pair rows: the way back to a variety, a region, a wine ----
 
@@ -154,18 +101,7 @@ struct Varieties_Per_Maridage_Record {
 inline Varieties_Per_Maridage_Record Varieties_Per_Maridage;
 inline Record_Store::Recordset Varieties_Per_Maridage_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Varieties_Per_Maridage_Record> Varieties_Per_Maridage_Description = [] {
-  using R = Varieties_Per_Maridage_Record;
-  return Tables::Table<R>{
-      "Varieties_Per_Maridage",
-      {{"Varieties_Per_Maridages", &R::Varieties_Per_Maridages, Tables::Counter},
-       {"Maridage_ID", &R::Maridage_ID, 0},
-       {"GROUP", &R::GROUP, -1},
-       {"SUBCATEGO", &R::SUBCATEGO, 0},
-       {"SERIAL_NUMBER", &R::SERIAL_NUMBER, "CUS"},
-       {"Variety_ID", &R::Variety_ID, 0}},
-      {{"Maridage_ID"}}};
-}();
+extern const Tables::Table<Varieties_Per_Maridage_Record> Varieties_Per_Maridage_Description;
 
 struct Regions_Per_Variety_Record {
   Integer Regions_Per_Variety_ID{};
@@ -179,17 +115,7 @@ struct Regions_Per_Variety_Record {
 inline Regions_Per_Variety_Record Regions_Per_Variety;
 inline Record_Store::Recordset Regions_Per_Variety_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Regions_Per_Variety_Record> Regions_Per_Variety_Description = [] {
-  using R = Regions_Per_Variety_Record;
-  return Tables::Table<R>{"Regions_Per_Variety",
-                          {{"Regions_Per_Variety_ID", &R::Regions_Per_Variety_ID, Tables::Counter},
-                           {"Variety_ID", &R::Variety_ID, 0},
-                           {"GROUP", &R::GROUP, 0},
-                           {"SUBCATEGO", &R::SUBCATEGO, 0},
-                           {"SERIAL_NUMBER", &R::SERIAL_NUMBER, "CUS"},
-                           {"Region_ID", &R::Region_ID, 0}},
-                          {{"Region_ID"}, {"Variety_ID"}}};
-}();
+extern const Tables::Table<Regions_Per_Variety_Record> Regions_Per_Variety_Description;
 
 struct Mobile_Wines_per_Maridage_Record {
   Integer Mobile_Wines_per_Maridage_ID{};  ///< given by the program: the last row's plus 1
@@ -201,16 +127,7 @@ struct Mobile_Wines_per_Maridage_Record {
 inline Mobile_Wines_per_Maridage_Record Mobile_Wines_per_Maridage;
 inline Record_Store::Recordset Mobile_Wines_per_Maridage_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Mobile_Wines_per_Maridage_Record> Mobile_Wines_per_Maridage_Description =
-    [] {
-      using R = Mobile_Wines_per_Maridage_Record;
-      return Tables::Table<R>{"Mobile_Wines_per_Maridage",
-                              {{"Mobile_Wines_per_Maridage_ID", &R::Mobile_Wines_per_Maridage_ID},
-                               {"Maridage_ID", &R::Maridage_ID, -1},
-                               {"Mobile_Wine_ID", &R::Mobile_Wine_ID, -1},
-                               {"SERIAL_NUMBER", &R::SERIAL_NUMBER, "CUS"}},
-                              {{"Mobile_Wine_ID"}}};
-    }();
+extern const Tables::Table<Mobile_Wines_per_Maridage_Record> Mobile_Wines_per_Maridage_Description;
 
 // ---- pair rows: varieties of a wine ----
 
@@ -222,12 +139,7 @@ struct Varieties_of_Wines_Record {
 inline Varieties_of_Wines_Record Varieties_of_Wines;
 inline Record_Store::Recordset Varieties_of_Wines_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Varieties_of_Wines_Record> Varieties_of_Wines_Description = [] {
-  using R = Varieties_of_Wines_Record;
-  return Tables::Table<R>{"Varieties_of_Wines",
-                          {{"Wine_ID", &R::Wine_ID}, {"Variety_ID", &R::Variety_ID}},
-                          {{"Wine_ID"}}};
-}();
+extern const Tables::Table<Varieties_of_Wines_Record> Varieties_of_Wines_Description;
 
 struct Varieties_of_Mobile_Wines_Record {
   Long Mobile_Wine_ID{};
@@ -238,16 +150,7 @@ struct Varieties_of_Mobile_Wines_Record {
 inline Varieties_of_Mobile_Wines_Record Varieties_of_Mobile_Wines;
 inline Record_Store::Recordset Varieties_of_Mobile_Wines_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Varieties_of_Mobile_Wines_Record> Varieties_of_Mobile_Wines_Description =
-    [] {
-      using R = Varieties_of_Mobile_Wines_Record;
-      return Tables::Table<R>{
-          "Varieties_of_Mobile_Wines",
-          {{"Mobile_Wine_ID", &R::Mobile_Wine_ID},
-           {"Variety_ID", &R::Variety_ID},
-           {"Varieties_of_Mobile_Wines_ID", &R::Varieties_of_Mobile_Wines_ID, Tables::Counter}},
-          {{"Mobile_Wine_ID"}}};
-    }();
+extern const Tables::Table<Varieties_of_Mobile_Wines_Record> Varieties_of_Mobile_Wines_Description;
 
 // ---- pair rows: cheeses, each direction with a table of its own ----
 
@@ -262,16 +165,7 @@ struct Cheeses_Per_Variety_Record {
 inline Cheeses_Per_Variety_Record Cheeses_Per_Variety;
 inline Record_Store::Recordset Cheeses_Per_Variety_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Cheeses_Per_Variety_Record> Cheeses_Per_Variety_Description = [] {
-  using R = Cheeses_Per_Variety_Record;
-  return Tables::Table<R>{"Cheeses_Per_Variety",
-                          {{"GROUP", &R::GROUP, 0},
-                           {"SERIAL_NUMBER", &R::SERIAL_NUMBER, "CUS"},
-                           {"SUBCATEGO", &R::SUBCATEGO, 0},
-                           {"Variety_ID", &R::Variety_ID, 0},
-                           {"Cheese_ID", &R::Cheese_ID, 0}},
-                          {}};
-}();
+extern const Tables::Table<Cheeses_Per_Variety_Record> Cheeses_Per_Variety_Description;
 
 struct Cheeses_Per_Maridage_Record {
   Long Cheese_ID{};
@@ -281,12 +175,7 @@ struct Cheeses_Per_Maridage_Record {
 inline Cheeses_Per_Maridage_Record Cheeses_Per_Maridage;
 inline Record_Store::Recordset Cheeses_Per_Maridage_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Cheeses_Per_Maridage_Record> Cheeses_Per_Maridage_Description = [] {
-  using R = Cheeses_Per_Maridage_Record;
-  return Tables::Table<R>{"Cheeses_Per_Maridage",
-                          {{"Cheese_ID", &R::Cheese_ID}, {"Maridage_ID", &R::Maridage_ID}},
-                          {{"Cheese_ID"}}};
-}();
+extern const Tables::Table<Cheeses_Per_Maridage_Record> Cheeses_Per_Maridage_Description;
 
 struct Cheeses_Per_Wines_Record {
   Integer Cheese_ID{};
@@ -296,11 +185,7 @@ struct Cheeses_Per_Wines_Record {
 inline Cheeses_Per_Wines_Record Cheeses_Per_Wines;
 inline Record_Store::Recordset Cheeses_Per_Wines_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Cheeses_Per_Wines_Record> Cheeses_Per_Wines_Description = [] {
-  using R = Cheeses_Per_Wines_Record;
-  return Tables::Table<R>{
-      "Cheeses_Per_Wines", {{"Cheese_ID", &R::Cheese_ID}, {"Wine_ID", &R::Wine_ID}}, {}};
-}();
+extern const Tables::Table<Cheeses_Per_Wines_Record> Cheeses_Per_Wines_Description;
 
 struct Wines_Per_Cheeses_Record {
   Integer Cheese_ID{};
@@ -310,12 +195,7 @@ struct Wines_Per_Cheeses_Record {
 inline Wines_Per_Cheeses_Record Wines_Per_Cheeses;
 inline Record_Store::Recordset Wines_Per_Cheeses_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Wines_Per_Cheeses_Record> Wines_Per_Cheeses_Description = [] {
-  using R = Wines_Per_Cheeses_Record;
-  return Tables::Table<R>{"Wines_Per_Cheeses",
-                          {{"Cheese_ID", &R::Cheese_ID}, {"Wine_ID", &R::Wine_ID}},
-                          {{"Cheese_ID"}}};
-}();
+extern const Tables::Table<Wines_Per_Cheeses_Record> Wines_Per_Cheeses_Description;
 
 struct Cheeses_Per_Mobile_Wines_Record {
   Integer Cheese_ID{};
@@ -325,14 +205,7 @@ struct Cheeses_Per_Mobile_Wines_Record {
 inline Cheeses_Per_Mobile_Wines_Record Cheeses_Per_Mobile_Wines;
 inline Record_Store::Recordset Cheeses_Per_Mobile_Wines_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Cheeses_Per_Mobile_Wines_Record> Cheeses_Per_Mobile_Wines_Description =
-    [] {
-      using R = Cheeses_Per_Mobile_Wines_Record;
-      return Tables::Table<R>{
-          "Cheeses_Per_Mobile_Wines",
-          {{"Cheese_ID", &R::Cheese_ID}, {"Mobile_Wines_ID", &R::Mobile_Wines_ID}},
-          {{"Cheese_ID"}, {"Mobile_Wines_ID"}}};
-    }();
+extern const Tables::Table<Cheeses_Per_Mobile_Wines_Record> Cheeses_Per_Mobile_Wines_Description;
 
 struct Mobile_Wines_Per_Cheeses_Record {
   Long Mobile_Wines_Per_Cheeses_ID{};
@@ -343,13 +216,4 @@ struct Mobile_Wines_Per_Cheeses_Record {
 inline Mobile_Wines_Per_Cheeses_Record Mobile_Wines_Per_Cheeses;
 inline Record_Store::Recordset Mobile_Wines_Per_Cheeses_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Mobile_Wines_Per_Cheeses_Record> Mobile_Wines_Per_Cheeses_Description =
-    [] {
-      using R = Mobile_Wines_Per_Cheeses_Record;
-      return Tables::Table<R>{
-          "Mobile_Wines_Per_Cheeses",
-          {{"Mobile_Wines_Per_Cheeses_ID", &R::Mobile_Wines_Per_Cheeses_ID, Tables::Counter},
-           {"Cheese_ID", &R::Cheese_ID},
-           {"Mobile_Wines_ID", &R::Mobile_Wines_ID}},
-          {{"Cheese_ID"}, {"Mobile_Wines_ID"}}};
-    }();
+extern const Tables::Table<Mobile_Wines_Per_Cheeses_Record> Mobile_Wines_Per_Cheeses_Description;

@@ -3,9 +3,7 @@
 #include "core/tables/Link_Tables.h"
 #include "core/tables/Wine_Tables.h"
 
-void Init_Mobile_Wines_Record() {
-  Mobile_Wines_Description.Init(Mobile_Wines);
-}
+void Init_Mobile_Wines_Record() { Mobile_Wines_Description.Init(Mobile_Wines); }
 void Read_Mobile_Wines_Record() {
   Mobile_Wines_Description.Read(Mobile_Wines_Recordset, Mobile_Wines);
 }

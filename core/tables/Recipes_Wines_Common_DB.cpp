@@ -20,25 +20,13 @@ void Open_Table(Record_Store::Recordset& table, std::string_view name) {
   table = Wine_Cellar_DB->OpenRecordset(name);
 }
 
-void Init_Varieties_Record() {
-  Varieties_Description.Init(Varieties);
-}
-void Read_Varieties_Record() {
-  Varieties_Description.Read(Varieties_Recordset, Varieties);
-}
-void Write_Varieties_Record() {
-  Varieties_Description.Write(Varieties_Recordset, Varieties);
-}
+void Init_Varieties_Record() { Varieties_Description.Init(Varieties); }
+void Read_Varieties_Record() { Varieties_Description.Read(Varieties_Recordset, Varieties); }
+void Write_Varieties_Record() { Varieties_Description.Write(Varieties_Recordset, Varieties); }
 
-void Init_Wines_Record() {
-  Wines_Description.Init(Wines);
-}
-void Read_Wines_Record() {
-  Wines_Description.Read(Wines_Recordset, Wines);
-}
-void Write_Wines_Record() {
-  Wines_Description.Write(Wines_Recordset, Wines);
-}
+void Init_Wines_Record() { Wines_Description.Init(Wines); }
+void Read_Wines_Record() { Wines_Description.Read(Wines_Recordset, Wines); }
+void Write_Wines_Record() { Wines_Description.Write(Wines_Recordset, Wines); }
 
 void Init_Maridages_Per_Variety_Record() {
   Maridages_Per_Variety_Description.Init(Maridages_Per_Variety);

@@ -24,22 +24,7 @@ inline Record_Store::Recordset Words_Recordset;  ///< opened beside each query o
 inline Record_Store::Recordset Words_Query;      ///< one screen's rows; stays open until the next
 
 /// A language's number, 3 to 9, is its column's ordinal.
-inline const Tables::Table<Words_Record> Words_Description = [] {
-  using R = Words_Record;
-  return Tables::Table<R>{"Words",
-                          {{"ID", &R::ID, Tables::Counter},
-                           {"Program", &R::Program},
-                           {"Variable", &R::Variable},
-                           {"English", &R::English},
-                           {"Spanish", &R::Spanish},
-                           {"French", &R::French},
-                           {"German", &R::German},
-                           {"Italian", &R::Italian},
-                           {"Japanese", &R::Japanese},
-                           {"Portuguese", &R::Portuguese},
-                           {"types_variable", &R::types_variable}},
-                          {}};
-}();
+extern const Tables::Table<Words_Record> Words_Description;
 
 // ---- Words_for_Data: long texts that other rows point to ----
 
@@ -59,20 +44,7 @@ inline Words_for_Data_Record Words_for_Data;
 inline Record_Store::Recordset Words_for_Data_Recordset;  ///< open only while in use
 
 /// A language's number less 2 is its column's ordinal. Some screens take the key by the name ID.
-inline const Tables::Table<Words_for_Data_Record> Words_for_Data_Description = [] {
-  using R = Words_for_Data_Record;
-  return Tables::Table<R>{"Words_for_Data",
-                          {{"Multi_Language_ID", &R::Multi_Language_ID, Tables::Counter},
-                           {"English", &R::English, "x"},
-                           {"Spanish", &R::Spanish, "x"},
-                           {"French", &R::French, "x"},
-                           {"German", &R::German, "x"},
-                           {"Italian", &R::Italian, "x"},
-                           {"Japanes", &R::Japanes, "x"},
-                           {"Portuguese", &R::Portuguese, "x"},
-                           {"ID", &R::ID, Tables::Copy_Of_Counter}},
-                          {Tables::Primary("Multi_Language_ID")}};
-}();
+extern const Tables::Table<Words_for_Data_Record> Words_for_Data_Description;
 
 // ---- Glossary: delivered, never written ----
 
@@ -93,21 +65,7 @@ inline Glossary_Record Glossary;
 inline Record_Store::Recordset Glossary_Recordset;  ///< open only while in use
 
 /// A language's number, 3 to 9, is its column's ordinal.
-inline const Tables::Table<Glossary_Record> Glossary_Description = [] {
-  using R = Glossary_Record;
-  return Tables::Table<R>{"Glossary",
-                          {{"ID", &R::ID, Tables::Counter},
-                           {"Keyword", &R::Keyword},
-                           {"Country_of_Origin", &R::Country_of_Origin},
-                           {"English", &R::English},
-                           {"Spanish", &R::Spanish},
-                           {"French", &R::French},
-                           {"German", &R::German},
-                           {"Italian", &R::Italian},
-                           {"Japanese", &R::Japanese},
-                           {"Portuguese", &R::Portuguese}},
-                          {Tables::Primary("ID")}};
-}();
+extern const Tables::Table<Glossary_Record> Glossary_Description;
 
 // ---- ReplaceKeys: words of the screens back into the English words of the data; never written
 // ----
@@ -120,11 +78,7 @@ struct ReplaceKeys_Record {
 inline ReplaceKeys_Record ReplaceKeys;
 inline Record_Store::Recordset ReplaceKeys_Recordset;  ///< open only while in use
 
-inline const Tables::Table<ReplaceKeys_Record> ReplaceKeys_Description = [] {
-  using R = ReplaceKeys_Record;
-  return Tables::Table<R>{
-      "ReplaceKeys", {{"Foreign_Key", &R::Foreign_Key}, {"English_Key", &R::English_Key}}, {}};
-}();
+extern const Tables::Table<ReplaceKeys_Record> ReplaceKeys_Description;
 
 // ---- Languages_Available: delivered, never written ----
 
@@ -138,12 +92,4 @@ struct Languages_Available_Record {
 inline Languages_Available_Record Languages_Available;
 inline Record_Store::Recordset Languages_Available_Recordset;  ///< open only while in use
 
-inline const Tables::Table<Languages_Available_Record> Languages_Available_Description = [] {
-  using R = Languages_Available_Record;
-  return Tables::Table<R>{"Languages_Available",
-                          {{"ID", &R::ID},
-                           {"Language_Name", &R::Language_Name},
-                           {"Language_Number", &R::Language_Number},
-                           {"Width_Main", &R::Width_Main}},
-                          {{"Language_Number"}}};
-}();
+extern const Tables::Table<Languages_Available_Record> Languages_Available_Description;

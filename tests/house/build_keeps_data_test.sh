@@ -19,7 +19,8 @@ new_house() {
   mkdir -p "$work/house/data"
   cp -r "$source_root/scripts" "$work/house/scripts"
   stand_in "$work/bin/cmake" 'exit 0'
-  stand_in "$work/house/build/release/app/wine_cellar" 'echo the program'
+  stand_in "$work/house/build/release/delivered/wine_cellar" 'echo the program'
+  stand_in "$work/house/build/release/delivered/dbase/Wine_Cellar.mdb" 'a delivered data file'
   # shellcheck disable=SC2016
   stand_in "$work/house/build/release/tools/data_compiler" 'echo "$3 $4" >"$2"'
 }

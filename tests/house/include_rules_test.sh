@@ -70,7 +70,8 @@ no  platform/forms/A.cpp "platform/record_store/S.h"
 no  platform/forms/A.cpp "core/C.h"
 no  platform/files/A.cpp "platform/forms/F.h"
 no  tools/A.cpp "media/M.h"
-no  tools/A.cpp <QImage>
+yes tools/A.cpp <QImage>
+no  tools/A.h <QImage>
 no  core/A.cpp "platform/run_time/Locale.h"
 no  tests/core/A.cpp <sqlcipher/sqlite3.h>
 no  platform/run_time/R.h "platform/run_time/R.h"

@@ -1,6 +1,7 @@
 #include "platform/forms/Application.h"
 
 #include <QApplication>
+#include <QProxyStyle>
 
 #include "platform/forms/Focus.h"
 #include "platform/forms/Message_Box.h"
@@ -18,6 +19,17 @@ std::string& App_Path_For_Tests() {
   static std::string path;
   return path;
 }
+
+/// The desktop's own style, with one thing settled: a combo box opens below itself and scrolls, and
+/// does not cover the screen with all its entries.
+class Desktop_Style : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_ComboBox_Popup) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
 
 void Settle() {
   Settle_Screens();
@@ -38,6 +50,7 @@ Application::Application(int& argc, char** argv) : data_(std::make_unique<Data>(
   QApplication::setApplicationName("wine-cellar");
   QApplication::setDesktopFileName("org.winecellar.Wine_Cellar");
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setStyle(new Desktop_Style);
   Focus_Watch::The().Begin();
   Hooks().show = Show_Failure;
   Hooks().settled = Settle;

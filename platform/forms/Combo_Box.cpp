@@ -37,7 +37,18 @@ class Combo_Widget : public QComboBox {
   void showPopup() override {
     if (combo_.Locked() || count() == 0) return;
     if (auto* list = qobject_cast<QListView*>(view())) list->setUniformItemSizes(true);
+    view()->window()->installEventFilter(this);
     QComboBox::showPopup();
+  }
+
+  // The first click of two opens the list, and the list gets the second one.
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() != QEvent::MouseButtonDblClick) return QComboBox::eventFilter(object, event);
+    const auto& click = static_cast<const QMouseEvent&>(*event);
+    if (!rect().contains(mapFromGlobal(click.globalPosition().toPoint()))) return false;
+    hidePopup();
+    Raise(combo_, combo_.DblClick);
+    return true;
   }
 
  protected:

@@ -56,12 +56,14 @@ void Item_List::Set_List(int index, std::string_view text) {
 
 void Item_List::Set_ListIndex(int index) {
   if (index < -1 || index >= ListCount()) Fail(Failure::Invalid_Property_Value);
-  list_index_ = index;
-  {
-    const QSignalBlocker no_signals(Widget());
-    Show_List_Index();
-  }
+  Take_Index(index);
   if (index >= 0 && Click) Click();
+}
+
+void Item_List::Take_Index(int index) {
+  list_index_ = index;
+  const QSignalBlocker no_signals(Widget());
+  Show_List_Index();
 }
 
 void Item_List::Chosen_By_User(int index) {

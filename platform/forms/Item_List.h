@@ -48,6 +48,8 @@ class Item_List : public Lockable_Control {
   Item_List(Form& form, std::string_view name);
   Plain_List& Entries() const { return *entries_; }
   virtual void Show_List_Index() = 0;
+  /// The entry is the chosen one from now on; raises nothing.
+  void Take_Index(int index);
 
  private:
   std::unique_ptr<Plain_List> entries_;

@@ -34,6 +34,13 @@ class List_Widget : public QListView {
   }
 
  protected:
+  // The toolkit does not choose an entry whose tick box is pressed.
+  void mousePressEvent(QMouseEvent* event) override {
+    QListView::mousePressEvent(event);
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (index.isValid()) setCurrentIndex(index);
+  }
+
   // A drag does not choose: what was pressed is what is clicked.
   void mouseMoveEvent(QMouseEvent*) override {}
 
@@ -85,6 +92,7 @@ int Check_List::SelCount() const {
 
 void Check_List::Ticked_By_User(int index, bool ticked) {
   if (Locked() || Entries().Ticked(index) == ticked) return;
+  Take_Index(index);
   Entries().Set_Ticked(index, ticked);
   Raise(*this, ItemCheck, index);
 }

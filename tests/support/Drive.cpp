@@ -85,7 +85,7 @@ QAbstractItemView& Find_List(std::string_view name) {
 QRect Row_Place(QAbstractItemView& view, int row) {
   const QModelIndex index = view.model()->index(row, 0);
   view.scrollTo(index);
-  return view.visualRect(index);
+  return view.visualRect(index).intersected(view.viewport()->rect());
 }
 
 // The menus that lead to an action, outermost first.

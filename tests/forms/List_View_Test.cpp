@@ -1,0 +1,225 @@
+// The list view: its rows, its order, what the user's doings raise, and what code does not.
+#include <gtest/gtest.h>
+
+#include <QTreeView>
+#include <random>
+
+#include "platform/forms/Forms.h"
+#include "platform/record_store/Text_Order.h"
+#include "platform/run_time/Guard.h"
+#include "tests/support/Drive.h"
+#include "tests/support/Expect_Failure.h"
+
+namespace {
+
+using Log = std::vector<std::string>;
+using Forms::List_Item;
+using Forms::List_View;
+
+class Regions_Form : public Forms::Form {
+ public:
+  Regions_Form() : Form("Regions_Form", "Regions") {
+    List.ItemClick = [this](List_Item item) {
+      log.push_back(item.Text());
+      if (takes_focus) Name_Text.SetFocus();
+      if (deselects) List.SelectedItem().Set_Selected(false);
+    };
+    List.ColumnClick = [](const Forms::Column_Header& header) {
+      log.push_back(std::to_string(header.Index) + " " + header.Text);
+    };
+    Name_Text.LostFocus = [] { log.push_back("LostFocus"); };
+    Set_Content(Forms::Column({Name_Text, Forms::Place(List).High(10).Grow()}));
+  }
+
+  void Form_Load() override { Fill(); }
+
+  void Fill() {
+    List.Clear();
+    const char* const rows[][3] = {{"Rioja", "Spain", "7"},
+                                   {"alsace", "France", "2"},
+                                   {"Éclair", "France", "3"},
+                                   {"Loire", "france", "4"},
+                                   {"Zitsa", "Greece", "5"}};
+    for (const auto& row : rows) {
+      List_Item item = List.Add(row[0]);
+      item.Set_SubItems(1, row[1]);
+      item.Set_SubItems(2, row[2]);
+    }
+  }
+
+  static inline Log log;
+  bool takes_focus = false;
+  bool deselects = false;
+  Forms::Text_Box Name_Text{*this, "Name_Text"};
+  List_View List{*this,
+                 "Regions_ListView",
+                 {{"Wine Region Name", 20}, {"Country"}, {"Region_ID", 4, true}, {"Notes"}}};
+};
+
+class List_View_Test : public testing::Test {
+ protected:
+  ~List_View_Test() override { Forms::Screens::Clear_For_Tests(); }
+
+  static Log Taken() { return std::exchange(Regions_Form::log, {}); }
+
+  static Regions_Form& Opened() {
+    Forms::Screens::Register<Regions_Form>("Regions_Form");
+    Run_Guarded([] { Forms::Screen("Regions_Form").Open(); });
+    EXPECT_TRUE(Wait_Until([] { return Focused() == "Name_Text"; }));
+    return dynamic_cast<Regions_Form&>(Forms::Screen("Regions_Form").Instance());
+  }
+
+  Regions_Form& form = Opened();
+  List_View& list = form.List;
+
+  Log Names() {
+    Log names;
+    for (int i = 1; i <= list.Count(); ++i) names.push_back(list.ListItems(i).Text());
+    return names;
+  }
+};
+
+TEST_F(List_View_Test, Rows_and_sub_items_are_counted_from_one) {
+  EXPECT_EQ(Shown_Rows("Regions_ListView")[0], "Rioja | Spain | 7 | ");
+  EXPECT_TRUE(dynamic_cast<QTreeView&>(Find("Regions_ListView")).isColumnHidden(2));
+  List_Item last = list.ListItems(5);
+  EXPECT_EQ(last.SubItems(2), "5");
+  EXPECT_EQ(last.SubItems(3), "");
+  EXPECT_EQ(last.ListSubItems(1), "Greece");
+  EXPECT_FAILURE(35600, last.ListSubItems(3));
+  EXPECT_FAILURE(35600, list.ListItems(0));
+  EXPECT_FAILURE(35600, list.ListItems(6));
+  EXPECT_FAILURE(35600, list.Remove(6));
+  EXPECT_FAILURE(380, last.SubItems(4));
+  EXPECT_FAILURE(91, list.SelectedItem());
+  last.Set_SubItems(1, "a longer text than there was");
+  last.Set_SubItems(2, "");
+  EXPECT_EQ(last.ListSubItems(1) + last.ListSubItems(2), "a longer text than there was");
+  list.Remove(1);
+  EXPECT_EQ(Names(), Log({"alsace", "Éclair", "Loire", "Zitsa"}));
+  EXPECT_EQ(last.Index(), 4);
+  last.Set_Bold(true);
+  last.Set_ForeColor(Forms::Inactive_Label_Color);
+  Settle_Events();
+  const auto* model = dynamic_cast<QTreeView&>(Find("Regions_ListView")).model();
+  EXPECT_TRUE(model->index(3, 0).data(Qt::FontRole).value<QFont>().bold());
+  EXPECT_EQ(model->index(3, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(128, 128, 128));
+  EXPECT_EQ(Taken(), Log());
+}
+
+TEST_F(List_View_Test, Sorts_without_regard_to_case_and_keeps_equal_rows_as_they_stood) {
+  list.Set_Sorted(true);
+  EXPECT_EQ(Names(), Log({"alsace", "Éclair", "Loire", "Rioja", "Zitsa"}));
+  list.Set_SortKey(1);
+  EXPECT_EQ(Names(), Log({"alsace", "Éclair", "Loire", "Zitsa", "Rioja"}));
+  list.Set_SortOrder(1);
+  EXPECT_EQ(Names(), Log({"Rioja", "Zitsa", "alsace", "Éclair", "Loire"}));
+  list.Add("Dão").Set_SubItems(1, "Portugal");
+  EXPECT_EQ(list.ListItems(2).Text(), "Dão");
+  Settle_Events();
+  EXPECT_EQ(Shown_Rows("Regions_ListView")[1], "Dão | Portugal |  | ");
+  EXPECT_FAILURE(380, list.Set_SortKey(4));
+  EXPECT_FAILURE(380, list.Set_SortOrder(2));
+  Click_Header("Regions_ListView", 1);
+  EXPECT_EQ(Taken(), Log({"LostFocus", "2 Country"}));
+}
+
+TEST_F(List_View_Test, Agrees_with_a_plain_stable_sort_over_many_rows) {
+  std::mt19937 random(7);
+  std::vector<std::pair<std::string, int>> wanted;
+  list.Clear();
+  for (int i = 0; i < 3000; ++i) {
+    const std::string text = (i % 2 == 0 ? "Wine " : "wine ") + std::to_string(random() % 400);
+    wanted.emplace_back(text, i);
+    list.Add(text).Set_SubItems(1, std::to_string(i));
+  }
+  std::ranges::stable_sort(
+      wanted, [](const auto& a, const auto& b) { return Compare_Keys(a.first, b.first) < 0; });
+  list.Set_Sorted(true);
+  for (int i = 0; i < 3000; ++i) {
+    const auto place = static_cast<std::size_t>(i);
+    ASSERT_EQ(list.ListItems(i + 1).SubItems(1), std::to_string(wanted[place].second)) << i;
+  }
+}
+
+TEST_F(List_View_Test, Finds_one_item_or_nothing) {
+  using Where = List_View::Where;
+  using Match = List_View::Match;
+  const auto found = [&](const char* text, Where where, Match match) {
+    const auto item = list.FindItem(text, where, match);
+    return item ? item->Text() : "nothing";
+  };
+  EXPECT_EQ(found("ÉCLAIR", Where::Text, Match::Whole), "Éclair");
+  EXPECT_EQ(found("Eclair", Where::Text, Match::Whole), "nothing");
+  EXPECT_EQ(found("écl", Where::Text, Match::Whole), "nothing");
+  EXPECT_EQ(found("écl", Where::Text, Match::Beginning), "Éclair");
+  EXPECT_EQ(found("FRANCE", Where::Sub_Items, Match::Whole), "alsace");
+  EXPECT_EQ(found("Fran", Where::Sub_Items, Match::Beginning), "nothing");
+  EXPECT_EQ(found("Rioja", Where::Sub_Items, Match::Whole), "nothing");
+}
+
+TEST_F(List_View_Test, Selection_by_code_raises_nothing_and_follows_the_row) {
+  List_Item loire = *list.FindItem("Loire");
+  list.Set_SelectedItem(loire);
+  list.Set_Sorted(true);
+  Settle_Events();
+  const auto& view = dynamic_cast<QTreeView&>(Find("Regions_ListView"));
+  EXPECT_EQ(view.selectionModel()->selectedRows().value(0).row(), 2);
+  EXPECT_EQ(list.SelectedItem(), loire);
+  list.ListItems(1).Set_Selected(true);
+  EXPECT_FALSE(loire.Selected());
+  list.SelectedItem().Set_Selected(false);
+  EXPECT_FALSE(list.Has_Selection());
+  list.Set_SelectedItem(loire);
+  loire.EnsureVisible();
+  form.Fill();
+  Settle_Events();
+  EXPECT_FALSE(list.Has_Selection());
+  EXPECT_TRUE(view.selectionModel()->selectedRows().isEmpty());
+  EXPECT_EQ(Taken(), Log());
+}
+
+TEST_F(List_View_Test, Mouse_and_keys_pick_a_row) {
+  Click_Row("Regions_ListView", 1);
+  EXPECT_EQ(list.SelectedItem().Text(), "alsace");
+  Click_Row("Regions_ListView", 1);
+  Click_Row("Regions_ListView", 1, true);
+  EXPECT_EQ(Taken(), Log({"LostFocus", "alsace", "alsace", "alsace"}));
+  EXPECT_TRUE(list.ListItems(2).Selected());
+  for (const char* key : {"Down", "Return", "Space", "End", "Up"}) Press(key);
+  EXPECT_EQ(Taken(), Log({"Éclair", "Éclair", "Éclair", "Zitsa", "Loire"}));
+  list.Set_Arrow_Keys_Pick(false);
+  Press("Home");
+  EXPECT_EQ(Taken(), Log());
+  EXPECT_EQ(list.SelectedItem().Text(), "Rioja");
+  Press("Space");
+  EXPECT_EQ(Taken(), Log({"Rioja"}));
+}
+
+TEST_F(List_View_Test, Browsing_goes_on_though_the_handler_moves_the_focus_or_deselects) {
+  Click_Row("Regions_ListView", 0);
+  Taken();
+  form.takes_focus = true;
+  for (int i = 0; i < 3; ++i) Press("Down");
+  EXPECT_EQ(Taken(), Log({"alsace", "Éclair", "Loire"}));
+  EXPECT_EQ(Focused(), "Regions_ListView");
+  form.takes_focus = false;
+  form.deselects = true;
+  Press("Up");
+  Press("Up");
+  EXPECT_EQ(Taken(), Log({"Éclair", "alsace"}));
+  EXPECT_FALSE(list.Has_Selection());
+}
+
+TEST_F(List_View_Test, Ctrl_selects_several_rows_where_the_screen_asks_for_it) {
+  list.Set_MultiSelect(true);
+  Click_Row("Regions_ListView", 3);
+  Click_Row("Regions_ListView", 1, true);
+  EXPECT_TRUE(list.ListItems(2).Selected() && list.ListItems(4).Selected());
+  EXPECT_EQ(list.SelectedItem().Text(), "alsace");
+  Click_Row("Regions_ListView", 1, true);
+  EXPECT_FALSE(list.ListItems(2).Selected());
+  EXPECT_EQ(list.SelectedItem().Text(), "Loire");
+}
+
+}  // namespace

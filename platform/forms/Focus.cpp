@@ -37,9 +37,14 @@ Placed_Control* Focus_Watch::Control_Of(const QWidget* widget) const {
 
 void Focus_Watch::Moved(QWidget* now) {
   if (now == nullptr || by_code_ || loser_ != nullptr || Inside_Handler()) return;
-  Placed_Control* target = Control_Of(now);
-  if (target == nullptr && Form_Of(now) == nullptr) return;
-  Run_Guarded([&] { Change_Owner(target); });
+  if (Form_Of(now) != nullptr) Run_Guarded([&] { Look_Where(now); });
+}
+
+// A message box is no form of the program, and a form that is hidden or waits holds no focus.
+void Focus_Watch::Look_Where(QWidget* now) {
+  const Form* form = Form_Of(now);
+  if (form == nullptr || !form->Visible() || form->Data().waiting_for > 0) return;
+  Change_Owner(Control_Of(now));
 }
 
 void Focus_Watch::Change_Owner(Placed_Control* target) {
@@ -121,10 +126,7 @@ void Focus_Watch::Activate(Form& form) {
 }
 
 void Focus_Watch::Settle() {
-  if (QWidget* now = QApplication::focusWidget(); now != nullptr) {
-    Placed_Control* target = Control_Of(now);
-    if (target != nullptr || Form_Of(now) != nullptr) Change_Owner(target);
-  }
+  if (QWidget* now = QApplication::focusWidget()) Look_Where(now);
   Form* form = Form_Of(QApplication::activeWindow());
   if (form != nullptr && awaited_ == nullptr && form != front_) Activate(*form);
 }

@@ -47,6 +47,7 @@ class Focus_Watch : public QObject {
  private:
   Focus_Watch() = default;
   void Moved(QWidget* now);
+  void Look_Where(QWidget* now);
   void Change_Owner(Placed_Control* target);
   void Raise_Lost_Focus(Placed_Control& loser, Placed_Control* target);
   bool Filter_Press(QWidget* widget);

@@ -92,11 +92,11 @@ void Form::Show() {
 
 void Form::Hide() {
   Focus_Watch::The().Forget(*this);
-  if (data_->caller != nullptr) {
-    --data_->caller->Data().waiting_for;
-    data_->caller = nullptr;
-  }
   data_->window->hide();
+  if (Form* caller = std::exchange(data_->caller, nullptr)) {
+    --caller->Data().waiting_for;
+    caller->Window()->activateWindow();
+  }
 }
 
 void Form::Unload() {

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -180,7 +181,10 @@ std::vector<std::string> Shown_Rows(std::string_view name) {
 
 void Click(std::string_view name) {
   QWidget& widget = Find(name);
-  Click_At(widget, widget.rect().center());
+  // A check box takes a click on its box and its text only, and may be much wider.
+  const bool narrow = qobject_cast<QCheckBox*>(&widget) != nullptr;
+  Click_At(widget,
+           narrow ? QPoint(widget.height() / 2, widget.height() / 2) : widget.rect().center());
 }
 
 void Double_Click(std::string_view name) {

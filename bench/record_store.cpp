@@ -1,5 +1,6 @@
 // The record store against the bare engine: on the same encrypted file, in the same run, in turns.
-// Prints the median of each pair and their ratio.
+// Prints the median of each pair and their ratio. An argument (scan, seek, links, writes, opening)
+// picks one part.
 #include "platform/record_store/Record_Store.h"
 
 #include <sqlite3.h>
@@ -374,24 +375,26 @@ void Bench_Opening(const std::string& path) {
 
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
+  const std::string_view only = argc > 1 ? argv[1] : "";
+  const auto wanted = [&](std::string_view part) { return only.empty() || only == part; };
   const std::string path = std::filesystem::temp_directory_path() /
                            ("record_store_bench_" + std::to_string(getpid()) + ".mdb");
-  Watched_Disk::Install();
   Fill(path);
+  Watched_Disk::Install();
   {
     Bare_Engine bare(path, password);
     bare.Execute("PRAGMA cache_size=-65536");
     bare.Execute("BEGIN");
     const auto database = OpenDatabase(path, false, false, connect);
-    Bench_Scan(bare, *database);
-    Bench_Seeks(bare, *database);
-    Bench_Links(bare, *database);
+    if (wanted("scan")) Bench_Scan(bare, *database);
+    if (wanted("seek")) Bench_Seeks(bare, *database);
+    if (wanted("links")) Bench_Links(bare, *database);
     bare.Execute("COMMIT");
-    Bench_Writes(*database);
+    if (wanted("writes")) Bench_Writes(*database);
   }
-  Bench_Opening(path);
-  std::filesystem::remove(path);
+  if (wanted("opening")) Bench_Opening(path);
+  if (!wanted("keep")) std::filesystem::remove(path);
   std::filesystem::remove(path + "-journal");
   return sink == 42 ? 1 : 0;
 }

@@ -10,8 +10,15 @@ Plain Plain_Of(Cursor& cursor, int ordinal) {
   return To_Plain(cursor.Get(ordinal), cursor.Layout().At(ordinal).type);
 }
 
-bool Is_Whole_Type(std::optional<Field_Type> type) {
-  return type == Field_Type::Long || type == Field_Type::Integer;
+// Most fields are asked for as the type that they have. What that takes to be read is worth nothing
+// then; all else goes the long way.
+template <class Result>
+Result Read(Cursor& cursor, int ordinal, Field_Type own, Cell_Kind kind,
+            Result (*take)(const Value&), Result (*convert)(const Plain&)) {
+  const Value value = cursor.Get(ordinal);
+  const std::optional<Field_Type> type = cursor.Layout().At(ordinal).type;
+  if (type == own && value.kind == kind) return take(value);
+  return convert(To_Plain(value, type));
 }
 
 }  // namespace
@@ -32,25 +39,43 @@ Field_Type Field::Type() const {
 
 bool Field::Is_Null() const { return cursor_->Get(ordinal_).kind == Cell_Kind::Null; }
 
-bool Field::As_Boolean() const { return To_Boolean(Plain_Of(*cursor_, ordinal_)); }
-
-Integer Field::As_Integer() const { return To_Integer_Value(Plain_Of(*cursor_, ordinal_)); }
-
-// The two types that most fields have go the short way.
-Long Field::As_Long() const {
-  const Value value = cursor_->Get(ordinal_);
-  const std::optional<Field_Type> type = cursor_->Layout().At(ordinal_).type;
-  if (value.kind == Cell_Kind::Number && Is_Whole_Type(type) && value.number <= INT32_MAX &&
-      value.number >= INT32_MIN) {
-    return static_cast<Long>(value.number);
-  }
-  return To_Long_Value(To_Plain(value, type));
+bool Field::As_Boolean() const {
+  return Read<bool>(
+      *cursor_, ordinal_, Field_Type::Boolean, Cell_Kind::Number,
+      [](const Value& value) { return value.number != 0; }, To_Boolean);
 }
 
-Single Field::As_Single() const { return To_Single_Value(Plain_Of(*cursor_, ordinal_)); }
+Integer Field::As_Integer() const {
+  return Read<Integer>(
+      *cursor_, ordinal_, Field_Type::Integer, Cell_Kind::Number,
+      [](const Value& value) { return static_cast<Integer>(value.number); }, To_Integer_Value);
+}
+
+Long Field::As_Long() const {
+  return Read<Long>(
+      *cursor_, ordinal_, Field_Type::Long, Cell_Kind::Number,
+      [](const Value& value) { return static_cast<Long>(value.number); }, To_Long_Value);
+}
+
+Single Field::As_Single() const {
+  return Read<Single>(
+      *cursor_, ordinal_, Field_Type::Single, Cell_Kind::Real,
+      [](const Value& value) { return static_cast<Single>(value.real); }, To_Single_Value);
+}
+
 double Field::As_Double() const { return To_Double_Value(Plain_Of(*cursor_, ordinal_)); }
-Currency Field::As_Currency() const { return To_Currency_Value(Plain_Of(*cursor_, ordinal_)); }
-Date Field::As_Date() const { return To_Date_Value(Plain_Of(*cursor_, ordinal_)); }
+
+Currency Field::As_Currency() const {
+  return Read<Currency>(
+      *cursor_, ordinal_, Field_Type::Currency, Cell_Kind::Number,
+      [](const Value& value) { return Currency{value.number}; }, To_Currency_Value);
+}
+
+Date Field::As_Date() const {
+  return Read<Date>(
+      *cursor_, ordinal_, Field_Type::Date, Cell_Kind::Number,
+      [](const Value& value) { return Date{value.number}; }, To_Date_Value);
+}
 
 Text Field::As_Text() const {
   Text text;

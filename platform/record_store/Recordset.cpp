@@ -60,7 +60,12 @@ void Recordset::MoveNext() { Open_Cursor().Move_Next(); }
 void Recordset::MovePrevious() { Open_Cursor().Move_Previous(); }
 Long Recordset::RecordCount() const { return Open_Cursor().Count(); }
 
-Field Recordset::Fields(std::string_view name) const { return {Open_Cursor(), Ordinal(name)}; }
+Field Recordset::Fields(std::string_view name) const {
+  Cursor& cursor = Open_Cursor();
+  const int ordinal = cursor.Layout().Find(name);
+  if (ordinal < 0) Fail(Failure::No_Such_Item);
+  return {cursor, ordinal};
+}
 
 Field Recordset::Fields(int ordinal) const {
   Cursor& cursor = Open_Cursor();

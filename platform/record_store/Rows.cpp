@@ -1,25 +1,6 @@
 #include "platform/record_store/Rows.h"
 
-#include <sqlite3.h>
-
 namespace Record_Store {
-
-Value Column_Value(sqlite3_stmt* statement, int column) {
-  sqlite3_value* value = sqlite3_column_value(statement, column);
-  switch (sqlite3_value_type(value)) {
-    case SQLITE_INTEGER:
-      return Value::Of(static_cast<std::int64_t>(sqlite3_value_int64(value)));
-    case SQLITE_FLOAT:
-      return Value::Of(sqlite3_value_double(value));
-    case SQLITE_NULL:
-      return {};
-    default: {
-      const void* bytes = sqlite3_value_blob(value);  // asks for no ending zero
-      const auto length = static_cast<std::size_t>(sqlite3_value_bytes(value));
-      return Value::Of(std::string_view(static_cast<const char*>(bytes), length));
-    }
-  }
-}
 
 void Bind_Value(sqlite3_stmt* statement, int parameter, const Value& value) {
   switch (value.kind) {

@@ -1,13 +1,13 @@
 // Values of a row as the engine gives them, and rows kept apart from the engine.
 #pragma once
 
+#include <sqlite3.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
-
-struct sqlite3_stmt;
 
 namespace Record_Store {
 
@@ -17,17 +17,40 @@ enum class Cell_Kind : std::uint8_t { Null, Number, Real, Text };
 /// or the block that it was read from.
 struct Value {
   Cell_Kind kind = Cell_Kind::Null;
-  std::int64_t number = 0;
-  double real = 0;
-  std::string_view text;
+  union {
+    std::int64_t number;
+    double real;
+    std::string_view text;
+  };
 
-  static Value Of(std::int64_t number) { return {Cell_Kind::Number, number, 0, {}}; }
-  static Value Of(double real) { return {Cell_Kind::Real, 0, real, {}}; }
-  static Value Of(std::string_view text) { return {Cell_Kind::Text, 0, 0, text}; }
+  Value() : number(0) {}
+  static Value Of(std::int64_t value) { return Value(value); }
+  static Value Of(double value) { return Value(value); }
+  static Value Of(std::string_view value) { return Value(value); }
+
+ private:
+  explicit Value(std::int64_t value) : kind(Cell_Kind::Number), number(value) {}
+  explicit Value(double value) : kind(Cell_Kind::Real), real(value) {}
+  explicit Value(std::string_view value) : kind(Cell_Kind::Text), text(value) {}
 };
 
 /// The value of a column of the row on which a statement stands.
-Value Column_Value(sqlite3_stmt* statement, int column);
+inline Value Column_Value(sqlite3_stmt* statement, int column) {
+  sqlite3_value* value = sqlite3_column_value(statement, column);
+  switch (sqlite3_value_type(value)) {
+    case SQLITE_INTEGER:
+      return Value::Of(static_cast<std::int64_t>(sqlite3_value_int64(value)));
+    case SQLITE_FLOAT:
+      return Value::Of(sqlite3_value_double(value));
+    case SQLITE_NULL:
+      return {};
+    default: {
+      const unsigned char* bytes = sqlite3_value_text(value);
+      const auto length = static_cast<std::size_t>(sqlite3_value_bytes(value));
+      return Value::Of(std::string_view(reinterpret_cast<const char*>(bytes), length));
+    }
+  }
+}
 
 /// Binds the value to the parameter (counted from 1). A text must stay where it is until the
 /// statement is reset.

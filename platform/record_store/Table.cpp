@@ -39,9 +39,11 @@ Order Order_Of(const Table_Schema& schema, const Index_Schema& index, const Layo
   return order;
 }
 
-// A form as a number, for the table of kept statements.
-int Number_Of(const Form& form) {
-  return (form.prefix * 5 + form.range) * 2 + (form.backwards ? 1 : 0);
+// Forms as numbers, for the table of kept statements.
+constexpr std::size_t forms_of_a_prefix = 10;
+std::size_t Number_Of(const Form& form) {
+  return static_cast<std::size_t>(form.prefix) * forms_of_a_prefix +
+         static_cast<std::size_t>(form.range) * 2 + (form.backwards ? 1 : 0);
 }
 
 }  // namespace
@@ -52,7 +54,9 @@ Table::Table(Table_Schema schema, Engine& engine)
   for (const Index_Schema& index : schema_.indexes) {
     orders_.push_back(Order_Of(schema_, index, layout_));
   }
-  pools_.resize(orders_.size());
+  for (const Order& order : orders_) {
+    pools_.emplace_back((order.sort.size() + 1) * forms_of_a_prefix);
+  }
   last_number_ = schema_.first_counter - 1;
 }
 
@@ -67,15 +71,19 @@ const Order* Table::Find_Order(std::string_view index) const {
 
 std::string Table::Quoted_Field(int ordinal) const { return Quoted(layout_.At(ordinal).name); }
 
+std::string Table::Columns() const {
+  std::string text;
+  for (int i = 0; i < layout_.Count(); ++i) text += (i == 0 ? "" : ", ") + Quoted_Field(i);
+  return layout_.Counter() >= 0 ? text : text + ", rowid";
+}
+
 std::string Table::Question(const Order& order, const Form& form) const {
   const auto column = [&](const Sort_Column& sort) {
     return Quoted_Field(sort.ordinal) + (sort.by_case ? " COLLATE WINE_CASE" : "");
   };
   const bool counter_sought = order.sort.empty() && form.range == Form::Sought;
 
-  std::string text = "SELECT ";
-  for (int i = 0; i < layout_.Count(); ++i) text += Quoted_Field(i) + ", ";
-  text += "rowid FROM " + Quoted(schema_.name);
+  std::string text = "SELECT " + Columns() + " FROM " + Quoted(schema_.name);
   if (!order.engine_index.empty()) text += " INDEXED BY " + Quoted(order.engine_index);
 
   std::string condition;
@@ -105,8 +113,7 @@ std::string Table::Question(const Order& order, const Form& form) const {
 }
 
 Table::Pool& Table::Pool_Of(const Order& order, const Form& form) {
-  auto& pools = pools_[static_cast<std::size_t>(&order - orders_.data())];
-  Pool& pool = pools[Number_Of(form)];
+  Pool& pool = pools_[static_cast<std::size_t>(&order - orders_.data())][Number_Of(form)];
   if (pool.engine_ == nullptr) {
     pool.engine_ = engine_;
     pool.text_ = Question(order, form);
@@ -130,9 +137,7 @@ sqlite3_stmt* Table::Keep(Statement& place, const std::string& text) {
 
 sqlite3_stmt* Table::Row_Statement() {
   if (row_) return row_.get();
-  std::string text = "SELECT ";
-  for (int i = 0; i < layout_.Count(); ++i) text += Quoted_Field(i) + ", ";
-  return Keep(row_, text + "rowid FROM " + Quoted(schema_.name) + " WHERE rowid=?");
+  return Keep(row_, "SELECT " + Columns() + " FROM " + Quoted(schema_.name) + " WHERE rowid=?");
 }
 
 sqlite3_stmt* Table::Insert_Statement() {

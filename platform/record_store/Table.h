@@ -1,6 +1,7 @@
 // A table as the store works on it: its orders, the statements kept for it, its counter.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <unordered_map>
@@ -47,7 +48,9 @@ class Table {
 
   const Table_Schema& Schema() const { return schema_; }
   const Record_Store::Layout& Layout() const { return layout_; }
-  int Width() const { return layout_.Count() + 1; }  ///< columns of a question: the fields, the row
+  /// The column of a question that has the row's number: the counter, or one behind the fields.
+  int Number_Column() const { return layout_.Counter() >= 0 ? layout_.Counter() : layout_.Count(); }
+  int Width() const { return std::max(layout_.Count(), Number_Column() + 1); }
 
   const Order& Storage_Order() const { return orders_.front(); }
   const Order* Find_Order(std::string_view index) const;  ///< nullptr where there is none
@@ -83,6 +86,7 @@ class Table {
 
  private:
   std::string Quoted_Field(int ordinal) const;
+  std::string Columns() const;
   std::string Question(const Order& order, const Form& form) const;
   sqlite3_stmt* Keep(Statement& place, const std::string& text);
 
@@ -90,7 +94,7 @@ class Table {
   Table_Schema schema_;
   Record_Store::Layout layout_;
   std::vector<Order> orders_;
-  std::vector<std::unordered_map<int, Pool>> pools_;  // by order, then by form
+  std::vector<std::vector<Pool>> pools_;  // by order, then by form
 
   Statement row_;
   Statement insert_;

@@ -157,7 +157,7 @@ Value Table_Cursor::Raw(int column) const {
   return live_ != nullptr ? Column_Value(live_, column) : row_.At(at_, column);
 }
 
-std::int64_t Table_Cursor::Row_Number() const { return Raw(layout_->Count()).number; }
+std::int64_t Table_Cursor::Row_Number() const { return Raw(table_->Number_Column()).number; }
 
 void Table_Cursor::Take_Anchor() {
   const int columns = static_cast<int>(order_->sort.size());

@@ -48,6 +48,14 @@ const Mapping_Entry* Find(std::span<const Mapping_Entry> entries, char32_t c) {
   return found != entries.end() && found->from == c ? &*found : nullptr;
 }
 
+constexpr auto plain_folding = [] {
+  std::array<unsigned char, 128> folding{};
+  for (unsigned char c = 0; c < 128; ++c) {
+    folding[c] = c >= 'A' && c <= 'Z' ? static_cast<unsigned char>(c + ('a' - 'A')) : c;
+  }
+  return folding;
+}();
+
 const Mapping_Entry* Folding_Of(char32_t c) {
   return Pages().Has(c, Page_Marks::Folds) ? Find(foldings, c) : nullptr;
 }
@@ -131,7 +139,9 @@ void Decompose(std::string_view text, Characters& to) {
 void Fold(const Characters& text, Characters& to) {
   to.clear();
   for (const char32_t c : text) {
-    if (const Mapping_Entry* entry = Folding_Of(c)) {
+    if (c < plain_folding.size()) {
+      to.push_back(plain_folding[c]);
+    } else if (const Mapping_Entry* entry = Folding_Of(c)) {
       to.insert(to.end(), &folding_pool[entry->at], &folding_pool[entry->at + entry->length]);
     } else {
       to.push_back(c);
@@ -194,16 +204,13 @@ int Compare_Rest(std::string_view a, std::string_view b, bool with_case, int cas
   return Compare_Case(a_whole, b_whole);
 }
 
-constexpr auto plain_folding = [] {
-  std::array<unsigned char, 128> folding{};
-  for (unsigned char c = 0; c < 128; ++c) {
-    folding[c] = c >= 'A' && c <= 'Z' ? static_cast<unsigned char>(c + ('a' - 'A')) : c;
-  }
-  return folding;
-}();
+// Behind a plain letter a text can be cut: nothing after it changes what stands before.
+std::size_t Last_Cut(std::string_view text, std::size_t at) {
+  while (at > 0 && (static_cast<unsigned char>(text[at - 1]) & 0x80) != 0) --at;
+  return at;
+}
 
-// Texts of plain letters are compared as they lie. The first other character leads to the full
-// comparison, since a mark may belong to the letter before it.
+// Texts are compared as they lie until they differ in something else than plain letters.
 int Compare(std::string_view a, std::string_view b, bool with_case) {
   const std::size_t common = std::min(a.size(), b.size());
   int case_before = 0;
@@ -211,19 +218,18 @@ int Compare(std::string_view a, std::string_view b, bool with_case) {
   for (; i < common; ++i) {
     const auto x = static_cast<unsigned char>(a[i]);
     const auto y = static_cast<unsigned char>(b[i]);
-    if (((x | y) & 0x80) != 0) {
-      return Compare_Rest(a.substr(i), b.substr(i), with_case, case_before);
-    }
     if (x == y) continue;
+    if (((x | y) & 0x80) != 0) break;
     if (plain_folding[x] != plain_folding[y]) return Sign(plain_folding[x] < plain_folding[y]);
     if (case_before == 0) case_before = Sign(x > y);
   }
-  if (a.size() == b.size()) return with_case ? case_before : 0;
-  const std::string_view longer = a.size() > b.size() ? a : b;
-  if ((static_cast<unsigned char>(longer[i]) & 0x80) != 0) {
-    return Compare_Rest(a.substr(i), b.substr(i), with_case, case_before);
+  if (i == common) {
+    if (a.size() == b.size()) return with_case ? case_before : 0;
+    const std::string_view longer = a.size() > b.size() ? a : b;
+    if ((static_cast<unsigned char>(longer[i]) & 0x80) == 0) return Sign(a.size() < b.size());
   }
-  return Sign(a.size() < b.size());
+  const std::size_t cut = Last_Cut(a, i);
+  return Compare_Rest(a.substr(cut), b.substr(cut), with_case, case_before);
 }
 
 }  // namespace

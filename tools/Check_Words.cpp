@@ -103,11 +103,13 @@ void Check_Way_Back(const Library& library, std::span<const Words_Record* const>
 
 void Check_Main_Form(const Library& library, Problems& problems) {
   const Rows heads = Check_Captions(library, Rows_Of_Form(library, Main_Form), problems);
-  const auto is_head = [](const Words_Record* row) { return row->types_variable == "Head"; };
-  if (heads.size() != Head_Rows || !std::all_of(heads.begin(), heads.end(), is_head)) {
-    problems.Report("words.tsv", "behind the Frm row of Wine_Cellar_Form stand " +
-                                     std::to_string(heads.size()) + " rows, not " +
-                                     std::to_string(Head_Rows) + " of type Head");
+  for (const Words_Record* row : heads)
+    if (row->types_variable != "Head")
+      problems.Report(library.Where(*row), "a row behind the Frm row is not of type Head");
+  if (heads.size() != Head_Rows) {
+    problems.Report("words.tsv", std::to_string(heads.size()) +
+                                     " rows stand behind the Frm row of Wine_Cellar_Form, not " +
+                                     std::to_string(Head_Rows));
     return;
   }
   const std::span all(heads);

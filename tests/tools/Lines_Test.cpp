@@ -1,0 +1,167 @@
+// Each fault that a line of the data can have, one at a time: it is found, and told with its place.
+#include <gtest/gtest.h>
+
+#include "tests/tools/Small_Library.h"
+
+namespace {
+
+using Data_Compiler::Problems;
+
+struct Fault {
+  const char* file;
+  const char* from;
+  const char* to;
+  const char* problem;  ///< stands in the first line of the report
+};
+
+void PrintTo(const Fault& fault, std::ostream* out) { *out << fault.file << ", " << fault.problem; }
+
+class Lines : public testing::TestWithParam<Fault> {};
+
+TEST_P(Lines, Fault_Is_Told) {
+  const auto& [file, from, to, problem] = GetParam();
+  const Small_Library small;
+  ASSERT_NO_FATAL_FAILURE(small.Replace(file, from, to));
+  Problems problems;
+  small.Compile(problems);
+  ASSERT_FALSE(problems.None());
+  EXPECT_NE(problems.Lines().front().find(problem), std::string::npos) << Text_Of(problems);
+}
+
+const Fault Cells[] = {
+    {"varieties.tsv", "Other_Names", "Synonyms", "varieties.tsv:1: the column 'Other_Names' is"},
+    {"varieties.tsv", "Pairings", "Pairings\tHue", "varieties.tsv:1: unknown column 'Hue'"},
+    {"varieties.tsv", "Other_Names", "Pairings", "the column 'Pairings' stands twice"},
+    {"varieties.tsv", "Malbec\tRed\tx", "Malbec\tRed", "varieties.tsv:4: 3 cells for 4 columns"},
+    {"varieties.tsv", "Malbec\tRed\tx", "Malbec\tRed\t", "Other_Names is empty"},
+    {"varieties.tsv", "Malbec\tRed\tx", "Malbec\tRed\tCôt ", "Other_Names holds stray blanks"},
+    {"varieties.tsv", "Malbec\tRed\tx", "Malbec\tRed\tCot  noir", "holds stray blanks"},
+    {"varieties.tsv", "Malbec\tRed\tx", "Malbec\tRed\tCot\r", "holds a control character"},
+    {"varieties.tsv", "Malbec\tRed\tx", "Malbec\tRed\tC\xF4t", "is no valid UTF-8"},
+    {"varieties.tsv", "Malbec\tRed\tx", "Malbec\tRed\tCo\xCC\x82t", "not in normal form C"},
+    {"pairings.tsv", "pt Steak\t3", "pt Steak\tmany", "Multiuse 'many' is no number"},
+    {"wine_system.tsv", "False", "No", "wine_system.tsv:2: Wine_Cellar_as_Option 'No' is neither"},
+};
+
+const Fault Names[] = {
+    {"regions.tsv", "FRA\tSud", "FRX\tSud", "regions.tsv:4: unknown country 'FRX'"},
+    {"regions.tsv", "Merlot; Malbec", "Merlot; Mlbec", "regions.tsv:3: unknown variety 'Mlbec'"},
+    {"regions.tsv", "Merlot; Malbec", "Merlot; malbec", "variety 'malbec' is written 'Malbec' in "},
+    {"regions.tsv", "Merlot; Malbec", "Merlot; Merlot", "Varieties names 'Merlot' twice"},
+    {"regions.tsv", "Médoc\tBordeaux", "Médoc\tBordo", "unknown region 'Bordo (FRA)'"},
+    {"regions.tsv", "FRA\tSud", "FRA\tMÉDOC", "'MÉDOC (FRA)' stands already in regions.tsv:3"},
+    {"region_texts.tsv", "Médoc", "Medoc", "region_texts.tsv:2: unknown region 'Medoc (FRA)'"},
+    {"labels.tsv", "FRA\tMédoc\tPauillac", "USA\tMédoc\tPauillac", "unknown region 'Médoc (USA)'"},
+    {"labels.tsv", "Médoc\tChâteau Essai", "Médoc\tPauillac", "label 'Pauillac (region 2)' stands"},
+    {"labels.tsv", "Cru Bourgeois", "Cru Paysan", "unknown class 'Cru Paysan (FRA)'"},
+    {"classifications.tsv", "Cru Bourgeois\n", "Cru\n", "unknown keyword 'Cru'"},
+    {"classifications.tsv", "Village", "Cru Bourgeois", "class 'Cru Bourgeois (FRA)' stands"},
+    {"glossary.tsv", "France", "Frankreich", "glossary.tsv:2: unknown country 'Frankreich'"},
+    {"glossary.tsv", "Must", "Cru bourgeois", "keyword 'Cru bourgeois' stands already"},
+    {"wineries.tsv", "FRA\tMédoc", "FRA\tSudd", "wineries.tsv:2: unknown region 'Sudd (FRA)'"},
+    {"wineries.tsv", "California", "Kalifornien", "wineries.tsv:3: unknown state 'Kalifornien'"},
+    {"wineries.tsv", "Pauillac; Cl", "Margaux; Cl", "wineries.tsv:2: unknown label 'Margaux'"},
+    {"wineries.tsv", "Clairet @ Sud", "Clairet @ Nord", "unknown region 'Nord (FRA)'"},
+    {"wineries.tsv", "Clairet @ Sud", "Clairet", "several labels 'Clairet' in the country"},
+    {"varieties.tsv", "Merlau\tSteak", "Merlau\tSnake", "varieties.tsv:2: unknown pairing 'Snake'"},
+    {"varieties.tsv", "Gamay", "GRENACHE", "variety 'Grenache' stands already in varieties.tsv:6"},
+    {"pairings.tsv", "3\tBrie", "3\tBree", "unknown cheese 'Bree'"},
+    {"pairings.tsv", "3\tBrie", "3\tRoquefort", "pairing of the cheese 'Roquefort' stands already"},
+    {"pairings.tsv", "3\tBrie", "3\tx", "no line of pairings.tsv stands for the cheese 'Brie'"},
+    {"pairings.tsv", "es Goulash", "x", "pairings.tsv:9: no text in Spanish"},
+    {"cheeses.tsv", "Brie\tFRA", "Brie\tFRX", "cheeses.tsv:3: unknown country 'FRX'"},
+    {"cheeses.tsv", "ja Blue, from caves.", "x", "cheeses.tsv:2: no text in Japanese"},
+    {"cheeses.tsv", "Merlot\tPauillac", "Merlot\tMargaux", "unknown general wine 'Margaux'"},
+    {"general_wines.tsv", "Monterey Jack", "Jack", "general_wines.tsv:4: unknown cheese 'Jack'"},
+    {"general_wines.tsv", "Pauillac\tMédoc", "Margaux\tMédoc", "unknown label 'Margaux (region"},
+    {"general_wines.tsv", "Woody; Earthy", "Woody; Earth", "Aroma has no mark 'Earth'"},
+    {"general_wines.tsv", "Cabernet Franc; Merlot", "Malbec", "the main variety is not among"},
+    {"general_wines.tsv", "LE\tFRA\tChâteau Essai", "LE\tFRA\tx", "type LE does not fit"},
+    {"states.tsv", "DEU\tBayern", "DEU\tHessen", "state 'Hessen (DEU)' stands already"},
+    {"countries.tsv", "German\t6\tY", "German\t6\tN", "State_Usage 'N' does not fit states.tsv"},
+    {"countries.tsv", "German\t6\tY", "German\t5\tY", "language number 5 for 'German'"},
+    {"languages.tsv", "Japanese\t8", "Japanese\t7", "language number 7 for 'Japanese'"},
+    {"wine_system.tsv", "USA", "USB", "wine_system.tsv:2: unknown country 'USB'"},
+};
+
+// Faults of the rows that the lines make, which a person mends in the lines.
+const Fault Rules[] = {
+    {"regions.tsv", "Bordeaux\tx", "Bordeaux\tMédoc", "Bordeaux is its own ancestor"},
+    {"regions.tsv", "; Carignan", "", "varieties.tsv:9: no region grows Carignan"},
+    {"varieties.tsv", "Brisket", "Oxtail", "pairings.tsv:11: nothing suggests Brisket"},
+    {"varieties.tsv", "Chardonnay\tWhite", "Chardonnay\tPale", "unknown colour 'Pale'"},
+    {"labels.tsv", "Pauillac\tRed", "Pauillac\tRouge", "labels.tsv:2: unknown colour 'Rouge'"},
+    {"pairings.tsv", "fr Goulash", "fr brisket", "'fr Brisket' stands twice in French"},
+    {"pairings.tsv", "de Goulash", "Ungarisches Gulasch mit Semmelknödeln, Rotkohl und etwas Sahne",
+     "longer than 60 characters"},
+    {"pairings.tsv", "pt Picnic\t3", "pt Picnic\t4", "Multiuse is not 0 to 3"},
+    {"cheeses.tsv", "Blue-vein", "Blue", "cheeses.tsv:2: unknown type 'Blue'"},
+    {"cheeses.tsv", "Sheep", "Yak", "cheeses.tsv:2: unknown milk 'Yak'"},
+    {"cheeses.tsv", "Roquefort\tFRA", "Roquefort\tUSA", "cheeses of USA do not stand together"},
+    {"general_wines.tsv", "ROSE", "PINK", "general_wines.tsv:5: unknown colour 'PINK'"},
+    {"general_wines.tsv", "ROSE", "RED", "its label is Rosé, the wine RED"},
+    {"general_wines.tsv", "VA\tALL", "ZZ\tALL", "type ZZ does not fit"},
+    {"general_wines.tsv", "Dry; Medium T", "Dry; Sweet; Medium T",
+     "tastes that exclude each other"},
+    {"wine_system.tsv", "USA", "ISL", "the user's country 'ISL' has no regions"},
+    {"wine_taste_type.tsv", "Rosé\tTaste", "Rose\tTaste", "unknown colour or kind of mark"},
+    {"words.tsv", "Head\tRed", "Head\tCrimson", "'Red' is expected here"},
+    {"words.tsv", "Head\tGoat", "Head\tSheep", "'Goat' is expected here"},
+    {"words.tsv", "\tFrm\t", "\tCap\t", "do not end in one Frm row"},
+    {"words.tsv", "\tHead\t", "\tCap\t", "a row behind the Frm row is not of type Head"},
+    {"words.tsv", "Wine_Cellar_Form\tCellar_Word", "Wine_Form\tCellar_Word",
+     "28 rows stand behind"},
+    {"words.tsv", "Wine_Cellar_Form\tCellar_View", "Wine_Form_2\tCellar_View",
+     "no screen asks for"},
+    {"words.tsv", "Cellar_View", "Cellar_Main", "'Cellar_Main' stands twice"},
+    {"words.tsv", "Mi cava\t", "Mi cava \t", "stray blank in 'Mi cava '"},
+    {"replace_keys.tsv", "Rouge", "Rouges", "replace_keys.tsv does not lead 'Rouge' back"},
+    {"replace_keys.tsv", "à\ta", "á\ta", "'á' stands twice"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Of_Cells, Lines, testing::ValuesIn(Cells));
+INSTANTIATE_TEST_SUITE_P(Of_Names, Lines, testing::ValuesIn(Names));
+INSTANTIATE_TEST_SUITE_P(Of_Rules, Lines, testing::ValuesIn(Rules));
+
+TEST(Line_Reports, All_Faults_Are_Told_At_Once) {
+  const Small_Library small;
+  small.Replace("regions.tsv", "Merlot; Malbec", "Mrlot; Mlbec");
+  small.Replace("labels.tsv", "Sud", "Nord");
+  Problems problems;
+  small.Compile(problems);
+  const std::string report = Text_Of(problems);
+  for (const char* problem : {"'Mrlot'", "'Mlbec'", "labels.tsv:5: unknown region 'Nord (FRA)'"})
+    EXPECT_NE(report.find(problem), std::string::npos) << report;
+}
+
+TEST(Line_Reports, Optional_Files_May_Be_Missing) {
+  const Small_Library small;
+  std::remove((small.Folder() + "/region_texts.tsv").c_str());
+  Problems none;
+  small.Compile(none);
+  EXPECT_TRUE(none.None()) << Text_Of(none);
+  std::remove((small.Folder() + "/varieties.tsv").c_str());
+  Problems problems;
+  small.Compile(problems);
+  EXPECT_EQ(problems.Lines().front(), "varieties.tsv: the file is missing");
+}
+
+TEST(Line_Reports, More_Than_The_Screens_Arrays_Hold) {
+  const Small_Library small;
+  std::string words, countries;
+  for (int i = 0; i < 151; ++i)
+    words += "Wine_Form\tLabel_" + std::to_string(i) + "\tCap\ta\tb\tc\td\te\tf\tg\n";
+  for (int i = 0; i < 20; ++i) {
+    const std::string name = "Z" + std::to_string(i);
+    countries += name + "\t" + name + "\ta\tb\tc\td\te\tf\tEnglish\t3\tN\t0\tx\tx\tx\n";
+  }
+  small.Append("words.tsv", words);
+  small.Append("countries.tsv", countries);
+  Problems problems;
+  small.Compile(problems);
+  EXPECT_EQ(Text_Of(problems),
+            "words.tsv: Wine_Form has more than 150 texts\n"
+            "countries.tsv: more than 200 countries\n");
+}
+
+}  // namespace

@@ -13,9 +13,9 @@ namespace Data_Compiler {
 /// and general wines.
 void Print_Summary(const Library& library, std::ostream& out);
 
-/// Every text of a screen, food and definition that reads as in English in another language, unless
-/// FOLDER/same_in_every_language.tsv says that it is so in that language; and the lines of that
-/// file that nothing needs. Gives their number.
+/// Every text of a screen, pairing and definition that reads as in English in another language,
+/// unless FOLDER/same_in_every_language.tsv says that it is so in that language; and the lines of
+/// that file that nothing needs. Gives their number.
 int Report_Equal_Texts(const Library& library, const std::string& folder, std::ostream& out,
                        Problems& problems);
 

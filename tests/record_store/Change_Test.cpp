@@ -1,0 +1,405 @@
+// Adding, editing, seeking: what is kept, what is dropped, what is refused.
+#include "platform/run_time/Conversions.h"
+#include "tests/record_store/Store_Fixture.h"
+
+using namespace Record_Store;
+
+using Change_Test = Store_Test;
+using Seek_Test = Store_Test;
+
+// ---- new rows ----
+
+TEST_F(Change_Test, Counters_Grow_By_One_And_Are_Never_Given_Twice) {
+  Recordset rows = database_->OpenRecordset("Bottles");
+  const auto add = [&](bool store) {
+    rows.AddNew();
+    const Long number = rows["Bottle_ID"].As_Long();
+    EXPECT_EQ(rows["ID"].As_Long(), number);
+    if (store) rows.Update();
+    return number;
+  };
+  EXPECT_EQ(add(true), 101);
+  EXPECT_EQ(add(true), 102);
+  EXPECT_EQ(add(false), 103);
+  EXPECT_EQ(add(true), 104);
+  rows.MoveLast();
+  EXPECT_EQ(rows["Bottle_ID"].As_Text(), "104");
+  rows.Delete();
+  EXPECT_EQ(add(true), 105);
+  rows.MoveLast();
+  rows.Delete();
+  database_->Commit();
+  Reopen();
+  rows = database_->OpenRecordset("Bottles");
+  EXPECT_EQ(add(true), 106);
+}
+
+TEST_F(Change_Test, A_Counter_Ends_With_Its_Type_And_Is_Not_Assigned) {
+  Recordset rows = database_->OpenRecordset("Shelves");
+  for (const char* shelf : {"left", "right"}) {
+    rows.AddNew();
+    EXPECT_EQ(Failure_Of([&] { rows["Number"] = 5; }), 3219);
+    rows["Shelf"] = shelf;
+    rows.Update();
+  }
+  EXPECT_EQ(Failure_Of([&] { rows.AddNew(); }), 6);
+  rows.MoveFirst();
+  EXPECT_EQ(Walk(rows, "Number"), (std::vector<std::string>{"32766", "32767"}));
+}
+
+TEST_F(Change_Test, A_New_Row_Is_Null_Where_Nothing_Was_Assigned) {
+  Recordset rows = database_->OpenRecordset("Bottles");
+  rows.AddNew();
+  rows["Rack"] = 3;
+  EXPECT_TRUE(rows["Name"].Is_Null());
+  EXPECT_EQ(rows["Rack"].As_Long(), 3);
+  rows.Update();
+  rows.MoveFirst();
+  EXPECT_TRUE(rows["Name"].Is_Null());
+  EXPECT_EQ(Failure_Of([&] { rows["Name"].As_Text(); }), 94);
+  EXPECT_EQ(Failure_Of([&] { rows["Full"].As_Boolean(); }), 94);
+  EXPECT_EQ(rows["ID"].As_Long(), 101);
+}
+
+TEST_F(Change_Test, The_Row_Before_AddNew_Stays_Current) {
+  Add_Bottles({"a", "b"});
+  Recordset rows = database_->OpenRecordset("Bottles");
+  rows.MoveNext();
+  rows.AddNew();
+  rows["Name"] = "new";
+  EXPECT_EQ(rows["Name"].As_Text(), "new");
+  rows.Update();
+  EXPECT_EQ(rows["Name"].As_Text(), "b");
+  rows.MoveNext();
+  EXPECT_EQ(rows["Name"].As_Text(), "new");
+  rows.Index("Name");
+  rows.Seek("=", "none");
+  rows.AddNew();
+  rows.Update();
+  EXPECT_EQ(Failure_Of([&] { rows["Name"].As_Text(); }), 3021);
+}
+
+TEST_F(Change_Test, Without_A_Counter_Rows_Stand_As_They_Were_Added) {
+  Recordset rows = database_->OpenRecordset("Notes");
+  Recordset other = database_->OpenRecordset("Notes");
+  const auto add = [&](Long bottle) {
+    rows.AddNew();
+    rows["Bottle"] = bottle;
+    rows.Update();
+  };
+  for (const Long bottle : {7, 3, 7, 1}) add(bottle);
+  other.MoveLast();
+  other.Delete();
+  add(9);  // behind the deleted row, where the other stands, and never in its place
+  EXPECT_EQ(Failure_Of([&] { other["Bottle"].As_Long(); }), 3167);
+  other.MoveNext();
+  EXPECT_EQ(other["Bottle"].As_Long(), 9);
+  rows.MoveFirst();
+  EXPECT_EQ(Walk(rows, "Bottle"), (std::vector<std::string>{"7", "3", "7", "9"}));
+}
+
+// ---- edited rows ----
+
+TEST_F(Change_Test, An_Edited_Row_Stays_Current_And_Moves_In_Its_Index) {
+  Add_Bottles({"a", "b", "c"});
+  Recordset rows = database_->OpenRecordset("Bottles");
+  rows.Index("Name");
+  rows.Edit();
+  rows["Name"] = "bb";
+  EXPECT_EQ(rows["Name"].As_Text(), "bb");
+  rows.Update();
+  EXPECT_EQ(rows["Name"].As_Text(), "bb");
+  EXPECT_EQ(rows["Rack"].As_Long(), 1);
+  rows.MoveNext();
+  EXPECT_EQ(rows["Name"].As_Text(), "c");
+  rows.MoveFirst();
+  EXPECT_EQ(Walk(rows), (std::vector<std::string>{"b", "bb", "c"}));
+}
+
+TEST_F(Change_Test, Only_Assigned_Fields_Are_Written) {
+  const Long id = Add_Bottle("a", 1);
+  Recordset first = database_->OpenRecordset("Bottles");
+  Recordset second = database_->OpenRecordset("Bottles");
+  first.Edit();
+  second.Edit();
+  first["Rack"] = 8;
+  second["Name"] = "z";
+  first.Update();
+  second.Update();
+  first.Index("Bottle_ID");
+  first.Seek("=", id);
+  EXPECT_EQ(first["Name"].As_Text() + first["Rack"].As_Text(), "z8");
+}
+
+TEST_F(Change_Test, What_Is_Not_Updated_Is_Dropped_In_Silence) {
+  Add_Bottles({"a", "b"});
+  using Action = std::function<void(Recordset&)>;
+  const std::vector<Action> droppers{
+      [](Recordset& rows) { rows.MoveNext(); },   [](Recordset& rows) { rows.MoveFirst(); },
+      [](Recordset& rows) { rows.MoveLast(); },   [](Recordset& rows) { rows.Index("Name"); },
+      [](Recordset& rows) { rows.Seek("=", 1); }, [](Recordset& rows) { rows.Close(); }};
+  for (const Action& begin : {Action([](Recordset& rows) { rows.Edit(); }),
+                              Action([](Recordset& rows) { rows.AddNew(); })}) {
+    for (const Action& drop : droppers) {
+      Recordset rows = database_->OpenRecordset("Bottles");
+      rows.Index("Bottle_ID");
+      begin(rows);
+      rows["Name"] = "dropped";
+      drop(rows);
+      if (rows.Is_Open()) {
+        EXPECT_EQ(Failure_Of([&] { rows.Update(); }), 3020);
+      }
+      Recordset all = database_->OpenRecordset("Bottles");
+      EXPECT_EQ(Walk(all), (std::vector<std::string>{"a", "b"}));
+    }
+  }
+}
+
+TEST_F(Change_Test, Nothing_Is_Assigned_Or_Updated_Without_A_Beginning) {
+  Add_Bottles({"a"});
+  Recordset rows = database_->OpenRecordset("Bottles");
+  EXPECT_EQ(Failure_Of([&] { rows["Name"] = "b"; }), 3020);
+  EXPECT_EQ(Failure_Of([&] { rows["Name"].Set_Null(); }), 3020);
+  EXPECT_EQ(Failure_Of([&] { rows.Update(); }), 3020);
+  rows.MoveNext();
+  EXPECT_EQ(Failure_Of([&] { rows.Edit(); }), 3021);
+  EXPECT_EQ(Failure_Of([&] { rows.Delete(); }), 3021);
+}
+
+TEST_F(Change_Test, A_Unique_Key_Is_Unique_Without_Regard_To_Case) {
+  Recordset rows = database_->OpenRecordset("Shelves");
+  const auto add = [&](std::string_view shelf) {
+    rows.AddNew();
+    rows["Shelf"] = shelf;
+    rows.Update();
+  };
+  add("Rosé");
+  EXPECT_EQ(Failure_Of([&] { add("ROSE\u0301"); }), 3022);
+  database_->Commit();
+  rows.MoveFirst();
+  EXPECT_EQ(Walk(rows, "Shelf"), (std::vector<std::string>{"Rosé"}));
+}
+
+// What a failure left unfinished goes; what was stored before it in the same burst stays.
+TEST_F(Change_Test, A_Failed_Update_Takes_Nothing_With_It) {
+  Recordset rows = database_->OpenRecordset("Shelves");
+  rows.AddNew();
+  rows["Shelf"] = "x";
+  rows.Update();
+  Add_Bottle("before", 1);
+  rows.MoveFirst();
+  rows.AddNew();
+  rows["Shelf"] = "X";
+  EXPECT_EQ(Failure_Of([&] { rows.Update(); }), 3022);
+  database_->Commit();
+  Reopen();
+  Recordset bottles = database_->OpenRecordset("Bottles");
+  EXPECT_EQ(Walk(bottles), (std::vector<std::string>{"before"}));
+}
+
+TEST_F(Change_Test, A_Row_Being_Added_Survives_A_Commit) {
+  Recordset rows = database_->OpenRecordset("Bottles");
+  rows.AddNew();
+  rows["Name"] = "kept";
+  database_->Commit();
+  rows["Rack"] = 4;
+  rows.Update();
+  rows.MoveFirst();
+  EXPECT_EQ(rows["Name"].As_Text() + rows["Rack"].As_Text(), "kept4");
+}
+
+// While a file is being built its rows may bring their own numbers.
+TEST_F(Change_Test, Numbers_Are_Assigned_While_A_File_Is_Built) {
+  const std::string path = folder_ / "Built.mdb";
+  const auto built = Create_Database(path, Right_Connect, Test_Tables());
+  Recordset rows = built->OpenRecordset("Bottles");
+  for (const Long number : {500, 300, 0}) {
+    rows.AddNew();
+    if (number != 0) rows["Bottle_ID"] = number;
+    EXPECT_EQ(rows["ID"].As_Long(), rows["Bottle_ID"].As_Long());
+    rows.Update();
+  }
+  rows.MoveFirst();
+  EXPECT_EQ(Walk(rows, "ID"), (std::vector<std::string>{"300", "500", "502"}));
+  rows.MoveFirst();
+  rows.Edit();
+  EXPECT_EQ(Failure_Of([&] { rows["Bottle_ID"] = 7; }), 3219);
+}
+
+// ---- search ----
+
+TEST_F(Seek_Test, Keys_Are_Taken_As_The_Type_Of_Their_Field) {
+  Add_Bottle("12", 7);
+  Add_Bottle("Rosé", 7);
+  Add_Bottle("ROSE", 8);
+  Recordset rows = database_->OpenRecordset("Bottles");
+  const auto found = [&](const char* index, const Key& key) {
+    rows.Index(index);
+    rows.Seek("=", key);
+    return rows.NoMatch() ? "-" : rows["Name"].As_Text();
+  };
+  EXPECT_EQ(found("name", "ROSÉ"), "Rosé");
+  EXPECT_EQ(found("NAME", "rose"), "ROSE");
+  EXPECT_EQ(found("Name", "ros"), "-");
+  EXPECT_EQ(found("Name", 12), "12");
+  EXPECT_EQ(found("Name", 12.0), "12");
+  EXPECT_EQ(found("Name", "12 "), "-");
+  EXPECT_EQ(found("Bottle_ID", 102), "Rosé");
+  EXPECT_EQ(found("Bottle_ID", "102"), "Rosé");
+  EXPECT_EQ(found("Bottle_ID", " 102 "), "Rosé");
+  EXPECT_EQ(found("Bottle_ID", 102.0), "Rosé");
+  EXPECT_EQ(found("Bottle_ID", 102.5), "-");
+  EXPECT_EQ(found("Bottle_ID", "x"), "-");
+  EXPECT_EQ(found("Bottle_ID", ""), "-");
+  EXPECT_EQ(found("Group", "8"), "ROSE");
+  EXPECT_EQ(found("Group", "eight"), "-");
+}
+
+TEST_F(Seek_Test, Walks_On_In_The_Order_Of_The_Index) {
+  Add_Bottle("b", 2);
+  Add_Bottle("x", 1);
+  Add_Bottle("B", 2);
+  Add_Bottle("b", 2);
+  Add_Bottle("a", 3);
+  Recordset rows = database_->OpenRecordset("Bottles");
+  rows.Index("Name");
+  rows.Seek("=", "B");
+  EXPECT_EQ(rows["Bottle_ID"].As_Long(), 101);
+  EXPECT_EQ(Walk(rows, "Bottle_ID"), (std::vector<std::string>{"101", "104", "103", "102"}));
+  rows.Seek("=", "b");
+  rows.MovePrevious();
+  EXPECT_EQ(rows["Name"].As_Text(), "a");
+  rows.Index("Group");
+  rows.Seek("=", 2);
+  EXPECT_EQ(Walk(rows, "Bottle_ID"), (std::vector<std::string>{"101", "104", "103", "105"}));
+  rows.Seek("=", 2, "b");
+  rows.MovePrevious();
+  EXPECT_EQ(rows["Bottle_ID"].As_Long(), 102);
+}
+
+TEST_F(Seek_Test, A_Miss_Leaves_No_Row_And_No_End) {
+  Add_Bottles({"a", "b"});
+  Recordset rows = database_->OpenRecordset("Bottles");
+  EXPECT_FALSE(rows.NoMatch());
+  EXPECT_EQ(Failure_Of([&] { rows.Seek("=", 1); }), 3019);
+  EXPECT_EQ(Failure_Of([&] { rows.Index("Price"); }), 3015);
+  rows.Index("Group");
+  EXPECT_EQ(Failure_Of([&] { rows.Seek(">=", 1); }), 5);
+  EXPECT_EQ(Failure_Of([&] { rows.Seek("=", 1, "a", 2); }), 5);
+  rows.Seek("=", 99);
+  EXPECT_TRUE(rows.NoMatch());
+  EXPECT_FALSE(rows.Eof() || rows.Bof());
+  EXPECT_EQ(Failure_Of([&] { rows["Name"].As_Text(); }), 3021);
+  EXPECT_EQ(Failure_Of([&] { rows.MoveNext(); }), 3021);
+  EXPECT_EQ(Failure_Of([&] { rows.MovePrevious(); }), 3021);
+  EXPECT_EQ(Failure_Of([&] { rows.Edit(); }), 3021);
+  EXPECT_EQ(Failure_Of([&] { rows.Delete(); }), 3021);
+  rows.MoveLast();
+  EXPECT_EQ(rows["Name"].As_Text(), "b");
+  EXPECT_TRUE(rows.NoMatch());
+  rows.Seek("=", 1);
+  EXPECT_FALSE(rows.NoMatch());
+}
+
+// The scan of a key's rows, each deleted under the walk.
+TEST_F(Seek_Test, Deleting_All_Rows_Of_A_Key) {
+  for (const Long rack : {1, 2, 2, 1, 2, 3}) Add_Bottle("n", rack);
+  Recordset rows = database_->OpenRecordset("Bottles");
+  rows.Index("Group");
+  rows.Seek("=", 2);
+  while (!rows.Eof() && rows["Rack"].As_Long() == 2) {
+    rows.Delete();
+    rows.MoveNext();
+  }
+  EXPECT_EQ(rows["Rack"].As_Long(), 3);
+  rows.MoveFirst();
+  EXPECT_EQ(Walk(rows, "Rack"), (std::vector<std::string>{"1", "1", "3"}));
+}
+
+// ---- values ----
+
+TEST_F(Change_Test, Every_Type_Comes_Back_As_It_Was) {
+  Recordset rows = database_->OpenRecordset("Bottles");
+  rows.AddNew();
+  rows["Name"] = "007";
+  rows["Rack"] = -2147483647 - 1;
+  rows["Row"] = Integer{-32768};
+  rows["Litres"] = 0.1F;
+  rows["Price"] = Currency{-9223372036854775807};
+  rows["Bought"] = Date::Of(1899, 12, 30, 23, 59, 59);
+  rows["Full"] = true;
+  rows.Update();
+  database_->Commit();
+  Reopen();
+  rows = database_->OpenRecordset("Bottles");
+  EXPECT_EQ(rows["Name"].As_Text(), "007");
+  EXPECT_EQ(rows["Rack"].As_Long(), -2147483647 - 1);
+  EXPECT_EQ(rows["Row"].As_Integer(), -32768);
+  EXPECT_EQ(rows["Litres"].As_Single(), 0.1F);
+  EXPECT_EQ(rows["Price"].As_Currency().ten_thousandths, -9223372036854775807);
+  EXPECT_EQ(rows["Bought"].As_Date(), Date::Of(1899, 12, 30, 23, 59, 59));
+  EXPECT_TRUE(rows["Full"].As_Boolean());
+  rows.Edit();
+  rows["Litres"] = 2.0F;  // lies in the file as a whole number
+  rows["Name"] = std::string("a\0b", 3);
+  rows.Update();
+  rows.MoveFirst();
+  EXPECT_EQ(rows["Litres"].As_Single(), 2.0F);
+  EXPECT_EQ(rows["Litres"].As_Text(), "2");
+  EXPECT_EQ(rows["Name"].As_Text(), std::string("a\0b", 3));
+}
+
+TEST_F(Change_Test, Values_Convert_Between_The_Types) {
+  Set_Locale("C");
+  Add_Bottles({"12"});
+  Recordset rows = database_->OpenRecordset("Bottles");
+  rows.Edit();
+  EXPECT_EQ(rows["Name"].As_Long(), 12);
+  EXPECT_EQ(rows["Name"].As_Currency(), Currency::Of(12));
+  rows["Rack"] = "34";
+  EXPECT_EQ(rows["Rack"].As_Long(), 34);
+  EXPECT_EQ(rows["Rack"].As_Text(), "34");
+  rows["Rack"] = 2.5;
+  EXPECT_EQ(rows["Rack"].As_Long(), 2);
+  rows["Row"] = 3.5;
+  EXPECT_EQ(rows["Row"].As_Single(), 4.0F);
+  rows["Price"] = "12.5";
+  EXPECT_EQ(rows["Price"].As_Currency().ten_thousandths, 125000);
+  EXPECT_EQ(rows["Price"].As_Text(), "12.5");
+  EXPECT_EQ(rows["Price"].As_Long(), 12);
+  rows["Full"] = 5;
+  EXPECT_EQ(rows["Full"].As_Text(), "True");
+  EXPECT_EQ(rows["Full"].As_Long(), -1);
+  rows["Full"] = "false";
+  EXPECT_FALSE(rows["Full"].As_Boolean());
+  rows["Bought"] = "2020-02-29";
+  EXPECT_EQ(rows["Bought"].As_Date(), Date::Of(2020, 2, 29));
+  rows["Name"] = Date::Of(2020, 2, 29);
+  EXPECT_EQ(To_Date(rows["Name"].As_Text()), Date::Of(2020, 2, 29));
+  rows["Name"] = 1.5;
+  EXPECT_EQ(rows["Name"].As_Text(), "1.5");
+}
+
+TEST_F(Change_Test, Values_That_Do_Not_Fit_Are_Refused) {
+  Add_Bottles({"twelve"});
+  Recordset rows = database_->OpenRecordset("Bottles");
+  rows.Edit();
+  const std::vector<std::pair<std::function<void()>, int>> cases{
+      {[&] { rows["Name"].As_Long(); }, 13},
+      {[&] { rows["Name"].As_Date(); }, 13},
+      {[&] { rows["Rack"] = "many"; }, 13},
+      {[&] { rows["Rack"] = std::int64_t{2147483648}; }, 6},
+      {[&] { rows["Row"] = 32768; }, 6},
+      {[&] { rows["Row"] = "40000"; }, 6},
+      {[&] { rows["Litres"] = 1e39; }, 6},
+      {[&] { rows["Price"] = 1e15; }, 6},
+      {[&] { rows["Price"] = std::int64_t{922337203685478}; }, 6},
+      {[&] { rows["Bought"] = 5; }, 13},
+      {[&] { rows["Bought"] = "soon"; }, 13},
+      {[&] { rows["Rack"] = No_Date; }, 13},
+      {[&] { rows["Full"] = "perhaps"; }, 13},
+      {[&] { rows["Rack"] = 40000, static_cast<void>(rows["Rack"].As_Integer()); }, 6}};
+  for (std::size_t i = 0; i < cases.size(); ++i) {
+    EXPECT_EQ(Failure_Of(cases[i].first), cases[i].second) << i;
+  }
+}

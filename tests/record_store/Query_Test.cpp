@@ -1,0 +1,106 @@
+// Queries: their order, and the questions that the engine is asked.
+#include <sqlite3.h>
+
+#include <algorithm>
+
+#include "platform/record_store/Query_Text.h"
+#include "platform/record_store/Rows.h"
+#include "platform/record_store/Table.h"
+#include "platform/record_store/Text_Order.h"
+#include "tests/record_store/Store_Fixture.h"
+
+using namespace Record_Store;
+
+class Query_Test : public Store_Test {
+ protected:
+  std::vector<std::string> Rows(std::string_view statement, std::string_view field = "Name") {
+    Recordset rows = database_->OpenRecordset(statement);
+    return Walk(rows, field);
+  }
+};
+
+TEST_F(Query_Test, Texts_Are_Found_And_Ordered_As_In_An_Index) {
+  Add_Bottles({"Edam", "éclair", "zebra", "Eclair", "ECLAIR", "Éclair", "eclair"});
+  const std::vector<std::string> ordered{"eclair", "Eclair", "ECLAIR", "éclair",
+                                         "Éclair", "Edam",   "zebra"};
+  EXPECT_EQ(Rows("SELECT * FROM Bottles ORDER BY Name"), ordered);
+  Recordset rows = database_->OpenRecordset("Bottles");
+  rows.Index("Name");
+  EXPECT_EQ(Walk(rows), ordered);
+  EXPECT_EQ(Rows("SELECT * FROM Bottles WHERE Name='ÉCLAIR' ORDER BY  Rack ASC,  Name ASC"),
+            (std::vector<std::string>{"éclair", "Éclair"}));
+  EXPECT_EQ(Rows("SELECT * FROM Bottles WHERE Name='eclair' or Name = 'EDAM' ORDER  BY name DESC"),
+            (std::vector<std::string>{"Edam", "ECLAIR", "Eclair", "eclair"}));
+}
+
+TEST_F(Query_Test, Ties_Stand_In_Storage_Order) {
+  for (int i = 0; i < 300; ++i) Add_Bottle("n", i * 7 % 3);
+  std::vector<std::string> numbers = Rows("SELECT * FROM Bottles ORDER BY Rack", "Bottle_ID");
+  std::vector<std::string> sorted = numbers;
+  std::ranges::stable_sort(sorted, {}, [](const std::string& text) {
+    return (std::stoi(text) - 101) * 7 % 3 * 10000 + std::stoi(text);
+  });
+  EXPECT_EQ(numbers, sorted);
+}
+
+TEST_F(Query_Test, Computed_Columns_Have_Values_Too) {
+  Add_Bottles({"a", "b"});
+  Recordset rows = database_->OpenRecordset(
+      "SELECT count(*) AS Number, max(Name) AS Last, 1.5 AS Half, NULL AS Nothing FROM Bottles");
+  EXPECT_EQ(rows["Number"].As_Long(), 2);
+  EXPECT_EQ(rows["Last"].As_Text(), "b");
+  EXPECT_EQ(rows["Half"].As_Double(), 1.5);
+  EXPECT_TRUE(rows["Nothing"].Is_Null());
+}
+
+TEST_F(Query_Test, Sees_What_Its_Own_Burst_Wrote) {
+  Add_Bottle("a", 1);
+  Recordset query = database_->OpenRecordset("SELECT * FROM Bottles WHERE NOT Rack=-1  ");
+  EXPECT_EQ(query.RecordCount(), 1);
+  Add_Bottle("b", 1);
+  EXPECT_EQ(query.RecordCount(), 1);
+  EXPECT_EQ(database_->OpenRecordset("SELECT * FROM Bottles").RecordCount(), 2);
+}
+
+TEST(Query_Text_Test, Only_Plain_Names_Are_Ordered_By_Case_As_Well) {
+  const std::vector<std::pair<std::string, std::string>> cases{
+      {"SELECT * FROM T", ""},
+      {"SELECT * FROM T WHERE a='ORDER BY b'", ""},
+      {"SELECT * FROM T ORDER BY a", ", a COLLATE WINE_CASE"},
+      {"SELECT * FROM T order by T.a desc, 2, [b c] ASC",
+       ", T.a COLLATE WINE_CASE desc, [b c] COLLATE WINE_CASE ASC"},
+      {"SELECT * FROM T ORDER BY a+1, f(a, b), a COLLATE BINARY", ""},
+      {"SELECT * FROM (SELECT * FROM T ORDER BY a)", ""}};
+  for (const auto& [text, added] : cases) EXPECT_EQ(With_Full_Order(text), text + added + " ");
+  EXPECT_EQ(With_Full_Order("SELECT a FROM T ORDER BY a LIMIT 3"),
+            "SELECT a FROM T ORDER BY a , a COLLATE WINE_CASE LIMIT 3");
+}
+
+// The engine must answer every question of a cursor from the index as it lies: by a search where
+// rows are bounded, and never by sorting.
+TEST_F(Query_Test, No_Question_Of_A_Cursor_Sorts) {
+  database_.reset();
+  Engine engine(path_, Engine::Mode::Read, "open9sesame");
+  for (const Table_Schema& schema : Test_Tables()) {
+    Table table(schema, engine);
+    std::vector<const Order*> orders{&table.Storage_Order()};
+    for (const Index_Schema& index : schema.indexes) orders.push_back(table.Find_Order(index.name));
+    for (const Order* order : orders) {
+      const int columns = static_cast<int>(order->sort.size());
+      for (int i = 0; i < (columns + 1) * 10; ++i) {
+        const Form form{i / 10, static_cast<Form::Range>(i / 2 % 5), i % 2 == 1};
+        const bool beyond_columns = form.range == Form::From || form.range == Form::Nulls;
+        if (form.prefix == columns && beyond_columns) continue;
+        const Statement asked = table.Pool_Of(*order, form).Borrow();
+        const std::string text = sqlite3_sql(asked.get());
+        const Statement plan = engine.Prepare("EXPLAIN QUERY PLAN " + text);
+        while (engine.Step(plan.get())) {
+          const std::string line(Column_Value(plan.get(), 3).text);
+          EXPECT_EQ(line.find("TEMP B-TREE"), std::string::npos) << text << line;
+          const bool bounded = text.find(" WHERE ") != std::string::npos;
+          EXPECT_EQ(line.starts_with(bounded ? "SEARCH" : "SCAN"), true) << text << line;
+        }
+      }
+    }
+  }
+}

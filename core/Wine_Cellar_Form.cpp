@@ -34,11 +34,11 @@ Wine_Cellar_Form::Wine_Cellar_Form() : Form("Wine_Cellar_Form", "Wine Cellar") {
 void Wine_Cellar_Form::Lay_Out() {
   using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
   Picture1.Set_Picture(":/title.svg");
-  Image1.Set_Picture(":/logo.svg");
+  Image1.Set_Picture(":/bunch.svg");
   Corvale_Logo.Set_Picture(":/logo.svg");
-  const Place versions = Row({Version_Label, Language_Version_Label});
   Set_Content(Column({Place(Picture1).Grow(), Corvale_Logo,
-                      Row({Image1, Column({Corvale_Label, versions, Wait_Label}), Stretch()})}));
+                      Row({Place(Image1).Centred(), Corvale_Label, Wait_Label, Stretch(),
+                           Version_Label, Language_Version_Label})}));
   Set_Exit(Wine_Cellar_Exit);
 }
 

@@ -50,7 +50,7 @@ class Field {
   /// Without a default: Init leaves the member alone.
   template <class Value>
   Field(std::string_view name, Value Record::*member)
-      : schema_{std::string(name), Type_Of<Value>()}, member_(member) {}
+      : schema_{std::string(name), Type_Of<Value>()}, member_(member), ways_(&Ways_Of<Value>) {}
 
   /// The default is a value, or a function that gives it anew at each Init.
   template <class Value, class Default>
@@ -87,13 +87,38 @@ class Field {
     if (init_) init_(record);
   }
   void Read(const Record_Store::Field& from, Record& record) const {
-    std::visit([&](auto member) { from.Read_Into(record.*member); }, member_);
+    ways_->read(from, record, member_);
   }
-  void Write(const Record& record, Record_Store::Field&& to) const {
-    std::visit([&](auto member) { to = record.*member; }, member_);
+  void Write(const Record& record, Record_Store::Field to) const {
+    ways_->write(record, member_, to);
   }
+  /// Whether two records hold the same value here.
+  bool Same(const Record& a, const Record& b) const { return ways_->same(a, b, member_); }
 
  private:
+  /// What is done with the member, made for its type: a choice among all types at each step would
+  /// let the compiler see members of types that a record does not have.
+  struct Ways {
+    void (*read)(const Record_Store::Field&, Record&, const Member<Record>&);
+    void (*write)(const Record&, const Member<Record>&, Record_Store::Field&);
+    bool (*same)(const Record&, const Record&, const Member<Record>&);
+  };
+  template <class Value>
+  static Value Record::*As(const Member<Record>& member) {
+    return *std::get_if<Value Record::*>(&member);
+  }
+  template <class Value>
+  static constexpr Ways Ways_Of = {
+      [](const Record_Store::Field& from, Record& record, const Member<Record>& member) {
+        from.Read_Into(record.*As<Value>(member));
+      },
+      [](const Record& record, const Member<Record>& member, Record_Store::Field& to) {
+        to = record.*As<Value>(member);
+      },
+      [](const Record& a, const Record& b, const Member<Record>& member) {
+        return a.*As<Value>(member) == b.*As<Value>(member);
+      }};
+
   template <class Value, class Default>
   void Set_Default(Value Record::*member, Default initial) {
     init_ = [member, initial](Record& record) {
@@ -106,6 +131,7 @@ class Field {
 
   Record_Store::Field_Schema schema_;
   Member<Record> member_;
+  const Ways* ways_;
   std::function<void(Record&)> init_;
 };
 

@@ -6,7 +6,8 @@
 #include "platform/forms/Application.h"
 
 int main(int argc, char** argv) {
-  setenv("QT_QPA_PLATFORM", "offscreen", 0);
+  // The smallest desktop that the program is made for.
+  setenv("QT_QPA_PLATFORM", "offscreen:configfile=" SCREEN_FILE, 0);
   testing::InitGoogleTest(&argc, argv);
   const Forms::Application application(argc, argv);
   return RUN_ALL_TESTS();

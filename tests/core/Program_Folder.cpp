@@ -1,0 +1,84 @@
+#include "tests/core/Program_Folder.h"
+
+#include <filesystem>
+
+#include "core/Core_Screens.h"
+#include "core/Gereral_Processes.h"
+#include "core/Globals.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "platform/forms/Application.h"
+#include "platform/forms/Screens.h"
+#include "platform/run_time/Guard.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string New_Folder() {
+  std::string name = (fs::temp_directory_path() / "wine_cellar_XXXXXX").string();
+  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+  return name;
+}
+
+}  // namespace
+
+Program_Folder::Program_Folder() : folder_(New_Folder()) {
+  fs::create_directories(folder_ + "/dbase");
+  fs::copy_file(DELIVERED_FOLDER "/dbase/Wine_Cellar.mdb", Data_File());
+  Forms::Set_App_Path_For_Tests(folder_);
+  Register_Core_Screens();
+}
+
+Program_Folder::~Program_Folder() {
+  Stop();
+  fs::remove_all(folder_);
+}
+
+void Program_Folder::Start() {
+  Run_Guarded([] { Forms::Screen("Wine_Cellar_Form").Open(); });
+}
+
+void Program_Folder::Stop() {
+  Forms::Screens::Clear_For_Tests();
+  Hooks().commit = [] {};
+  Wine_Cellar_DB.reset();
+  Wine_System = {};
+  Current_Command.clear();
+  Cheese_Types.Clear();
+}
+
+void Program_Folder::Restart() {
+  Stop();
+  Start();
+}
+
+std::vector<std::string> Program_Folder::Stored(const std::string& statement, int fields) const {
+  const auto file = Record_Store::OpenDatabase(Data_File(), false, true, Connect_Text(Data_File()));
+  Record_Store::Recordset rows = file->OpenRecordset(statement);
+  std::vector<std::string> lines;
+  for (; !rows.Eof(); rows.MoveNext()) {
+    std::string line;
+    for (int field = 0; field < fields; ++field) {
+      line += (field == 0 ? "" : "|") + rows.Fields(field).As_Text();
+    }
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+void Program_Folder::Change(const std::function<void(Record_Store::Database&)>& change) const {
+  const auto file =
+      Record_Store::OpenDatabase(Data_File(), false, false, Connect_Text(Data_File()));
+  change(*file);
+  file->Commit();
+}
+
+void Program_Folder::Set_Language(Integer number) const {
+  Change([number](Record_Store::Database& file) {
+    Record_Store::Recordset system = file.OpenRecordset("Wine_System");
+    system.Edit();
+    system.Fields("System_Language_Number") = number;
+    system.Update();
+  });
+}

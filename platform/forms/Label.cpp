@@ -17,6 +17,10 @@ class Label_Widget : public QLabel {
     setTextFormat(Qt::PlainText);
   }
 
+  // The underlined letter of a mnemonic is drawn without kerning, wider than it is measured.
+  QSize sizeHint() const override { return QLabel::sizeHint() + QSize(3, 0); }
+  QSize minimumSizeHint() const override { return QLabel::minimumSizeHint() + QSize(3, 0); }
+
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override {
     QLabel::mouseReleaseEvent(event);

@@ -25,7 +25,7 @@ class Place {
   Place Grow(int share = 1) const;
   /// At least so many characters wide, in the desktop's font.
   Place Wide(int characters) const;
-  /// At least so many lines of text high.
+  /// So many lines of text high; at least so many where the place grows.
   Place High(int lines) const;
   /// In the middle of its room, or at its right end, instead of filling it.
   Place Centred() const;

@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
+#include <algorithm>
 
 #include "platform/forms/Form_Data.h"
 #include "platform/forms/Place_Data.h"
@@ -15,6 +16,10 @@
 namespace Forms {
 
 namespace {
+
+constexpr int block_distance = 24;
+constexpr int label_distance = 10;
+constexpr int part_distance = 6;
 
 /// Builds one form's layout, reading the places in order.
 class Builder {
@@ -25,7 +30,7 @@ class Builder {
     const Place_Data& data = *place.Data();
     switch (data.kind) {
       case Place_Kind::Column:
-        return Box_Of(new QVBoxLayout, data.places, parent);
+        return Column_Of(data.places, parent);
       case Place_Kind::Fields:
         return Fields_Of(data.places, parent);
       case Place_Kind::Below:
@@ -35,7 +40,7 @@ class Builder {
       case Place_Kind::Buttons:
         return Buttons_Of(data.places, parent);
       case Place_Kind::Row:
-        return Box_Of(new QHBoxLayout, data.places, parent);
+        return Row_Of(data.places, parent);
       default:
         return Box_Of(new QVBoxLayout, {place}, parent);
     }
@@ -45,6 +50,33 @@ class Builder {
   QLayout* Box_Of(QBoxLayout* box, const Places& places, QWidget* parent) {
     for (const Place& place : places) Add(*box, place, parent);
     return box;
+  }
+
+  // Blocks of fields side by side stand further apart than the parts of one field.
+  QLayout* Row_Of(const Places& places, QWidget* parent) {
+    auto* row = new QHBoxLayout;
+    const bool blocks = std::ranges::any_of(places, Is_A_Block);
+    row->setSpacing(blocks ? block_distance : part_distance);
+    return Box_Of(row, places, parent);
+  }
+
+  // Where nothing grows, the parts stay together at the top.
+  QLayout* Column_Of(const Places& places, QWidget* parent) {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(part_distance);
+    Box_Of(column, places, parent);
+    if (!(column->expandingDirections() & Qt::Vertical)) column->addStretch(1);
+    return column;
+  }
+
+  static void Keep_Together(QGridLayout& grid) {
+    grid.setVerticalSpacing(part_distance);
+    if (!(grid.expandingDirections() & Qt::Vertical)) grid.setRowStretch(grid.rowCount(), 1);
+  }
+
+  static bool Is_A_Block(const Place& place) {
+    const Place_Kind kind = place.Data()->kind;
+    return kind == Place_Kind::Column || kind == Place_Kind::Fields || kind == Place_Kind::Group;
   }
 
   void Add(QBoxLayout& box, const Place& place, QWidget* parent) {
@@ -97,7 +129,10 @@ class Builder {
     if (data.characters > 0) {
       widget->setMinimumWidth((data.characters + 2) * metrics.averageCharWidth());
     }
-    if (data.lines > 0) widget->setMinimumHeight(data.lines * metrics.lineSpacing() + 8);
+    if (data.lines > 0) {
+      const int height = (data.lines * (metrics.lineSpacing() + 1)) + 8;
+      data.share > 0 ? widget->setMinimumHeight(height) : widget->setFixedHeight(height);
+    }
     data.control->Set_Placed();
     form_.reading_order.emplace_back(widget);
     return widget;
@@ -121,6 +156,7 @@ class Builder {
 
   QLayout* Fields_Of(const Places& places, QWidget* parent) {
     auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(label_distance);
     for (std::size_t i = 0; i + 1 < places.size(); i += 2) {
       const int row = static_cast<int>(i / 2);
       QWidget* label = Widget_Of(places[i], parent);
@@ -130,6 +166,7 @@ class Builder {
       Join(places[i], places[i + 1]);
     }
     grid->setColumnStretch(1, 1);
+    Keep_Together(*grid);
     return grid;
   }
 
@@ -157,11 +194,13 @@ class Builder {
       Add(*grid, data.places[i], parent, place / data.columns, place % data.columns);
     }
     for (int column = 0; column < data.columns; ++column) grid->setColumnStretch(column, 1);
+    Keep_Together(*grid);
     return grid;
   }
 
   QLayout* Buttons_Of(const Places& places, QWidget* parent) {
     auto* row = new QHBoxLayout;
+    row->setSpacing(part_distance);
     row->addStretch(1);
     for (const Place& place : places) {
       Add(*row, place, parent);

@@ -1,6 +1,6 @@
 #include "platform/forms/Look.h"
 
-#include <QEvent>
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QPainterPath>
 #include <QString>
@@ -82,7 +82,9 @@ QString Sheet(const QWidget* widget, Color back, Color fore) {
   if (back.of_the_theme) return QString("%1 { color: %2; }").arg(self, Css(fore));
   const Color ink = fore.of_the_theme ? Readable_On(back) : fore;
   QString sheet = QString("%1 { background-color: %2; color: %3;").arg(self, Css(back), Css(ink));
-  if (widget->focusPolicy() != Qt::NoFocus) {
+  if (qobject_cast<const QAbstractItemView*>(widget) != nullptr) {
+    sheet += QString(" alternate-background-color: %1; border: %2;").arg(Css(back), Border(back));
+  } else if (widget->focusPolicy() != Qt::NoFocus) {
     sheet += QString(" border: %1; border-radius: 3px; padding: 1px 4px;").arg(Border(back));
   }
   sheet += QString(" } %1:disabled { color: %2; }").arg(self, Css(Mixed(ink, back)));

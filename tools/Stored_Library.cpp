@@ -64,9 +64,7 @@ Library Read_Library(Record_Store::Database& database) {
   Tables::For_Each_Table([&]<class Record>(const Tables::Table<Record>& table) {
     Record_Store::Recordset rows = database.OpenRecordset(table.Name());
     for (; !rows.Eof(); rows.MoveNext()) {
-      Record record;
-      table.Read(rows, record);
-      library.Of<Record>().push_back(std::move(record));
+      table.Read(rows, library.Of<Record>().emplace_back());
     }
     rows.Close();
   });

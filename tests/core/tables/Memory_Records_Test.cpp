@@ -19,18 +19,19 @@ void Set(Currency& value, int n) { value = {100000000000000 + n}; }
 void Set(Date& value, int n) { value = Date::Of(1947, 3, 5, 23, 59, n); }
 void Set(Text& value, int n) { value = "'Rosé' 日本語 \"" + std::to_string(n); }
 
+// Not inlined: g++ would see, for each record, the members of types that it does not have.
 template <class Record>
-Record Filled(const Tables::Table<Record>& table) {
-  Record record;
+[[gnu::noinline]] void Fill(const Tables::Table<Record>& table, Record& record) {
   int n = 0;
   for (const auto& field : table.Fields())
     std::visit([&](auto member) { Set(record.*member, ++n); }, field.Place());
-  return record;
 }
 
 template <class Record>
-bool Same(const Tables::Field<Record>& field, const Record& a, const Record& b) {
-  return std::visit([&](auto member) { return a.*member == b.*member; }, field.Place());
+Record Filled(const Tables::Table<Record>& table) {
+  Record record;
+  Fill(table, record);
+  return record;
 }
 
 template <class Record>
@@ -44,7 +45,7 @@ void Expect_Round_Trip(const Tables::Table<Record>& table) {
   Record read;
   table.Read(rows, read);
   for (const auto& field : table.Fields())
-    EXPECT_EQ(Same(field, written, read), field.Is_Written())
+    EXPECT_EQ(field.Same(written, read), field.Is_Written())
         << table.Name() << "." << field.Schema().name;
 }
 
@@ -114,7 +115,7 @@ TEST_F(Memory_Records, Init_Leaves_Other_Members_Alone) {
     for (const auto& field : table.Fields()) {
       const bool is_key = field.Schema().counter || field.Schema().copy_of_counter;
       if (is_key && table.Name() != "Varieties") {
-        EXPECT_TRUE(Same(field, record, filled)) << table.Name();
+        EXPECT_TRUE(field.Same(record, filled)) << table.Name();
       }
     }
   });

@@ -20,7 +20,7 @@ quietly() {
     return 0
   fi
   printf 'Failed: %s\nThe end of %s:\n' "$*" "$log" >&2
-  tail -n 40 "$log" | sed 's/^/    /' >&2
+  tail -n 40 "$log" | cut -c1-240 | sed 's/^/    /' >&2
   return 1
 }
 

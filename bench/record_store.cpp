@@ -10,9 +10,10 @@
 #include <array>
 #include <chrono>
 #include <cstdio>
-#include <cstring>
+#include <cstdlib>
 #include <filesystem>
 #include <functional>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,7 @@ using namespace Record_Store;
 namespace {
 
 constexpr int wine_count = 32000;
+constexpr int region_count = 4000;
 constexpr int links_per_wine = 4;
 constexpr int rounds = 9;
 const std::string password = "open9sesame";
@@ -42,23 +44,49 @@ double Median(std::vector<double> values) {
   return values[values.size() / 2];
 }
 
-void Compare(const char* what, double target, const std::function<void()>& bare,
-             const std::function<void()>& store, int times = rounds) {
+void Compare(
+    const char* what, double target, const std::function<void()>& bare,
+    const std::function<void()>& store, int times = rounds,
+    const std::function<void()>& prepare = [] {}) {
   std::vector<double> bare_times;
   std::vector<double> store_times;
   bare();
   store();
   for (int i = 0; i < times; ++i) {
+    prepare();
     bare_times.push_back(Milliseconds(bare));
     store_times.push_back(Milliseconds(store));
   }
   const double ratio = Median(store_times) / Median(bare_times);
-  std::printf("%-52s bare %9.3f ms  store %9.3f ms  ratio %.2f (target %.2f) %s\n", what,
+  std::printf("%-56s bare %9.3f ms  store %9.3f ms  ratio %.2f (target %.2f) %s\n", what,
               Median(bare_times), Median(store_times), ratio, target,
               ratio <= target ? "ok" : "MISSED");
 }
 
-// ---- the tables: twenty fields of a wine, and its links ----
+// ---- the tables: twenty fields of a wine, its links, and a table of look-ups ----
+
+struct Region {
+  Long Region_ID = 0;
+  Text Region_Name, Country, Serial;
+  Integer Used = 0, Description = 0, History = 0;
+  Text Map;
+  Long Group = 0, Sub_Group = 0, Sub_Region_Of = 0;
+};
+
+template <class Visit>
+void Each_Field(Region& region, Visit visit) {
+  visit("Region_ID", region.Region_ID);
+  visit("Region_Name", region.Region_Name);
+  visit("Country", region.Country);
+  visit("Serial", region.Serial);
+  visit("Used", region.Used);
+  visit("Description", region.Description);
+  visit("History", region.History);
+  visit("Map", region.Map);
+  visit("Group", region.Group);
+  visit("Sub_Group", region.Sub_Group);
+  visit("Sub_Region_Of", region.Sub_Region_Of);
+}
 
 struct Wine {
   Long Wine_ID = 0;
@@ -103,35 +131,41 @@ Field_Type Type_Of(const Currency&) { return Field_Type::Currency; }
 Field_Type Type_Of(const Date&) { return Field_Type::Date; }
 Field_Type Type_Of(const bool&) { return Field_Type::Boolean; }
 
-std::vector<Table_Schema> Tables() {
-  Table_Schema wines{.name = "Wines",
-                     .fields = {},
-                     .indexes = {{.name = "Wine_ID", .fields = {"Wine_ID"}, .unique = true},
-                                 {.name = "Name", .fields = {"Name"}}}};
-  Wine wine;
-  Each_Field(wine, [&](const char* name, auto& member) {
-    wines.fields.push_back({.name = name, .type = Type_Of(member)});
+template <class Record>
+Table_Schema Table_Of(std::string name, std::vector<Index_Schema> indexes) {
+  Table_Schema table{.name = std::move(name), .fields = {}, .indexes = std::move(indexes)};
+  Record record;
+  Each_Field(record, [&](const char* field, auto& member) {
+    table.fields.push_back({.name = field, .type = Type_Of(member)});
   });
-  wines.fields.front().counter = true;
-  Table_Schema links{.name = "Links",
-                     .fields = {{.name = "Link_ID", .type = Field_Type::Long, .counter = true},
-                                {.name = "Wine_ID", .type = Field_Type::Long},
-                                {.name = "Group", .type = Field_Type::Long},
-                                {.name = "Mask", .type = Field_Type::Long}},
-                     .indexes = {{.name = "Wine_ID", .fields = {"Wine_ID"}}}};
-  return {wines, links};
+  table.fields.front().counter = true;
+  return table;
 }
 
-std::string Wine_Name(int i) {
+std::vector<Table_Schema> Tables() {
+  return {
+      Table_Of<Wine>("Wines", {{.name = "Wine_ID", .fields = {"Wine_ID"}, .unique = true},
+                               {.name = "Name", .fields = {"Name"}}}),
+      Table_Of<Region>("Regions", {{.name = "Region_ID", .fields = {"Region_ID"}, .unique = true},
+                                   {.name = "Region_Name", .fields = {"Region_Name"}}}),
+      {.name = "Links",
+       .fields = {{.name = "Link_ID", .type = Field_Type::Long, .counter = true},
+                  {.name = "Wine_ID", .type = Field_Type::Long},
+                  {.name = "Group", .type = Field_Type::Long},
+                  {.name = "Mask", .type = Field_Type::Long}},
+       .indexes = {{.name = "Wine_ID", .fields = {"Wine_ID"}}}}};
+}
+
+std::string Some_Name(int i, int count) {
   static const std::array<const char*, 4> words{"Château Bellevue", "Finca del Rio",
                                                 "Weingut Keller", "Cantina Rossi"};
   return std::string(words[static_cast<std::size_t>(i) % words.size()]) + " " +
-         std::to_string((i * 7919) % wine_count);
+         std::to_string((i * 7919) % count);
 }
 
 Wine Made_Wine(int i) {
   Wine wine;
-  wine.Name = Wine_Name(i);
+  wine.Name = Some_Name(i, wine_count);
   wine.Country = "FRA";
   wine.Region = "Bordeaux and around";
   wine.Label = "Appellation " + std::to_string(i % 120);
@@ -151,10 +185,33 @@ Wine Made_Wine(int i) {
   return wine;
 }
 
-void Write_Wine(Recordset& wines, Wine& wine) {
-  Each_Field(wine, [&](const char* name, auto& member) {
-    if (std::strcmp(name, "Wine_ID") != 0) wines[name] = member;
+Region Made_Region(int i) {
+  Region region;
+  region.Region_Name = Some_Name(i, region_count);
+  region.Country = "ITA";
+  region.Serial = "SYS-" + std::to_string(i);
+  region.Map = "x";
+  region.Group = i / 10 * 10;
+  region.Sub_Group = i % 10;
+  region.Sub_Region_Of = -1;
+  return region;
+}
+
+// A Write routine: all but the key.
+template <class Record>
+void Write(Recordset& rows, Record& record) {
+  bool key = true;
+  Each_Field(record, [&](const char* name, auto& member) {
+    if (!key) rows[name] = member;
+    key = false;
   });
+}
+
+template <class Record>
+void Add(Recordset& rows, Record record) {
+  rows.AddNew();
+  Write(rows, record);
+  rows.Update();
 }
 
 void Fill(const std::string& path) {
@@ -162,11 +219,10 @@ void Fill(const std::string& path) {
   Recordset wines = database->OpenRecordset("Wines");
   Recordset links = database->OpenRecordset("Links");
   for (int i = 0; i < wine_count; ++i) {
-    Wine wine = Made_Wine(i);
-    wines.AddNew();
-    Write_Wine(wines, wine);
-    wines.Update();
+    Add(wines, Made_Wine(i));
   }
+  Recordset regions = database->OpenRecordset("Regions");
+  for (int i = 0; i < region_count; ++i) Add(regions, Made_Region(i));
   for (int i = 0; i < wine_count * links_per_wine; ++i) {
     links.AddNew();
     links["Wine_ID"] = i % wine_count + 1;
@@ -178,21 +234,23 @@ void Fill(const std::string& path) {
 }
 
 // A Read routine: names are bound once for all recordsets on the table, then ordinals are used.
-void Read_Wine(const Recordset& rows, Wine& wine) {
+template <class Record>
+void Read(const Recordset& rows, Record& record) {
   static std::uint64_t layout = 0;
   static std::vector<int> ordinals;
   if (layout != rows.Layout()) {
     layout = rows.Layout();
     ordinals.clear();
-    Each_Field(wine, [&](const char* name, auto&) { ordinals.push_back(rows.Ordinal(name)); });
+    Each_Field(record, [&](const char* name, auto&) { ordinals.push_back(rows.Ordinal(name)); });
   }
   std::size_t i = 0;
-  Each_Field(wine,
+  Each_Field(record,
              [&](const char*, auto& member) { rows.Fields(ordinals[i++]).Read_Into(member); });
 }
 
-void Read_Wine_By_Names(const Recordset& rows, Wine& wine) {
-  Each_Field(wine, [&](const char* name, auto& member) { rows.Fields(name).Read_Into(member); });
+template <class Record>
+void Read_By_Names(const Recordset& rows, Record& record) {
+  Each_Field(record, [&](const char* name, auto& member) { rows.Fields(name).Read_Into(member); });
 }
 
 // What somebody would write who has nothing but the engine.
@@ -245,66 +303,121 @@ void Bench_Scan(Bare_Engine& bare, Database& database) {
       wines.Close();
     };
   };
-  Compare("scan of 32000 rows, 20 fields, names bound once", 1.5, bare_scan, scan_by(Read_Wine));
+  Compare("scan of 32000 rows, 20 fields, names bound once", 1.5, bare_scan, scan_by(Read<Wine>));
   Compare("scan of 32000 rows, 20 fields, by name each time", 1.5, bare_scan,
-          scan_by(Read_Wine_By_Names));
+          scan_by(Read_By_Names<Wine>));
 }
 
-void Bench_Seeks(Bare_Engine& bare, Database& database) {
-  constexpr int seeks = 20000;
-  const auto key = [](int i) { return (i * 7907) % wine_count; };
-  std::vector<std::string> names;
-  for (int i = 0; i < seeks; ++i) names.push_back(Wine_Name(key(i)));
+// Look-ups in one handler: `asked` are the row numbers, from 1, in the order of asking.
+struct Look_Ups {
+  const char* what;
+  const char* table;
+  const char* index;
+  bool by_name;
+  int rows;
+  std::vector<int> asked;
+};
 
-  const auto by_number = bare.Prepare("SELECT Name FROM Wines WHERE Wine_ID=?");
-  const auto by_name = bare.Prepare("SELECT Wine_ID FROM Wines WHERE Name=?");
-  Text name;
-  Wine wine;
-  const auto bare_number = [&] {
-    for (int i = 0; i < seeks; ++i) {
-      sqlite3_bind_int(by_number.get(), 1, key(i) + 1);
-      sqlite3_step(by_number.get());
-      Read_Column(by_number.get(), 0, name);
-      sink += static_cast<long>(name.size());
-      sqlite3_reset(by_number.get());
-    }
-  };
-  const auto bare_name = [&] {
-    for (int i = 0; i < seeks; ++i) {
-      const std::string& sought = names[static_cast<std::size_t>(i)];
-      sqlite3_bind_text(by_name.get(), 1, sought.data(), static_cast<int>(sought.size()),
-                        SQLITE_STATIC);
-      sqlite3_step(by_name.get());
-      sink += sqlite3_column_int(by_name.get(), 0);
-      sqlite3_reset(by_name.get());
-    }
-  };
-  const auto look_up = [&](const char* index, auto sought, auto read) {
-    return [&, index, sought, read] {
-      Recordset wines;
-      for (int i = 0; i < seeks; ++i) {
-        wines = database.OpenRecordset("Wines");
-        wines.Index(index);
-        wines.Seek("=", sought(i));
-        read(wines);
-        sink += wine.Wine_ID;
-        wines.Close();
+// Each of `rows` once, in any order; or some of them again and again, `times` look-ups in all.
+std::vector<int> Asked(int rows, int times) {
+  std::vector<int> asked;
+  for (int i = 0; i < times; ++i) asked.push_back(i % rows + 1);
+  std::mt19937 chance(11);
+  std::ranges::shuffle(asked, chance);
+  return asked;
+}
+
+// The engine reads one column, the store what `read` reads.
+template <class Record>
+void Bench_Look_Ups(const Bare_Engine& bare, Database& database, const Look_Ups& look_ups,
+                    bool first_time, void (*read)(const Recordset&, Record&)) {
+  const auto statement = bare.Prepare(
+      (std::string("SELECT Country FROM ") + look_ups.table + " WHERE " + look_ups.index + "=?")
+          .c_str());
+  std::vector<std::string> names;
+  for (const int number : look_ups.asked) names.push_back(Some_Name(number - 1, look_ups.rows));
+  const auto bare_seeks = [&] {
+    Text country;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+      if (look_ups.by_name) {
+        sqlite3_bind_text(statement.get(), 1, names[i].data(), static_cast<int>(names[i].size()),
+                          SQLITE_STATIC);
+      } else {
+        sqlite3_bind_int(statement.get(), 1, look_ups.asked[i]);
       }
-    };
+      if (sqlite3_step(statement.get()) != SQLITE_ROW) std::abort();
+      Read_Column(statement.get(), 0, country);
+      sink += static_cast<long>(country.size());
+      sqlite3_reset(statement.get());
+    }
   };
-  const auto number_of = [&](int i) { return key(i) + 1; };
-  const auto name_of = [&](int i) { return std::string_view(names[static_cast<std::size_t>(i)]); };
-  const auto whole = [&](const Recordset& wines) { Read_Wine(wines, wine); };
-  const auto one_name = [&](const Recordset& wines) { wines["Name"].Read_Into(wine.Name); };
-  const auto one_number = [&](const Recordset& wines) { wines["Wine_ID"].Read_Into(wine.Wine_ID); };
-  Compare("open, index, seek, one field, close: number key", 2.2, bare_number,
-          look_up("Wine_ID", number_of, one_name));
-  Compare("open, index, seek, all 20 fields, close: number key", 2.2, bare_number,
-          look_up("Wine_ID", number_of, whole));
-  Compare("open, index, seek, one field, close: text key", 2.2, bare_name,
-          look_up("Name", name_of, one_number));
-  Compare("open, index, seek, all 20 fields, close: text key", 2.2, bare_name,
-          look_up("Name", name_of, whole));
+  const auto store_seeks = [&] {
+    database.Commit();  // a handler begins
+    Record record;
+    Recordset rows;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+      rows = database.OpenRecordset(look_ups.table);
+      rows.Index(look_ups.index);
+      if (look_ups.by_name) {
+        rows.Seek("=", names[i]);
+      } else {
+        rows.Seek("=", look_ups.asked[i]);
+      }
+      read(rows, record);
+      sink += static_cast<long>(record.Country.size());
+      rows.Close();
+    }
+  };
+  // What the store remembers of a table goes with a write to it.
+  const auto forget = [&] {
+    if (!first_time) return;
+    bare.Execute("COMMIT");
+    Recordset rows = database.OpenRecordset(look_ups.table);
+    rows.Edit();
+    rows["Country"] = "FRA";
+    rows.Update();
+    database.Commit();
+    bare.Execute("BEGIN");
+  };
+  Compare(look_ups.what, 2.2, bare_seeks, store_seeks, 2 * rounds + 1, forget);
+}
+
+template <class Record>
+void Read_Country(const Recordset& rows, Record& record) {
+  rows["Country"].Read_Into(record.Country);
+}
+
+void Bench_Seeks(const Bare_Engine& bare, Database& database) {
+  const auto run = [&]<class Record>(void (*read)(const Recordset&, Record&), bool first_time,
+                                     const Look_Ups& look_ups) {
+    Bench_Look_Ups<Record>(bare, database, look_ups, first_time, read);
+  };
+  const std::vector<int> some = Asked(300, 20000);
+  const std::vector<int> all = Asked(region_count, region_count);
+  const std::vector<int> wines = Asked(wine_count, 20000);
+  run(Read<Region>, false,
+      {"look-ups of a list, 300 rows, 11 fields: number", "Regions", "Region_ID", false,
+       region_count, some});
+  run(Read<Region>, false,
+      {"look-ups of a list, 300 rows, 11 fields: text", "Regions", "Region_Name", true,
+       region_count, some});
+  run(Read_Country<Region>, true,
+      {"first look-up of 4000 rows, 1 field: number", "Regions", "Region_ID", false, region_count,
+       all});
+  run(Read_Country<Region>, true,
+      {"first look-up of 4000 rows, 1 field: text", "Regions", "Region_Name", true, region_count,
+       all});
+  run(Read<Region>, true,
+      {"first look-up of 4000 rows, 11 fields: number", "Regions", "Region_ID", false, region_count,
+       all});
+  run(Read<Region>, true,
+      {"first look-up of 4000 rows, 11 fields: text", "Regions", "Region_Name", true, region_count,
+       all});
+  run(Read<Wine>, true,
+      {"first look-up of 20000 rows, 20 fields: number", "Wines", "Wine_ID", false, wine_count,
+       wines});
+  run(Read<Wine>, true,
+      {"first look-up of 20000 rows, 20 fields: text", "Wines", "Name", true, wine_count, wines});
 }
 
 void Bench_Links(Bare_Engine& bare, Database& database) {
@@ -344,21 +457,20 @@ void Bench_Writes(Database& database) {
     times.push_back(Milliseconds([&] {
       for (int i = 0; i < 20; ++i) {
         Recordset rows = database.OpenRecordset(i == 0 ? "Wines" : "Links");
-        rows.AddNew();
         if (i == 0) {
-          Wine wine = Made_Wine(round);
-          Write_Wine(rows, wine);
+          Add(rows, Made_Wine(round));
         } else {
+          rows.AddNew();
           rows["Wine_ID"] = 1;
+          rows.Update();
         }
-        rows.Update();
         rows.Close();
       }
       database.Commit();
     }));
     syncs = std::max(syncs, Watched_Disk::Syncs());
   }
-  std::printf("%-52s %.3f ms, at most %d syncs (target 4) %s\n", "twenty row writes of one burst",
+  std::printf("%-56s %.3f ms, at most %d syncs (target 4) %s\n", "twenty row writes of one burst",
               Median(times), syncs, syncs <= 4 ? "ok" : "MISSED");
 }
 

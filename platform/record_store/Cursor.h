@@ -30,7 +30,7 @@ class Cursor {
       return new_row_.At(0, ordinal);
     }
     if (place_ != Place::Row) Require_Row();
-    return live_ != nullptr ? Column_Value(live_, ordinal) : row_.At(at_, ordinal);
+    return live_ != nullptr ? Column_Value(live_, ordinal) : kept_->At(at_, ordinal);
   }
   /// Assigns a field of the row being added or edited.
   void Put(int ordinal, const Key::Value& plain);
@@ -54,8 +54,8 @@ class Cursor {
   virtual void Update();
   virtual void Delete();
 
-  /// The recordset is done with it: statements and memory go back.
-  virtual void Close() = 0;
+  /// The recordset is done with it: it goes back to the database.
+  virtual void Put_Away() = 0;
 
   Database_Core* core = nullptr;  ///< null once the database is gone: the recordset owns it then
 
@@ -73,9 +73,10 @@ class Cursor {
   Place place_ = Place::First;
   bool no_match_ = false;
 
-  // The current row: under a statement that stands on it, or kept.
+  // The current row: under a statement that stands on it, or kept, here or elsewhere.
   sqlite3_stmt* live_ = nullptr;
   Row_Block row_;
+  const Row_Block* kept_ = &row_;
   std::size_t at_ = 0;
 
   Change change_ = Change::None;

@@ -37,13 +37,27 @@ Database_Core::~Database_Core() {
 
 // ---- bursts ----
 
-// A burst that the engine has ended by itself, after a failure, is over for the cursors too.
+// A burst that the engine has ended by itself, after a failure, is over for the cursors too, and
+// what it wrote is gone.
 void Database_Core::Begin(const char* statement, Burst_Kind kind) {
-  if (burst_kind_ != Burst_Kind::None) Detach_All();
+  if (burst_kind_ != Burst_Kind::None) {
+    Detach_All();
+    ++file_state_;
+  }
   burst_kind_ = Burst_Kind::None;
+  if (engine_->In_Burst()) engine_->Execute("ROLLBACK");  // one whose beginning failed halfway
   engine_->Execute(statement);
+  Look_For_Changes();
   burst_kind_ = kind;
-  ++burst_;
+}
+
+void Database_Core::Look_For_Changes() {
+  if (!version_) version_ = engine_->Prepare("PRAGMA data_version");
+  engine_->Step(version_.get());
+  const std::int64_t version = Column_Value(version_.get(), 0).number;
+  sqlite3_reset(version_.get());
+  if (version != last_version_) ++file_state_;
+  last_version_ = version;
 }
 
 // The engine takes the file for writing at the beginning of a burst only. What stands read is given
@@ -100,12 +114,13 @@ std::vector<std::string> Database_Core::Table_Names() {
 // ---- cursors ----
 
 Cursor& Database_Core::Open(std::string_view table_or_statement) {
-  if (Is_Name(table_or_statement)) {
-    Table* table = Find_Table(table_or_statement);
-    if (table == nullptr) Fail(Failure::No_Such_Table, table_or_statement);
-    return Open_Table(*table);
+  if (const auto known = tables_.find(table_or_statement); known != tables_.end()) {
+    return Open_Table(*known->second);
   }
-  return Open_Query(table_or_statement);
+  if (!Is_Name(table_or_statement)) return Open_Query(table_or_statement);
+  Table* table = Find_Table(table_or_statement);
+  if (table == nullptr) Fail(Failure::No_Such_Table, table_or_statement);
+  return Open_Table(*table);
 }
 
 Cursor& Database_Core::Open_Table(Table& table) {
@@ -127,15 +142,16 @@ Cursor& Database_Core::Open_Query(std::string_view text) {
   return *open_queries_.back();
 }
 
-void Database_Core::Put_Away(Cursor& cursor) noexcept {
+void Database_Core::Take_Back(Table_Cursor& cursor) {
   cursor.Close();
-  if (auto* table = dynamic_cast<Table_Cursor*>(&cursor)) {
-    Forget(open_tables_, table);
-    free_tables_.emplace_back(table);
-  } else if (auto* query = dynamic_cast<Query_Cursor*>(&cursor)) {
-    Forget(open_queries_, query);
-    free_queries_.emplace_back(query);
-  }
+  Forget(open_tables_, &cursor);
+  free_tables_.emplace_back(&cursor);
+}
+
+void Database_Core::Take_Back(Query_Cursor& cursor) {
+  cursor.Close();
+  Forget(open_queries_, &cursor);
+  free_queries_.emplace_back(&cursor);
 }
 
 }  // namespace Record_Store

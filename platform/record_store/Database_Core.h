@@ -36,8 +36,9 @@ class Database_Core {
   /// The first burst of a new file, in which its tables are made.
   void Begin_Building() { Begin("BEGIN IMMEDIATE", Burst_Kind::Write); }
   void Commit();
-  /// A number for the burst that runs, another one for each.
-  std::uint64_t Burst() const { return burst_; }
+  /// Another number whenever the file is no longer as this process left it: what was read before
+  /// holds no more. To be asked inside a burst.
+  std::uint64_t File_State() const { return file_state_; }
 
   // ---- tables ----
 
@@ -47,7 +48,8 @@ class Database_Core {
   // ---- cursors ----
 
   Cursor& Open(std::string_view table_or_statement);
-  void Put_Away(Cursor& cursor) noexcept;
+  void Take_Back(Table_Cursor& cursor);
+  void Take_Back(Query_Cursor& cursor);
 
  private:
   enum class Burst_Kind { None, Read, Write };
@@ -63,13 +65,16 @@ class Database_Core {
 
   void Begin(const char* statement, Burst_Kind kind);
   void Detach_All();
+  void Look_For_Changes();
   Cursor& Open_Table(Table& table);
   Cursor& Open_Query(std::string_view text);
 
   std::unique_ptr<Engine> engine_;
   bool building_;
   Burst_Kind burst_kind_ = Burst_Kind::None;
-  std::uint64_t burst_ = 0;
+  Statement version_;  // the engine's count of the changes by other processes
+  std::int64_t last_version_ = -1;
+  std::uint64_t file_state_ = 0;
 
   std::unordered_map<std::string, std::unique_ptr<Table>, Name_Hash, Name_Equal> tables_;
 

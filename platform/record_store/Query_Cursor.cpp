@@ -63,6 +63,8 @@ void Query_Cursor::Open(Database_Core& database, std::string_view text) {
   Move_First();
 }
 
+void Query_Cursor::Put_Away() { core->Take_Back(*this); }
+
 void Query_Cursor::Close() { row_.Shrink(); }
 
 void Query_Cursor::Move_First() {

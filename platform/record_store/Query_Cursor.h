@@ -10,7 +10,9 @@ class Query_Cursor final : public Cursor {
   /// Runs the statement. 3075 where it is not one SELECT that can be run, 3078 for a table in it
   /// that is not there.
   void Open(Database_Core& database, std::string_view text);
-  void Close() override;
+  void Put_Away() override;
+  /// Gives statements and memory back.
+  void Close();
 
   void Move_First() override;
   void Move_Last() override;

@@ -25,7 +25,7 @@ Recordset::~Recordset() { Drop(); }
 void Recordset::Drop() noexcept {
   if (cursor_ == nullptr) return;
   if (cursor_->core != nullptr) {
-    cursor_->core->Put_Away(*cursor_);
+    cursor_->Put_Away();
   } else {
     delete cursor_;
   }

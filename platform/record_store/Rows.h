@@ -65,6 +65,8 @@ class Row_Block {
   void Make_Row(int width);
   /// Takes over the row on which the statement stands.
   void Append(sqlite3_stmt* statement);
+  /// A row of one cell.
+  void Append(const Value& value) { cells_.push_back(Keep(value)); }
   /// A text given must not lie in this block.
   void Set(int column, const Value& value);
 

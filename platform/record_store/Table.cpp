@@ -171,8 +171,8 @@ sqlite3_stmt* Table::Update_Statement(const std::vector<bool>& assigned) {
 
 // ---- numbers of rows ----
 
-std::int64_t Table::Next_Number(std::uint64_t burst) {
-  if (numbered_in_burst_ != burst) {
+std::int64_t Table::Next_Number(std::uint64_t file_state) {
+  if (numbered_in_state_ != file_state) {
     if (!counter_) {
       counter_ = engine_->Prepare(layout_.Counter() >= 0
                                       ? "SELECT seq FROM sqlite_sequence WHERE name=?"
@@ -183,7 +183,7 @@ std::int64_t Table::Next_Number(std::uint64_t burst) {
     }
     if (engine_->Step(counter_.get())) Has_Seen(sqlite3_column_int64(counter_.get(), 0));
     sqlite3_reset(counter_.get());
-    numbered_in_burst_ = burst;
+    numbered_in_state_ = file_state;
   }
   const bool small =
       layout_.Counter() >= 0 && layout_.At(layout_.Counter()).type == Field_Type::Integer;
@@ -194,12 +194,12 @@ std::int64_t Table::Next_Number(std::uint64_t burst) {
 
 void Table::Has_Seen(std::int64_t number) { last_number_ = std::max(last_number_, number); }
 
-std::int64_t Table::Count(std::uint64_t burst) {
-  if (counted_in_burst_ != burst) {
+std::int64_t Table::Count(std::uint64_t file_state) {
+  if (counted_in_state_ != file_state) {
     if (!count_) count_ = engine_->Prepare("SELECT count(*) FROM " + Quoted(schema_.name));
     counted_ = engine_->Step(count_.get()) ? sqlite3_column_int64(count_.get(), 0) : 0;
     sqlite3_reset(count_.get());
-    counted_in_burst_ = burst;
+    counted_in_state_ = file_state;
   }
   return counted_;
 }

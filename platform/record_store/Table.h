@@ -9,6 +9,7 @@
 
 #include "platform/record_store/Engine.h"
 #include "platform/record_store/Layout.h"
+#include "platform/record_store/Look_Ups.h"
 #include "platform/record_store/Schema.h"
 
 namespace Record_Store {
@@ -77,12 +78,17 @@ class Table {
 
   /// The number for a new row: one above all that this file or this run has seen. 6 beyond the
   /// range of the counter.
-  std::int64_t Next_Number(std::uint64_t burst);
+  std::int64_t Next_Number(std::uint64_t file_state);
   void Has_Seen(std::int64_t number);
 
   /// Rows in the table. Counted once for each state of the table.
-  std::int64_t Count(std::uint64_t burst);
-  void Has_Changed() { counted_in_burst_ = 0; }
+  std::int64_t Count(std::uint64_t file_state);
+  void Has_Changed() {
+    counted_in_state_ = 0;
+    look_ups_.Forget();
+  }
+
+  Look_Ups& Found() { return look_ups_; }
 
  private:
   std::string Quoted_Field(int ordinal) const;
@@ -103,10 +109,11 @@ class Table {
   Statement count_;
   std::unordered_map<std::vector<bool>, Statement> updates_;
 
+  Look_Ups look_ups_;
   std::int64_t last_number_ = 0;
-  std::uint64_t numbered_in_burst_ = 0;
+  std::uint64_t numbered_in_state_ = 0;
   std::int64_t counted_ = 0;
-  std::uint64_t counted_in_burst_ = 0;
+  std::uint64_t counted_in_state_ = 0;
 };
 
 }  // namespace Record_Store

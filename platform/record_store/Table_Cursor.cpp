@@ -19,6 +19,8 @@ void Table_Cursor::Open(Database_Core& database, Table& table) {
   change_ = Change::None;
 }
 
+void Table_Cursor::Put_Away() { core->Take_Back(*this); }
+
 void Table_Cursor::Close() {
   Release();
   table_ = nullptr;
@@ -28,6 +30,7 @@ void Table_Cursor::Close() {
 
 void Table_Cursor::Release() {
   live_ = nullptr;
+  Keep_Own();
   if (!statement_) return;
   sqlite3_reset(statement_.get());
   pool_->Give_Back(std::move(statement_));
@@ -35,10 +38,23 @@ void Table_Cursor::Release() {
 
 void Table_Cursor::Detach() {
   if (live_ != nullptr) {
-    row_.Clear(table_->Width());
-    row_.Append(live_);
+    Take_Row(live_);
+  } else if (kept_ != &row_) {
+    row_.Make_Row(table_->Width());
+    for (int i = 0; i < table_->Width(); ++i) row_.Set(i, kept_->At(at_, i));
   }
   Release();
+}
+
+void Table_Cursor::Take_Row(sqlite3_stmt* statement) {
+  row_.Clear(table_->Width());
+  row_.Append(statement);
+  Keep_Own();
+}
+
+void Table_Cursor::Keep_Own() {
+  kept_ = &row_;
+  at_ = 0;
 }
 
 void Table_Cursor::Settle() {
@@ -122,6 +138,8 @@ void Table_Cursor::Move(bool backwards) {
 
 bool Table_Cursor::Advance(bool backwards) {
   const bool lone = order_->sort.empty() && form_.range == Form::Sought;
+  // The row of a look-up that was answered without asking: ask now.
+  if (kept_ != &row_ && !backwards && !lone) Ask(form_);
   if (live_ != nullptr && form_.backwards == backwards && !lone) {
     if (Step()) return true;
   } else {
@@ -154,7 +172,7 @@ bool Table_Cursor::To_Wider_Form() {
 }
 
 Value Table_Cursor::Raw(int column) const {
-  return live_ != nullptr ? Column_Value(live_, column) : row_.At(at_, column);
+  return live_ != nullptr ? Column_Value(live_, column) : kept_->At(at_, column);
 }
 
 std::int64_t Table_Cursor::Row_Number() const { return Raw(table_->Number_Column()).number; }
@@ -183,8 +201,25 @@ void Table_Cursor::Seek(std::string_view comparison, std::span<const Key> keys) 
   change_ = Change::None;
   Release();
   const int prefix = order_->sort.empty() ? 0 : static_cast<int>(keys.size());
-  no_match_ = !Take_Keys(keys) || !Ask({prefix, Form::Sought, false});
+  const Form form{prefix, Form::Sought, false};
+  no_match_ = !Take_Keys(keys) || !(keys.size() == 1 ? Look_Up(form) : Ask(form));
   if (no_match_) place_ = Place::Missed;
+}
+
+bool Table_Cursor::Look_Up(const Form& form) {
+  core->Begin_Read();
+  const Value key = anchor_.At(0, 0);
+  Look_Ups& found = table_->Found();
+  if (const auto row = found.Find(*order_, key, core->File_State())) {
+    form_ = form;
+    kept_ = &found.Rows();
+    at_ = *row;
+    place_ = Place::Row;
+    return true;
+  }
+  if (!Ask(form)) return false;
+  found.Keep_Missed(*order_, key, live_, table_->Width());
+  return true;
 }
 
 // False where a key is one that no row can have.
@@ -202,7 +237,7 @@ bool Table_Cursor::Take_Keys(std::span<const Key> keys) {
 
 Long Table_Cursor::Count() {
   core->Begin_Read();
-  return static_cast<Long>(table_->Count(core->Burst()));
+  return static_cast<Long>(table_->Count(core->File_State()));
 }
 
 // ---- changes ----
@@ -212,7 +247,7 @@ void Table_Cursor::Add_New() {
   core->Begin_Write(*table_);
   Begin_Change(Change::Add);
   if (layout_->Counter() < 0) return;
-  const Value number = Value::Of(table_->Next_Number(core->Burst()));
+  const Value number = Value::Of(table_->Next_Number(core->File_State()));
   for (int ordinal = 0; ordinal < layout_->Count(); ++ordinal) {
     const Column& column = layout_->At(ordinal);
     if (column.counter || column.copy_of_counter) new_row_.Set(ordinal, number);
@@ -231,8 +266,7 @@ void Table_Cursor::Edit() {
       sqlite3_reset(again);
       Fail(Failure::Record_Is_Deleted);
     }
-    row_.Clear(table_->Width());
-    row_.Append(again);
+    Take_Row(again);
     sqlite3_reset(again);
   }
   Begin_Change(Change::Edit);
@@ -253,7 +287,7 @@ void Table_Cursor::Update() {
 void Table_Cursor::Insert_New_Row() {
   const int counter = layout_->Counter();
   const std::int64_t number =
-      counter >= 0 ? new_row_.At(0, counter).number : table_->Next_Number(core->Burst());
+      counter >= 0 ? new_row_.At(0, counter).number : table_->Next_Number(core->File_State());
   sqlite3_stmt* insert = table_->Insert_Statement();
   sqlite3_bind_int64(insert, 1, number);
   for (int ordinal = 0; ordinal < layout_->Count(); ++ordinal) {

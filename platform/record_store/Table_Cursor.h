@@ -17,7 +17,9 @@ class Table_Cursor final : public Cursor {
  public:
   /// Stands on the first row in storage order, which is looked for when it is first needed.
   void Open(Database_Core& database, Table& table);
-  void Close() override;
+  void Put_Away() override;
+  /// Gives statements and memory back.
+  void Close();
 
   bool Is_On(const Table& table) const { return table_ == &table; }
   /// Gives its statement up; the row stays.
@@ -51,6 +53,9 @@ class Table_Cursor final : public Cursor {
   void Take_Anchor();
   void Release();
   bool Take_Keys(std::span<const Key> keys);
+  bool Look_Up(const Form& form);
+  void Take_Row(sqlite3_stmt* statement);
+  void Keep_Own();
   void Insert_New_Row();
   void Store_Changes();
 

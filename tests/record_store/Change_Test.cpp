@@ -316,6 +316,48 @@ TEST_F(Seek_Test, Deleting_All_Rows_Of_A_Key) {
   EXPECT_EQ(Walk(rows, "Rack"), (std::vector<std::string>{"1", "1", "3"}));
 }
 
+// Rows that are looked up again and again are remembered, which must not be seen.
+TEST_F(Seek_Test, Looking_Up_Again_Sees_Every_Change) {
+  for (const char* name : {"a", "b", "b", "c"}) Add_Bottle(name, 1);
+  Recordset rows = database_->OpenRecordset("Bottles");
+  Recordset other = database_->OpenRecordset("Bottles");
+  rows.Index("Name");
+  other.Index("Bottle_ID");
+  const auto seek = [&] {
+    for (int i = 0; i < 4; ++i) {
+      rows.Seek("=", "b");
+      other.Seek("=", 102);
+    }
+  };
+  const auto next = [&] {
+    rows.MoveNext();
+    other.MoveNext();
+    return rows["Bottle_ID"].As_Text() + other["Bottle_ID"].As_Text();
+  };
+  seek();
+  EXPECT_EQ(next(), "103103");
+  seek();
+  rows.MovePrevious();
+  EXPECT_EQ(rows["Name"].As_Text(), "a");
+  seek();
+  database_->Commit();
+  EXPECT_EQ(rows["Name"].As_Text() + next(), "b103103");
+  seek();
+  other.Edit();
+  other["Rack"] = 2;
+  other.Update();
+  EXPECT_EQ(rows["Rack"].As_Long(), 1);
+  seek();
+  EXPECT_EQ(rows["Rack"].As_Long(), 2);
+  EXPECT_EQ(next(), "103103");
+  seek();
+  other.Delete();
+  EXPECT_EQ(rows["Bottle_ID"].As_Long(), 102);
+  seek();
+  EXPECT_EQ(rows["Bottle_ID"].As_Long(), 103);
+  EXPECT_TRUE(other.NoMatch());
+}
+
 // ---- values ----
 
 TEST_F(Change_Test, Every_Type_Comes_Back_As_It_Was) {

@@ -27,11 +27,13 @@ Rows Wines() {
   const char* const colors[] = {"Red", "White", "Rosé", "Sparkling", "Fortified"};
   const char* const grapes[] = {"Cabernet Sauvignon, Merlot", "Chardonnay", "Garnacha, Syrah",
                                 "Touriga Nacional"};
+  const char* const houses[] = {"Château ", "Bodegas ", "Domaine ", "Quinta do ", "Weingut ",
+                                "Tenuta ",  "Viña ",    "Clos ",    "Cantina ",   "Estate "};
   Rows rows;
   for (int i = 0; i < row_count; ++i) {
     const unsigned mixed = static_cast<unsigned>(i) * 2654435761U >> 8;
     const std::string number = std::to_string(mixed % 90000);
-    rows.push_back({std::to_string(1970 + mixed % 55), "Château " + number,
+    rows.push_back({std::to_string(1970 + mixed % 55), houses[mixed % 10] + number,
                     "Appellation " + std::to_string(mixed % 700),
                     "Region " + std::to_string(mixed % 300), grapes[mixed % 4], colors[mixed % 5],
                     std::to_string(50 + mixed % 51), std::to_string(1980 + mixed % 60),

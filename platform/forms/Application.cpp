@@ -4,9 +4,9 @@
 #include <QProxyStyle>
 
 #include "platform/forms/Focus.h"
+#include "platform/forms/Later.h"
 #include "platform/forms/Message_Box.h"
 #include "platform/forms/Qt_Text.h"
-#include "platform/forms/Row_Table.h"
 #include "platform/forms/Screens.h"
 #include "platform/forms/Screens_Inside.h"
 #include "platform/run_time/Guard.h"
@@ -34,7 +34,7 @@ class Desktop_Style : public QProxyStyle {
 void Settle() {
   Settle_Screens();
   Focus_Watch::The().Settle();
-  Refresh_Lists();
+  Show_Now();
 }
 
 }  // namespace

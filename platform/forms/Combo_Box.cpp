@@ -27,12 +27,20 @@ class Combo_Widget : public QComboBox {
   Combo_Widget(QWidget* parent, Combo_Box& combo) : QComboBox(parent), combo_(combo) {
     setFocusPolicy(Qt::StrongFocus);
     setMaxVisibleItems(entries_at_once);
-    // The widest of ten thousand entries is not worth looking for.
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    setMinimumContentsLength(shortest_text);
     // Without it the toolkit would choose the first entry by itself.
     setPlaceholderText(" ");
   }
+
+  // The toolkit asks every entry for its icon to know the box's size.
+  QSize sizeHint() const override {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QFontMetrics metrics = fontMetrics();
+    const QSize text(shortest_text * metrics.horizontalAdvance('X'), metrics.height() + 2);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, this);
+  }
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
   void showPopup() override {
     if (combo_.Locked() || count() == 0) return;

@@ -6,6 +6,7 @@
 #include "platform/forms/Focus.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/Form_Data.h"
+#include "platform/forms/Later.h"
 #include "platform/forms/Look.h"
 #include "platform/forms/Qt_Text.h"
 
@@ -56,6 +57,7 @@ void Placed_Control::Set_Widget(QWidget* widget) {
   Focus_Watch::The().Enter(widget_, *this);
   QObject::connect(widget_, &QObject::destroyed, [this] {
     Focus_Watch::The().Remove(widget_, *this);
+    Forget_Later(this);
     widget_ = nullptr;
   });
   Show_Caption();
@@ -90,7 +92,7 @@ void Placed_Control::Set_ForeColor(Color color) {
 }
 
 void Placed_Control::Show_Look() {
-  Dress(widget_, back_color_, fore_color_);
+  Show_Later(this, [this] { Dress(widget_, back_color_, fore_color_); });
   if (back_color_ == Required_Color) {
     Show_State(State_Words().required);
   } else if (back_color_ == Locked_Color || Is_Locked()) {

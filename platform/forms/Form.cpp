@@ -117,8 +117,14 @@ Control& Form::Find_Control(std::string_view name) const {
 
 void Form::Set_Content(const Place& content) { Build_Layout(*data_, content); }
 
-void Form::Set_Exit(Command_Button& button) { data_->exit_button = &button; }
+void Form::Set_Exit(Command_Button& button, Exit exit) {
+  data_->exit_button = &button;
+  data_->esc_leaves = exit == Exit::Leaves;
+}
 
-void Form::Set_Exit(Menu_Entry& entry) { data_->exit_entry = &entry; }
+void Form::Set_Exit(Menu_Entry& entry, Exit exit) {
+  data_->exit_entry = &entry;
+  data_->esc_leaves = exit == Exit::Leaves;
+}
 
 }  // namespace Forms

@@ -71,10 +71,11 @@ class Form {
  protected:
   /// The layout of everything that is seen. Called once, at the end of the constructor.
   void Set_Content(const Place& content);
-  /// The way out: the window's close button, and Esc, do what this button does.
-  void Set_Exit(Command_Button& button);
-  /// The same for an entry that ends the run: only the window's close button does what it does.
-  void Set_Exit(Menu_Entry& entry);
+  /// The way out: the window's close button does what this button or entry does, and so does Esc,
+  /// unless that ends the run.
+  enum class Exit { Leaves, Ends_The_Run };
+  void Set_Exit(Command_Button& button, Exit exit = Exit::Leaves);
+  void Set_Exit(Menu_Entry& entry, Exit exit = Exit::Ends_The_Run);
 
  private:
   friend class Control;

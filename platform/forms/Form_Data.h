@@ -40,7 +40,8 @@ struct Form_Data {
   std::vector<QPointer<QWidget>> reading_order;
   Command_Button* exit_button = nullptr;
   Menu_Entry* exit_entry = nullptr;
-  Form* caller = nullptr;  ///< the form that waits for this one
+  bool esc_leaves = true;
+  Form* caller = nullptr;  ///< the form that waits for this one, while this one is shown
   int waiting_for = 0;     ///< how many forms this one waits for
   bool loaded = false;
   bool unloading = false;

@@ -20,11 +20,11 @@ Form* Form_Of(const QWidget* widget) {
 
 void Leave(Form& form, bool by_key) {
   const Form_Data& data = form.Data();
-  if (!form.Is_Live() || data.waiting_for > 0) return;
+  if (!form.Is_Live() || data.waiting_for > 0 || (by_key && !data.esc_leaves)) return;
   if (data.exit_button != nullptr) {
     if (data.exit_button->Enabled()) data.exit_button->Clicked();
   } else if (data.exit_entry != nullptr) {
-    if (!by_key && data.exit_entry->Enabled()) Raise(*data.exit_entry, data.exit_entry->Click);
+    if (data.exit_entry->Enabled()) Raise(*data.exit_entry, data.exit_entry->Click);
   } else {
     Run_Guarded([&] { form.Unload(); });
   }

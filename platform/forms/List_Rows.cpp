@@ -1,10 +1,62 @@
 #include "platform/forms/List_Rows.h"
 
 #include <algorithm>
+#include <bit>
 
 #include "platform/record_store/Text_Order.h"
 
 namespace Forms {
+
+namespace {
+
+bool Is_Plain(std::string_view text, std::size_t at) {
+  return at >= text.size() || static_cast<unsigned char>(text[at]) < 0x80;
+}
+
+// What two texts begin with in common does not tell them apart; the comparison is much faster on
+// the rest where that is plain. The rest must not begin with a mark on the last common letter.
+int Compare(std::string_view a, std::string_view b) {
+  const std::size_t shorter = std::min(a.size(), b.size());
+  std::size_t at = 0;
+  while (at < shorter && a[at] == b[at]) ++at;
+  while (at > 0 && !(Is_Plain(a, at) && Is_Plain(b, at))) --at;
+  return Compare_Keys(a.substr(at), b.substr(at));
+}
+
+constexpr int key_length = 8;
+
+/// A row with the beginning of its text at hand: most pairs of texts are told apart by it.
+struct Sorted_Row {
+  std::uint64_t key = 0;  ///< the first characters in small letters, as far as they are plain
+  std::int32_t row = 0;
+  std::int32_t known = key_length;  ///< how many of them are
+};
+
+Sorted_Row With_Key(std::string_view text, std::int32_t row) {
+  Sorted_Row entry{0, row};
+  for (int i = 0; i < key_length; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    if (!Is_Plain(text, at)) {
+      entry.known = i;
+      break;
+    }
+    const char letter = at < text.size() ? text[at] : '\0';
+    const bool capital = letter >= 'A' && letter <= 'Z';
+    const auto byte = static_cast<unsigned char>(capital ? letter + ('a' - 'A') : letter);
+    entry.key |= static_cast<std::uint64_t>(byte) << (8 * (key_length - 1 - i));
+  }
+  return entry;
+}
+
+// Letters come before accents and case in the order of texts: the first plain letter that differs
+// decides. 0 where the keys do not tell.
+int Compare(const Sorted_Row& a, const Sorted_Row& b) {
+  const int same = std::countl_zero(a.key ^ b.key) / 8;
+  if (same >= std::min(a.known, b.known)) return 0;
+  return a.key < b.key ? -1 : 1;
+}
+
+}  // namespace
 
 int List_Rows::Place_Of(int row) const {
   if (places_.empty()) {
@@ -81,10 +133,15 @@ const Row_Marks& List_Rows::Marks(int row) const {
 }
 
 void List_Rows::Sort(int column, bool descending) {
-  std::ranges::stable_sort(order_, [&](int a, int b) {
-    const int order = Compare_Keys(Cell(a, column), Cell(b, column));
+  std::vector<Sorted_Row> rows;
+  rows.reserve(order_.size());
+  for (const std::int32_t row : order_) rows.push_back(With_Key(Cell(row, column), row));
+  std::ranges::stable_sort(rows, [&](const Sorted_Row& a, const Sorted_Row& b) {
+    int order = Compare(a, b);
+    if (order == 0) order = Compare(Cell(a.row, column), Cell(b.row, column));
     return descending ? order > 0 : order < 0;
   });
+  std::ranges::transform(rows, order_.begin(), &Sorted_Row::row);
   places_.clear();
 }
 

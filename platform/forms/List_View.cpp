@@ -1,11 +1,11 @@
 #include "platform/forms/List_View.h"
 
 #include <QHeaderView>
-#include <QTimer>
 #include <algorithm>
 
 #include "platform/forms/Focus.h"
 #include "platform/forms/Handlers.h"
+#include "platform/forms/Later.h"
 #include "platform/forms/List_Rows.h"
 #include "platform/forms/List_View_Show.h"
 #include "platform/record_store/Text_Order.h"
@@ -14,11 +14,6 @@
 namespace Forms {
 
 namespace {
-
-std::vector<List_View*>& Changed_Lists() {
-  static std::vector<List_View*> lists;
-  return lists;
-}
 
 bool Begins_A_Character(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; }
 
@@ -34,10 +29,6 @@ std::string_view Beginning(std::string_view text, std::string_view pattern) {
 }
 
 }  // namespace
-
-void Refresh_Lists() {
-  for (List_View* list : std::exchange(Changed_Lists(), {})) list->Refresh();
-}
 
 List_View::List_View(Form& form, std::string_view name, std::vector<List_Column> columns)
     : Placed_Control(form, name, {}),
@@ -57,7 +48,7 @@ List_View::List_View(Form& form, std::string_view name, std::vector<List_Column>
 
 // The view goes before the model that it shows.
 List_View::~List_View() {
-  std::erase(Changed_Lists(), this);
+  Forget_Later(rows_.get());
   Destroy_Widget();
 }
 
@@ -90,15 +81,12 @@ void List_View::Set_Cell(int row, int column, std::string_view text) {
 
 void List_View::Changed(bool order_too) {
   order_is_old_ = order_is_old_ || (order_too && sorted_);
-  if (show_->changed) return;
-  show_->changed = true;
-  Changed_Lists().push_back(this);
-  if (!Inside_Handler()) QTimer::singleShot(0, show_->view, Refresh_Lists);
+  Show_Later(rows_.get(), [this] { Refresh(); });
 }
 
 void List_View::Refresh() {
   Sort_If_Needed();
-  show_->changed = false;
+  Forget_Later(rows_.get());
   show_->model.Show_Rows();
   std::vector<int> places;
   for (const int row : show_->selected) places.push_back(rows_->Place_Of(row));

@@ -17,7 +17,6 @@ struct List_View::Show {
   Row_View* view;
   std::set<int> selected;  ///< rows
   int current = -1;        ///< the row picked last
-  bool changed = false;    ///< since the rows were shown
   bool to_the_top = false;
 };
 

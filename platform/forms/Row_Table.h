@@ -60,7 +60,4 @@ class Row_View : public QTreeView {
   bool selecting_ = false;
 };
 
-/// Shows every list anew whose rows have changed: at the end of a handler.
-void Refresh_Lists();
-
 }  // namespace Forms

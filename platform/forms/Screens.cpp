@@ -79,6 +79,11 @@ void Make_Wait(Form& caller, Form& picker) {
 
 void Bury(Form& form) {
   Registry& registry = The_Registry();
+  for (auto& [name, entry] : registry.entries) {
+    if (entry.form != nullptr && entry.form->Data().caller == &form) {
+      entry.form->Data().caller = nullptr;
+    }
+  }
   Entry* entry = Find(form.Name());
   if (entry == nullptr || entry->form.get() != &form) return;
   registry.buried.push_back(std::move(entry->form));

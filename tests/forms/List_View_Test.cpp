@@ -129,7 +129,10 @@ TEST_F(List_View_Test, Agrees_with_a_plain_stable_sort_over_many_rows) {
   std::vector<std::pair<std::string, int>> wanted;
   list.Clear();
   for (int i = 0; i < 3000; ++i) {
-    const std::string text = (i % 2 == 0 ? "Wine " : "wine ") + std::to_string(random() % 400);
+    const char* const beginnings[] = {"Wine ", "wine ", "Châ", "Cha", "Chat", "Cha\u0302", "CHÂ"};
+    const char* const ends[] = {"", "t", "\u0302t", "ât", "at"};
+    const std::string text = beginnings[random() % 7] + std::to_string(random() % 30) + "é" +
+                             beginnings[random() % 7] + ends[random() % 5];
     wanted.emplace_back(text, i);
     list.Add(text).Set_SubItems(1, std::to_string(i));
   }

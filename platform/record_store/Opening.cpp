@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
 
 #include "platform/record_store/Database.h"
 #include "platform/record_store/Database_Core.h"
@@ -60,6 +61,13 @@ void Read_First_Page(const Engine& engine, const std::string& path, std::string_
   }
   const bool only_password = Looks_Encrypted(path) && !Some_Page_Fits(path, password);
   Fail(only_password ? Failure::Not_A_Valid_Password : Failure::Unrecognized_Format, path);
+}
+
+// The engine would find a last page that was cut off only when it comes to be read. What a killed
+// process left behind has been put right by now.
+bool Ends_Within_A_Page(const std::string& path) {
+  std::error_code no_size;
+  return std::filesystem::file_size(path, no_size) % Page_Size != 0;
 }
 
 // One file to back up: the journal is emptied, not left, and the emptying is synced too, so that a
@@ -117,6 +125,7 @@ std::unique_ptr<Database> OpenDatabase(const std::string& path, bool exclusive, 
                                          password);
   if (exclusive) engine->Execute("PRAGMA locking_mode=EXCLUSIVE");
   Read_First_Page(*engine, path, password);
+  if (Ends_Within_A_Page(path)) Fail(Failure::Unrecognized_Format, path);
   if (engine->Number_Of("PRAGMA application_id") != Application_Id ||
       engine->Number_Of("PRAGMA user_version") != Schema_Version) {
     Fail(Failure::Unrecognized_Format, path);

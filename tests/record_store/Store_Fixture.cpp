@@ -4,6 +4,8 @@
 
 #include <atomic>
 
+#include "platform/record_store/Engine.h"
+#include "platform/record_store/Rows.h"
 #include "platform/run_time/Run_Time_Error.h"
 
 using namespace Record_Store;
@@ -86,4 +88,10 @@ std::vector<std::string> Store_Test::Walk(Recordset& rows, std::string_view fiel
     values.push_back(rows[field].Is_Null() ? "(null)" : rows[field].As_Text());
   }
   return values;
+}
+
+bool Store_Test::Is_Sound() const {
+  const Engine engine(path_, Engine::Mode::Write, "open9sesame");
+  const Statement check = engine.Prepare("PRAGMA integrity_check");
+  return engine.Step(check.get()) && Column_Value(check.get(), 0).text == "ok";
 }

@@ -35,6 +35,9 @@ class Store_Test : public testing::Test {
   static std::vector<std::string> Walk(Record_Store::Recordset& rows,
                                        std::string_view field = "Name");
 
+  /// Whether the engine finds the closed file sound.
+  bool Is_Sound() const;
+
   std::filesystem::path folder_;
   std::string path_;
   std::unique_ptr<Record_Store::Database> database_;

@@ -33,10 +33,13 @@ class Picture_Widget : public QLabel {
     Changed({});
   }
 
+  // A rich drawing takes longer to render than a window to open: one that was rendered when the
+  // program was built has its image beside it.
   bool Load_Drawing(const QString& path) {
     auto drawing = std::make_unique<QSvgRenderer>(path);
     if (!drawing->isValid()) return false;
     drawing_ = std::move(drawing);
+    photo_ = QPixmap(path + ".png");
     Changed(drawing_->defaultSize());
     return true;
   }
@@ -70,13 +73,7 @@ class Picture_Widget : public QLabel {
     }
     const QRect place(QPoint((width() - shown.width()) / 2, (height() - shown.height()) / 2),
                       shown);
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    if (drawing_ != nullptr) {
-      drawing_->render(&painter, place);
-    } else {
-      painter.drawPixmap(place, Photo_For(shown));
-    }
+    QPainter(this).drawPixmap(place, Scaled_To(shown));
   }
 
   void mouseReleaseEvent(QMouseEvent* event) override {
@@ -91,13 +88,30 @@ class Picture_Widget : public QLabel {
     update();
   }
 
-  // Scaled once for each size, and with care: the painter's own scaling of a large photo is rough.
-  const QPixmap& Photo_For(QSize shown) {
+  // Made once for each size: rendering takes its time, and the painter's own scaling is rough.
+  const QPixmap& Scaled_To(QSize shown) {
     const QSize dots = shown * devicePixelRatioF();
-    if (scaled_.size() != dots) {
-      scaled_ = photo_.scaled(dots, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    }
+    if (scaled_.size() != dots) scaled_ = Has_Image_For(dots) ? Scaled_Photo(dots) : Rendered(dots);
     return scaled_;
+  }
+
+  bool Has_Image_For(QSize dots) const {
+    return drawing_ == nullptr ||
+           (photo_.width() >= dots.width() && photo_.height() >= dots.height());
+  }
+
+  QPixmap Scaled_Photo(QSize dots) const {
+    return photo_.size() == dots
+               ? photo_
+               : photo_.scaled(dots, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  }
+
+  QPixmap Rendered(QSize dots) {
+    QPixmap image(dots);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    drawing_->render(&painter);
+    return image;
   }
 
   Picture& picture_;

@@ -62,8 +62,8 @@ void Form::Set_Enabled(bool enabled) {
 }
 
 void Form::Set_Width(int pixels) {
-  data_->content->setMinimumWidth(pixels);
-  if (data_->was_shown) Fit_To_Desktop(*data_->window);
+  data_->opening_width = pixels;
+  if (data_->was_shown) Fit_To_Desktop(*data_->window, pixels);
 }
 
 bool Form::Is_Live() const { return data_->loaded && !data_->unloaded && !Process_Has_Ended(); }
@@ -80,7 +80,7 @@ void Form::Show() {
   if (!data_->was_shown) {
     data_->was_shown = true;
     Assign_Mnemonics(*this);
-    Fit_To_Desktop(*data_->window);
+    Fit_To_Desktop(*data_->window, data_->opening_width);
     Focus_First(*data_);
   }
   data_->window->show();

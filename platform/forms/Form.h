@@ -39,7 +39,8 @@ class Form {
   bool Visible() const;
   /// A form that is not enabled takes no input. No control of it raises LostFocus by that.
   void Set_Enabled(bool enabled);
-  /// The width of the window's inside, in pixels of an unscaled desktop.
+  /// The width in which the window opens, in pixels of an unscaled desktop, as far as the desktop
+  /// has them; the user can change it.
   void Set_Width(int pixels);
 
   /// Loads the form if that has not been, shows it, brings it to the front; then Form_Activate.

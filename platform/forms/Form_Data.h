@@ -47,6 +47,7 @@ struct Form_Data {
   bool unloading = false;
   bool unloaded = false;
   bool was_shown = false;
+  int opening_width = 0;  // 0: as wide as the layout asks for
 };
 
 /// The form whose window, or a popup of whose window, `widget` belongs to; nullptr for others.

@@ -227,13 +227,14 @@ void Build_Layout(Form_Data& form, const Place& content) {
   }
 }
 
-void Fit_To_Desktop(QMainWindow& window) {
+void Fit_To_Desktop(QMainWindow& window, int width) {
   const auto* area = static_cast<QScrollArea*>(window.centralWidget());
   QSize wanted = area->widget()->sizeHint().expandedTo(area->widget()->minimumSize());
   if (!window.menuBar()->actions().isEmpty()) {
     const QSize bar = window.menuBar()->sizeHint();
     wanted = QSize(qMax(wanted.width(), bar.width()), wanted.height() + bar.height());
   }
+  if (width > 0) wanted.setWidth(width);
   const QRect desktop = window.screen()->availableGeometry();
   window.resize(wanted.boundedTo(desktop.size() * 0.94));
   window.move(desktop.center() - QPoint(window.width() / 2, window.height() / 2));

@@ -1,4 +1,6 @@
 // Varieties, pairings and cheeses.
+#include <algorithm>
+
 #include "tools/Compilation.h"
 
 namespace Data_Compiler {
@@ -88,7 +90,13 @@ void Read_Cheese_Links(Compilation& c) {
     const Long cheese = c.cheeses.Find(row["Cheese_Name"]);
     c.foods_of_cheeses[cheese] = c.Keys_In(row, "Pairings", c.pairings);
     c.varieties_of_cheeses[cheese] = c.Keys_In(row, "Varieties", c.varieties);
-    for (Long wine : c.Keys_In(row, "Wines", c.wines)) c.cheeses_of_wines[wine].push_back(cheese);
+    for (Long wine : c.Keys_In(row, "Wines", c.wines)) {
+      auto& cheeses = c.cheeses_of_wines[wine];
+      if (std::find(cheeses.begin(), cheeses.end(), cheese) != cheeses.end())
+        c.problems.Report(row.Where(), "general_wines.tsv names '" + row["Cheese_Name"] +
+                                           "' for one of the wines already");
+      cheeses.push_back(cheese);
+    }
     if (!c.pairings_of_cheeses.contains(cheese))
       c.problems.Report(row.Where(), "no line of pairings.tsv stands for the cheese '" +
                                          row["Cheese_Name"] + "'");

@@ -33,6 +33,7 @@ Long Names::Find(std::string_view name) const {
 }
 
 std::string Name_Within(std::string_view name, std::string_view owner) {
+  if (name == Not_Given) return std::string(Not_Given);
   return std::string(name) + " (" + std::string(owner) + ")";
 }
 

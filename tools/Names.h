@@ -39,7 +39,7 @@ class Names {
   std::map<std::string, Entry, Order> entries_;
 };
 
-/// The name of a thing that is unique only within another: "Bordeaux (FRA)".
+/// The name of a thing that is unique only within another: "Bordeaux (FRA)". None stays none.
 std::string Name_Within(std::string_view name, std::string_view owner);
 
 }  // namespace Data_Compiler

@@ -73,6 +73,35 @@ const Fault Faults[] = {
     {"Label_Of_Another_Country",
      [](Library& l) { First<Labels_per_Winery_Record>(l).Label_ID = 20005; },
      "Reserve is a label of another country"},
+    {"Parent_In_Another_Country", [](Library& l) { l.Of<Regions_Record>()[1].Country = "USA"; },
+     "Médoc lies in another country than Bordeaux"},
+    {"Region_Of_A_Winery_Grows_Nothing",
+     [](Library& l) {
+       std::erase_if(l.Of<Regions_Per_Variety_Record>(),
+                     [](const auto& row) { return row.Region_ID == 4; });
+     },
+     "its region Napa Valley has no varieties"},
+    {"Label_Of_A_Winery_Twice",
+     [](Library& l) {
+       l.Add(Labels_per_Winery_Record{10001, 20001});
+     },
+     "a label of the winery stands twice"},
+    {"Link_Twice",
+     [](Library& l) {
+       l.Add(Maridages_Per_Cheeses_Record{1, 10, 1});
+     },
+     "the link stands twice"},
+    {"Colour_Without_Marks",
+     [](Library& l) {
+       std::erase_if(l.Of<Wine_Taste_Type_Record>(),
+                     [](const auto& row) { return row.Color == "Fortified"; });
+     },
+     "wine_taste_type.tsv: no marks for Fortified"},
+    {"More_Marks_Than_Boxes",
+     [](Library& l) {
+       l.Add(Wine_Taste_Type_Record{"Red", "Taste"});
+     },
+     "more marks than the screens have boxes"},
     {"Last_Pairing", [](Library& l) { l.Of<Maridages_Record>().back().Cheese_ID = 1; },
      "the last pairing must be a food"},
     {"Pairings_Without_Numbers",
@@ -86,6 +115,11 @@ const Fault Faults[] = {
     {"Too_Many_Pairings",
      [](Library& l) { l.Of<Mobile_Wines_per_Maridage_Record>().resize(25001); },
      "more than 25000 rows"},
+    {"Type_Of_A_Wine", [](Library& l) { First<Mobile_Wines_Record>(l).Mobile_Wine_Type = "ZZ"; },
+     "unknown type 'ZZ'"},
+    {"Country_Of_A_Variety_Wine",
+     [](Library& l) { First<Mobile_Wines_Record>(l).Mobile_Wine_Country = "FRA"; },
+     "variety wines alone are of all countries"},
     {"Two_Wines_Of_One_Name",
      [](Library& l) { First<Mobile_Wines_Record>(l).Mobile_Wine_Name = "Pauillac"; },
      "no winery tells 'Pauillac' from another wine"},

@@ -66,7 +66,7 @@ void Label::Show_Mnemonic(const std::string& text) {
 void Label::Show_Caption() {
   Placed_Control::Show_Caption();
   static_cast<QLabel*>(Widget())->setText(buddy_ != nullptr ? Escaped(Caption())
-                                                            : To_Qt(Caption()));
+                                                            : To_Show(Caption()));
   if (buddy_ != nullptr) buddy_->Set_Label_Caption(Caption());
 }
 

@@ -20,8 +20,8 @@ Watcher& The_Watcher() {
 int boxes_shown = 0;
 
 bool Ask(const Box& box) {
-  QMessageBox dialog(QMessageBox::NoIcon, To_Qt(box.title), To_Qt(box.text), QMessageBox::NoButton,
-                     QApplication::activeWindow());
+  QMessageBox dialog(QMessageBox::NoIcon, To_Qt(box.title), To_Show(box.text),
+                     QMessageBox::NoButton, QApplication::activeWindow());
   dialog.setObjectName("Message_Box");
   dialog.setTextFormat(Qt::PlainText);
   dialog.setWindowModality(Qt::ApplicationModal);

@@ -31,7 +31,7 @@ std::vector<QString> With_Mnemonics(const std::vector<std::string>& captions,
                                     std::set<QChar>& used) {
   std::vector<QString> shown;
   for (const std::string& caption : captions) {
-    const QString text = To_Qt(caption);
+    const QString text = To_Show(caption);
     const qsizetype place = Free_Letter(text, used);
     if (place < 0) {
       shown.push_back(Escaped(caption));

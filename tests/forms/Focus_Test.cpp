@@ -1,6 +1,8 @@
 // Who has the focus, who loses it, and which clicks are dropped.
 #include <gtest/gtest.h>
 
+#include <QPushButton>
+
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Guard.h"
 #include "tests/support/Drive.h"
@@ -28,6 +30,7 @@ class Entry_Form : public Forms::Form {
 
   void Price_Text_LostFocus() {
     log.push_back("Price LostFocus");
+    if (Price_Text.Text() == "on") Name_Text.SetFocus();
     if (Price_Text.Text() != "bad") return;
     Forms::Message_Box("not numeric", "ILLEGAL NUMBER");
     Price_Text.SetFocus();
@@ -89,6 +92,55 @@ TEST_F(Focus_Test, A_refused_value_drops_the_click_but_not_the_exit) {
   Click("Exit_Command");
   EXPECT_EQ(Taken(), Log({"Price LostFocus", "Exit"}));
   EXPECT_FALSE(Forms::Screen("Entry_Form").Is_Loaded());
+}
+
+TEST_F(Focus_Test, A_box_in_the_middle_of_a_press_leaves_no_button_down) {
+  Type("bad");
+  for (const char* button : {"General_Command", "Exit_Command"}) {
+    Taken();
+    Press_In_Next_Box("Return");
+    Click(button);
+    if (button == std::string("General_Command")) {
+      EXPECT_EQ(Taken(), Log({"Price LostFocus"}));
+      EXPECT_FALSE(dynamic_cast<QPushButton&>(Find(button)).isDown());
+      Type("!");
+      EXPECT_EQ(Shown_Text("Price_Text"), "bad!");
+      Press("Backspace");
+    }
+  }
+  EXPECT_EQ(Taken(), Log({"Price LostFocus", "Exit"}));
+}
+
+TEST_F(Focus_Test, Boxes_other_windows_and_a_disabled_form_take_no_focus_away) {
+  Press_In_Next_Box("Return");
+  Forms::Message_Box("text\r\nmore", "title");
+  QWidget other_program;
+  other_program.setFocusPolicy(Qt::StrongFocus);
+  other_program.show();
+  other_program.activateWindow();
+  other_program.setFocus();
+  EXPECT_TRUE(Wait_Until([&] { return other_program.hasFocus(); }));
+  other_program.close();
+  Find("Entry_Form").activateWindow();
+  EXPECT_TRUE(Wait_Until([] { return Focused() == "Price_Text"; }));
+  EXPECT_EQ(Taken(), Log());
+  Forms::Screen("Entry_Form").Instance().Set_Enabled(false);
+  Settle_Events();
+  EXPECT_EQ(Taken(), Log());
+}
+
+TEST_F(Focus_Test, Code_that_sets_the_focus_raises_lost_focus_once_and_at_once) {
+  Type("on");
+  Taken();
+  auto& form = dynamic_cast<Entry_Form&>(Forms::Screen("Entry_Form").Instance());
+  Run_Guarded([&] {
+    form.General_Command.SetFocus();
+    Entry_Form::log.push_back("after SetFocus");
+  });
+  EXPECT_EQ(Taken(), Log({"Price LostFocus", "after SetFocus"}));
+  EXPECT_EQ(Focused(), "Name_Text");
+  Press("Tab");
+  EXPECT_EQ(Taken(), Log({"Name LostFocus"}));
 }
 
 }  // namespace

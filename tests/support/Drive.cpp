@@ -15,6 +15,7 @@
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
 #include <QWheelEvent>
 #include <QWindow>
@@ -288,6 +289,16 @@ bool Wait_Until(const std::function<bool()>& condition) { return QTest::qWaitFor
 void Settle_Events() {
   QCoreApplication::processEvents();
   QCoreApplication::processEvents();
+}
+
+void Press_In_Next_Box(std::string_view key) {
+  QTimer::singleShot(0, [key = std::string(key)] {
+    const auto is_up = [] {
+      const QWidget* box = QApplication::activeModalWidget();
+      return box != nullptr && QApplication::focusWindow() == box->windowHandle();
+    };
+    if (Wait_Until(is_up)) Press(key);
+  });
 }
 
 Box_Script::Box_Script(std::vector<bool> answers) : answers_(std::move(answers)) {

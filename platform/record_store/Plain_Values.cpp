@@ -15,6 +15,8 @@ template <class... Cases>
 struct Overload : Cases... {
   using Cases::operator()...;
 };
+template <class... Cases>
+Overload(Cases...) -> Overload<Cases...>;
 
 constexpr double money_unit = 10000;
 

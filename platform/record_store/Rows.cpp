@@ -70,7 +70,7 @@ Value Row_Block::At(std::size_t row, int column) const {
 }
 
 void Row_Block::Shrink() {
-  constexpr std::size_t worth_keeping = 64 * 1024;
+  constexpr std::size_t worth_keeping = 65536;
   if (cells_.capacity() * sizeof(Cell) > worth_keeping) cells_ = {};
   if (texts_.capacity() > worth_keeping) texts_ = {};
   width_ = 0;

@@ -281,8 +281,9 @@ TEST_F(Recordset_Test, What_Cannot_Be_Opened) {
       {"SELECT FROM", 3075},
       {"SELECTED", 3078}};
   Add_Bottles({"a"});
-  for (const auto& [text, number] : cases) {
-    EXPECT_EQ(Failure_Of([&] { database_->OpenRecordset(text); }), number) << text;
+  for (const auto& refused : cases) {
+    EXPECT_EQ(Failure_Of([&] { database_->OpenRecordset(refused.first); }), refused.second)
+        << refused.first;
   }
   EXPECT_EQ(database_->OpenRecordset(" select * from BOTTLES where name='A' ;").RecordCount(), 1);
 }

@@ -56,7 +56,8 @@ void Wine_Cellar_Form::Open_Screen(const char* screen, Main_Window main_window) 
   if (main_window == Main_Window::Hides) Hide();
 }
 
-// Entries that are not named here have no action: they can be chosen and do nothing.
+// Entries that are not named here have no action: they can be chosen and do nothing. (The two
+// documents under Pairings have none yet either.)
 void Wine_Cellar_Form::Set_Up_Handlers() {
   constexpr auto stays = Main_Window::Stays;
   Let(Cellar_View, "CellarView", "Wine_Form");

@@ -71,12 +71,15 @@ bool Form::Is_Live() const { return data_->loaded && !data_->unloaded && !Proces
 void Form::Load() {
   if (data_->loaded) return;
   data_->loaded = true;
+  data_->loading = true;
   Form_Load();
+  data_->loading = false;
 }
 
 void Form::Show() {
   Load();
   if (data_->unloaded || Process_Has_Ended()) return;
+  if (std::exchange(data_->hidden_while_loading, false)) return;
   if (!data_->was_shown) {
     data_->was_shown = true;
     Assign_Mnemonics(*this);
@@ -91,6 +94,7 @@ void Form::Show() {
 }
 
 void Form::Hide() {
+  data_->hidden_while_loading = data_->loading;
   Focus_Watch::The().Forget(*this);
   data_->window->hide();
   if (Form* caller = std::exchange(data_->caller, nullptr)) {

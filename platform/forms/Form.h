@@ -45,7 +45,8 @@ class Form {
 
   /// Loads the form if that has not been, shows it, brings it to the front; then Form_Activate.
   void Show();
-  /// Takes it off the desktop; keeps everything.
+  /// Takes it off the desktop; keeps everything. Inside its own Form_Load: the Show that made it
+  /// load leaves it hidden.
   void Hide();
   /// Form_Unload, then off the desktop and out of the registry.
   void Unload();

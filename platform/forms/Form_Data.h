@@ -46,6 +46,8 @@ struct Form_Data {
   bool loaded = false;
   bool unloading = false;
   bool unloaded = false;
+  bool loading = false;
+  bool hidden_while_loading = false;  // the Show that made it load leaves it hidden
   bool was_shown = false;
   int opening_width = 0;  // 0: as wide as the layout asks for
 };

@@ -34,7 +34,8 @@ Registry& The_Registry() {
 
 Entry* Find(std::string_view name) {
   const auto found = The_Registry().entries.find(name);
-  return found == The_Registry().entries.end() ? nullptr : &found->second;
+  const bool known = found != The_Registry().entries.end() && found->second.factory;
+  return known ? &found->second : nullptr;
 }
 
 Form* Loaded(std::string_view name) {

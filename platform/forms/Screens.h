@@ -59,7 +59,8 @@ namespace Screens {
 
 using Factory = std::function<std::unique_ptr<Form>()>;
 
-/// Makes a screen known. A second one of the same name takes the place of the first.
+/// Makes a screen known. A second one of the same name takes the place of the first; an
+/// empty factory makes it unknown again.
 void Register(std::string_view name, Factory factory);
 
 template <class Screen_Form>

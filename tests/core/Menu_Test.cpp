@@ -28,7 +28,27 @@ struct Way {
 };
 
 const std::vector<Way> ways{
-    {"Cellar_View", "CellarView", "Wine_Form"},
+    {"Cellar1_View", "CellarView", "Wine_Form"},
+    {"Cellar2_View", "CellarView", "Wine_Form"},
+    {"Wine_Add", "WineAdd", "Wine_Form"},
+    {"Wine_Uncork", "WineUncork", "Wine_Form"},
+    {"Wine_Mod", "WineMod", "Wine_Form"},
+    {"Wine_Del", "WineDel", "Wine_Form"},
+    {"Wines_Cellar_List", "CellarView", "Wine_Form"},
+    {"Wine_Other_Del", "WineOtherDel", "Mobile_Wine_Form"},
+    {"Wine_Other_Mod", "WineOtherMod", "Mobile_Wine_Form"},
+    {"Region_Add", "RegionsAdd", "Regions_Form"},
+    {"Region_Mod_Other", "RegionsMod", "Regions_Form"},
+    {"Region_Del", "RegionsDel", "Regions_Form"},
+    {"Regions_List", "RegionsView", "Regions_Form"},
+    {"Variety_Add", "VarietyAdd", "Varieties_Form"},
+    {"Variety_Mod", "VarietyMod", "Varieties_Form"},
+    {"Variety_List", "VarietyList", "Varieties_Form"},
+    {"Pairing_Mod", "MaridageMod", "Cate_Add_Form"},
+    {"Pairing_Search_Cellar", "WineSearch", "Select_Mult_Maridages_Form"},
+    {"Cheeses_Add", "CheeseAdd", "Cheeses_Form"},
+    {"Cheeses_List", "CheeseList", "Cheeses_Form"},
+    {"Cheeses_Pairing_Cellar", "CheeseParingsCellar", "Cheeses_Form"},
     {"Winery_Add", "WineryAdd", "Wineries_Form"},
     {"Winery_Mod", "WineryMod", "Wineries_Form", true},
     {"Winery_View", "WineryList", "Wineries_Form", true},
@@ -60,11 +80,30 @@ const std::vector<Way> ways{
     {"Pairing_Del", "kept", ""},
     {"Cheses_Del", "kept", ""},
     {"Help_About", "kept", ""},
+    {"Wine_Cellar_Remove", "kept", ""},
+    {"Cellar1_Print", "kept", ""},
+    {"Cellar2_Print", "kept", ""},
 };
 
 class Menu : public Program_Folder {
  protected:
-  void SetUp() override { Start(); }
+  // With named cellars nearly every entry can be chosen.
+  void SetUp() override {
+    Change([](Record_Store::Database& file) {
+      Record_Store::Recordset cellars = file.OpenRecordset("Cellars");
+      cellars.Edit();
+      cellars.Fields("Cellar_Name") = "Home";
+      cellars.Update();
+      cellars.AddNew();
+      cellars.Fields("Cellar_Name") = "Office";
+      cellars.Update();
+    });
+    Start();
+  }
+  // The registry keeps what it was told; the next test is to find the screens absent again.
+  void TearDown() override {
+    for (const Way& way : ways) Forms::Screens::Register(way.screen, nullptr);
+  }
 };
 
 TEST_F(Menu, Entries_whose_screen_is_not_there_leave_the_main_window_up) {

@@ -133,6 +133,27 @@ TEST_F(Start_Up, More_than_one_cellar_by_the_settings_speaks_in_the_title) {
   EXPECT_EQ(Shown_Text("Wine_Cellar_Form"), "My Current Cellar: x");
 }
 
+TEST_F(Start_Up, A_part_of_another_product_is_set_up_before_the_main_window_shows) {
+  class Set_Up_Screen : public Forms::Form {
+   public:
+    Set_Up_Screen() : Form("Initialize_Form", "Set-up") { Set_Content(Forms::Stretch()); }
+  };
+  Forms::Screens::Register<Set_Up_Screen>("Initialize_Form");
+  Change([](Record_Store::Database& file) {
+    Record_Store::Recordset system = file.OpenRecordset("Wine_System");
+    system.Edit();
+    system.Fields("Wine_Cellar_as_Option") = true;
+    system.Update();
+  });
+  Start();
+  EXPECT_TRUE(First_Run);
+  EXPECT_TRUE(Is_Seen("Initialize_Form"));
+  EXPECT_FALSE(Is_Seen("Wine_Cellar_Form"));
+  Close_Window("Initialize_Form");
+  EXPECT_TRUE(Is_Seen("Wine_Cellar_Form"));
+  Forms::Screens::Register("Initialize_Form", nullptr);
+}
+
 class Words : public Program_Folder {
  protected:
   // A form with one control, which the rows of a test may name.

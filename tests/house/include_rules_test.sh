@@ -11,13 +11,13 @@ headers="platform/run_time/R.h platform/run_time/Locale.h platform/record_store/
   platform/forms/F.h platform/files/D.h core/C.h cellar/W.h media/M.h search/X.h app/A.h tools/T.h
   tests/support/U.h"
 
+for header in $headers; do
+  mkdir -p "$work/tree/$(dirname "$header")"
+  echo '#pragma once' >"$work/tree/$header"
+done
+
 expect() {
   local verdict=$1 file=$2 include=$3 said=no
-  rm -rf "$work/tree"
-  for header in $headers; do
-    mkdir -p "$work/tree/$(dirname "$header")"
-    echo '#pragma once' >"$work/tree/$header"
-  done
   mkdir -p "$work/tree/$(dirname "$file")"
   printf '#pragma once\n#include %s\n' "$include" >"$work/tree/$file"
   "$checker" "$work/tree" >"$work/out" && said=yes
@@ -29,6 +29,7 @@ expect() {
     echo "$file with $include: the place is not named"
     failures=$((failures + 1))
   fi
+  rm "$work/tree/$file"
 }
 
 while read -r verdict file include; do
@@ -74,7 +75,7 @@ yes tools/A.cpp <QImage>
 no  tools/A.h <QImage>
 no  core/A.cpp "platform/run_time/Locale.h"
 no  tests/core/A.cpp <sqlcipher/sqlite3.h>
-no  platform/run_time/R.h "platform/run_time/R.h"
+no  platform/run_time/Self.h "platform/run_time/Self.h"
 TABLE
 
 # A ring of two headers.

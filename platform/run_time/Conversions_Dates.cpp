@@ -64,9 +64,7 @@ int Month_Of(const QString& word) {
   return 0;
 }
 
-bool Is_Digit(QChar character) {
-  return character >= u'0' && character <= u'9';
-}
+bool Is_Digit(QChar character) { return character >= u'0' && character <= u'9'; }
 
 // Cuts the day's text into exactly three pieces; anything else is no date.
 std::optional<std::vector<Piece>> Pieces_Of(const QString& text) {
@@ -201,9 +199,7 @@ Text Digits(int number, std::size_t count) {
 
 }  // namespace
 
-bool Is_Date(std::string_view text) {
-  return Read_Moment(text).has_value();
-}
+bool Is_Date(std::string_view text) { return Read_Moment(text).has_value(); }
 
 Date To_Date(std::string_view text) {
   const auto moment = Read_Moment(text);
@@ -238,6 +234,4 @@ Date Now() {
                   now.time().minute(), now.time().second());
 }
 
-void Set_Clock_For_Tests(const Date* moment) {
-  clock_for_tests = moment;
-}
+void Set_Clock_For_Tests(const Date* moment) { clock_for_tests = moment; }

@@ -11,10 +11,9 @@
 namespace {
 
 constexpr int currency_decimals = 4;
+constexpr int far = 100'000;  // beyond the exponents of every number but 0
 
-bool Is_Digit(QChar character) {
-  return character >= u'0' && character <= u'9';
-}
+bool Is_Digit(QChar character) { return character >= u'0' && character <= u'9'; }
 
 // Digits, signs and an exponent only: the locale's own reader also knows "nan" and "infinity".
 bool Has_Only_Number_Signs(const QString& text) {
@@ -69,7 +68,7 @@ Decimal Taken_Apart(const QString& text) {
   for (qsizetype at = 0; at < text.size(); ++at) {
     const QChar character = text[at];
     if (character.toLower() == u'e') {
-      number.exponent += text.mid(at + 1).toInt();
+      number.exponent += qBound(-far, text.mid(at + 1).toInt(), far);
       break;
     }
     if (character == u'-' || QString(character) == Machine_Locale().negativeSign()) {
@@ -86,6 +85,7 @@ Decimal Taken_Apart(const QString& text) {
 
 // The digits up to the fourth decimal as a whole number, rounded half to even by the rest.
 std::int64_t Scaled(const Decimal& number) {
+  if (number.digits.find_first_not_of('0') == std::string::npos) return 0;
   const int kept = number.exponent + currency_decimals;
   std::int64_t value = 0;
   for (int place = 0; place < kept; ++place) {
@@ -145,18 +145,10 @@ double To_Double(std::string_view text) {
   return value;
 }
 
-Integer To_Integer(double value) {
-  return Rounded<Integer>(value);
-}
-Integer To_Integer(std::string_view text) {
-  return To_Integer(To_Double(text));
-}
-Long To_Long(double value) {
-  return Rounded<Long>(value);
-}
-Long To_Long(std::string_view text) {
-  return To_Long(To_Double(text));
-}
+Integer To_Integer(double value) { return Rounded<Integer>(value); }
+Integer To_Integer(std::string_view text) { return To_Integer(To_Double(text)); }
+Long To_Long(double value) { return Rounded<Long>(value); }
+Long To_Long(std::string_view text) { return To_Long(To_Double(text)); }
 
 Single To_Single(double value) {
   if (!(std::abs(value) <= static_cast<double>(std::numeric_limits<Single>::max()))) {
@@ -164,9 +156,7 @@ Single To_Single(double value) {
   }
   return static_cast<Single>(value);
 }
-Single To_Single(std::string_view text) {
-  return To_Single(To_Double(text));
-}
+Single To_Single(std::string_view text) { return To_Single(To_Double(text)); }
 
 Currency To_Currency(double value) {
   const double scaled = std::nearbyint(value * 10000);
@@ -182,15 +172,9 @@ Currency To_Currency(std::string_view text) {
   return {number.negative ? -size : size};
 }
 
-Text To_Text(std::int64_t value) {
-  return std::to_string(value);
-}
-Text To_Text(double value) {
-  return Shortest(value);
-}
-Text To_Text(Single value) {
-  return Shortest(value);
-}
+Text To_Text(std::int64_t value) { return std::to_string(value); }
+Text To_Text(double value) { return Shortest(value); }
+Text To_Text(Single value) { return Shortest(value); }
 
 Text To_Text(Currency value) {
   const bool negative = value.ten_thousandths < 0;

@@ -5,9 +5,7 @@
 
 namespace {
 
-bool Begins_Character(char byte) {
-  return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-}
+bool Begins_Character(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 
 // The byte at which the character behind `count` characters begins; the end where there are fewer.
 std::size_t Byte_After(std::string_view text, std::size_t from, Long count) {
@@ -34,9 +32,7 @@ Long Len(std::string_view text) {
   return count;
 }
 
-Text Left(std::string_view text, Long count) {
-  return Mid(text, 1, count);
-}
+Text Left(std::string_view text, Long count) { return Mid(text, 1, count); }
 
 Text Mid(std::string_view text, Long start, Long count) {
   if (start < 1 || count < 0) Fail(Failure::Invalid_Procedure_Call);

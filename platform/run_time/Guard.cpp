@@ -54,13 +54,9 @@ void Run_Guarded(const std::function<void()>& handler) {
   }
 }
 
-bool Inside_Handler() {
-  return depth > 0;
-}
+bool Inside_Handler() { return depth > 0; }
 
-void Commit_Before_Showing() {
-  Hooks().commit();
-}
+void Commit_Before_Showing() { Hooks().commit(); }
 
 void End_Process(int status) {
   ended = true;
@@ -71,10 +67,6 @@ void End_Process(int status) {
   std::_Exit(status);
 }
 
-bool Process_Has_Ended() {
-  return ended;
-}
+bool Process_Has_Ended() { return ended; }
 
-void Reset_After_End_For_Tests() {
-  ended = false;
-}
+void Reset_After_End_For_Tests() { ended = false; }

@@ -11,9 +11,7 @@ QLocale& Current() {
 
 }  // namespace
 
-const QLocale& Machine_Locale() {
-  return Current();
-}
+const QLocale& Machine_Locale() { return Current(); }
 
 void Set_Locale(std::string_view name) {
   Current() = name.empty() ? QLocale::system()

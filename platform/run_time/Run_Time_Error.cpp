@@ -62,6 +62,4 @@ std::string Text_Of(Failure failure, std::string_view name) {
 Run_Time_Error::Run_Time_Error(Failure failure, std::string_view name)
     : failure_(failure), text_(Text_Of(failure, name)) {}
 
-void Fail(Failure failure, std::string_view name) {
-  throw Run_Time_Error(failure, name);
-}
+void Fail(Failure failure, std::string_view name) { throw Run_Time_Error(failure, name); }

@@ -32,6 +32,4 @@ Date::Parts Date::Split() const {
           time % 60};
 }
 
-int Date::Year() const {
-  return Split().year;
-}
+int Date::Year() const { return Split().year; }

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QThread>
+#include <random>
 
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "tests/support/Real_Window.h"
@@ -59,6 +61,54 @@ TEST_F(Program, What_a_message_says_was_saved_survives_a_kill) {
   EXPECT_THAT(Stored_Cellars(), ElementsAre("Home", "Office"));
   program.Start();
   EXPECT_TRUE(program.Sees_Window("My Current Cellar: Home"));
+}
+
+// A user who changes both names again and again, to "1 1", "2 2" and so on, and says "saved" as
+// often as the program does.
+QString Changes_Of_Names(int first, int count) {
+  return QStringLiteral(R"(
+    for name in $(seq %1 %2); do
+      xdotool key --delay 20 alt+m m
+      timeout 2 xdotool search --sync --onlyvisible --name "^Cellar Names Information$" >/dev/null
+      xdotool key ctrl+a && xdotool type $name && xdotool key Tab ctrl+a && xdotool type $name
+      xdotool key alt+s
+      timeout 2 xdotool search --sync --onlyvisible --name "^CELLAR NAMES MODIFIED$" >/dev/null && echo saved
+      xdotool key Return
+    done)")
+      .arg(first)
+      .arg(first + count - 1);
+}
+
+TEST_F(Program, Killed_at_any_moment_of_a_stream_of_changes_keeps_whole_what_it_said_was_saved) {
+  constexpr int kills = 50;
+  constexpr int changes = 4;
+  Name_Cellars_Up_To_The_Message();
+  program.Kill();
+  std::mt19937 random(20261122);
+  std::uniform_int_distribution<unsigned long> moment(0, 1500);  // milliseconds
+  int changed = 0;
+  for (int kill = 0; kill < kills; ++kill) {
+    const int first = (kill + 1) * 1000;
+    const std::vector<std::string> before = Stored_Cellars();
+    program.Start();
+    ASSERT_TRUE(program.Sees_Window("My Current Cellar: " + QString::fromStdString(before[0])));
+    const auto user = display.Begin("sh", {"-c", Changes_Of_Names(first, changes)});
+    QThread::msleep(moment(random));
+    program.Kill();
+    user->kill();
+    user->waitForFinished();
+    const auto told = static_cast<int>(user->readAllStandardOutput().count("saved"));
+    const std::vector<std::string> after = Stored_Cellars();
+    ASSERT_EQ(after.size(), 2U);
+    if (after == before) {
+      ASSERT_EQ(told, 0);
+      continue;
+    }
+    ++changed;
+    ASSERT_EQ(after[0], after[1]);
+    ASSERT_GE(std::stoi(after[0]), first + told - 1);
+  }
+  EXPECT_GT(changed, 0);
 }
 
 TEST_F(Program, Without_its_data_file_says_so_once_and_ends_with_status_1) {

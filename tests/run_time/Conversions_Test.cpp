@@ -81,7 +81,7 @@ TEST_F(Conversions, Money_is_exact_from_text_and_back) {
        {Case{"0", 0}, Case{"12.5", 125000}, Case{"0.0001", 1}, Case{"0.00005", 0},
         Case{"0.00015", 2}, Case{"0.00025", 2}, Case{"0.000251", 3}, Case{"-0.00015", -2},
         Case{"1e2", 1000000}, Case{"1.5e-1", 1500}, Case{"0.000000001", 0}, Case{"1e-300", 0},
-        Case{"0e9", 0}, Case{"922337203685477.5807", INT64_MAX}}) {
+        Case{"0e999999999", 0}, Case{"922337203685477.5807", INT64_MAX}}) {
     EXPECT_EQ(To_Currency(given.text).ten_thousandths, given.ten_thousandths) << given.text;
   }
   EXPECT_FAILURE(6, To_Currency("922337203685477.5808"));

@@ -29,7 +29,8 @@ bool Comes_True(const std::function<bool()>& condition) {
 
 Display::Display() {
   server_.setProcessChannelMode(QProcess::SeparateChannels);
-  server_.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x720x24", "-nolisten", "tcp"});
+  server_.start("Xvfb",
+                {"-displayfd", "1", "-noreset", "-screen", "0", "1280x720x24", "-nolisten", "tcp"});
   QByteArray number;
   while (!number.contains('\n')) {
     if (!server_.waitForReadyRead(patience)) throw std::runtime_error("Xvfb does not start");
@@ -43,14 +44,20 @@ Display::~Display() {
   server_.waitForFinished(patience);
 }
 
-QString Display::Run(const QString& command, const QStringList& arguments) const {
-  QProcess process;
+std::unique_ptr<QProcess> Display::Begin(const QString& command,
+                                         const QStringList& arguments) const {
+  auto process = std::make_unique<QProcess>();
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert("DISPLAY", name_);
-  process.setProcessEnvironment(environment);
-  process.start(command, arguments);
-  process.waitForFinished(patience);
-  return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+  process->setProcessEnvironment(environment);
+  process->start(command, arguments);
+  return process;
+}
+
+QString Display::Run(const QString& command, const QStringList& arguments) const {
+  const auto process = Begin(command, arguments);
+  process->waitForFinished(patience);
+  return QString::fromUtf8(process->readAllStandardOutput()).trimmed();
 }
 
 Program::Program(const Display& display) : display_(display) {

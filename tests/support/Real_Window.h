@@ -18,6 +18,8 @@ class Display {
   QString Name() const { return name_; }
   /// Runs a command on this display and returns what it printed, without the last line break.
   QString Run(const QString& command, const QStringList& arguments) const;
+  /// Starts a command on this display and leaves it running.
+  std::unique_ptr<QProcess> Begin(const QString& command, const QStringList& arguments) const;
 
  private:
   QProcess server_;

@@ -33,7 +33,7 @@ class Database {
 
   /// A table's name (3078 where there is none), or one statement that begins with SELECT, reads
   /// only and has nothing behind it (anything else: 3075). Comparison and order of texts are those
-  /// of Text_Order.h; ties of ORDER BY stand in storage order.
+  /// of Text_Order.h; rows of one table (SELECT * FROM it) that tie stand in storage order.
   Recordset OpenRecordset(std::string_view table_or_statement);
 
   /// Makes everything written so far durable and gives up all locks on the file. Every recordset

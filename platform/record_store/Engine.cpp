@@ -39,16 +39,12 @@ Failure Failure_Of(int result) {
   }
 }
 
-// The program has one thread. The engine's locks and the bookkeeping of its memory would cost a
-// look-up more than its reading. Both can be chosen before the engine's first use only; if another
-// part of the process was earlier, they stay as they are.
-void Choose_One_Thread() {
-  static const bool chosen = [] {
-    sqlite3_config(SQLITE_CONFIG_SINGLETHREAD);
-    sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
-    return true;
-  }();
-  static_cast<void>(chosen);
+// The engine's bookkeeping of its memory costs a look-up about as much as its reading. It can be
+// left out before the engine's first use only; if another part of the process was earlier, it
+// stays.
+void Leave_Out_Bookkeeping() {
+  static const int result = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+  static_cast<void>(result);
 }
 
 }  // namespace
@@ -56,7 +52,7 @@ void Choose_One_Thread() {
 void Statement_End::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 
 Engine::Engine(const std::string& path, Mode mode, std::string_view password) : path_(path) {
-  Choose_One_Thread();
+  Leave_Out_Bookkeeping();
   const int flags =
       SQLITE_OPEN_NOMUTEX | (mode == Mode::Read ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
   const int result = sqlite3_open_v2(path.c_str(), &handle_, flags, nullptr);

@@ -23,17 +23,19 @@ std::string_view Trimmed(std::string_view text) {
 }
 
 // The parts of a connect text stand between semicolons: a name, "=" and a value.
+// The last one: the path that stands before it may hold anything.
 std::string_view Password_Of(std::string_view connect) {
+  std::string_view password;
   for (std::size_t from = 0; from < connect.size();) {
     const std::size_t to = std::min(connect.find(';', from), connect.size());
     const std::string_view part = connect.substr(from, to - from);
     const std::size_t equal = part.find('=');
     if (equal != std::string_view::npos && Same_Name(Trimmed(part.substr(0, equal)), "PWD")) {
-      return part.substr(equal + 1);
+      password = part.substr(equal + 1);
     }
     from = to + 1;
   }
-  return {};
+  return password;
 }
 
 void Require_File(const std::string& path) {

@@ -87,6 +87,19 @@ std::string Case_Term(std::vector<Token> term) {
   return ", " + name + " COLLATE WINE_CASE" + direction;
 }
 
+// All fields of the rows of one table: the kind of statement whose ties stand in storage order.
+bool Is_Of_One_Table(const std::vector<Token>& tokens) {
+  const bool begins = tokens.size() >= 4 && tokens[0].Is("SELECT") && tokens[1].text == "*" &&
+                      tokens[2].Is("FROM") && tokens[3].kind == Token::Name;
+  if (!begins) return false;
+  const bool alone = tokens.size() == 4 || tokens[4].Is("WHERE") || tokens[4].Is("ORDER") ||
+                     tokens[4].Is("LIMIT") || tokens[4].text == ";";
+  return alone && std::ranges::none_of(tokens, [](const Token& token) {
+           return token.depth == 0 && (token.Is("UNION") || token.Is("EXCEPT") ||
+                                       token.Is("INTERSECT") || token.Is("GROUP"));
+         });
+}
+
 }  // namespace
 
 bool Begins_With_Select(std::string_view text) {
@@ -109,26 +122,28 @@ std::string With_Full_Order(std::string_view text) {
   for (std::size_t i = 0; i + 1 < tokens.size(); ++i) {
     if (tokens[i].depth == 0 && tokens[i].Is("ORDER") && tokens[i + 1].Is("BY")) at = i + 2;
   }
-  std::string cases;
-  std::vector<Token> term;
+  const bool is_ordered = at < tokens.size();
   const auto is_end = [](const Token& token) {
     return token.depth == 0 && (token.Is("LIMIT") || token.text == ";");
   };
-  std::size_t end = text.size();
-  for (; at < tokens.size(); ++at) {
-    if (is_end(tokens[at])) {
-      end = static_cast<std::size_t>(tokens[at].text.data() - text.data());
-      break;
-    }
-    if (tokens[at].depth == 0 && tokens[at].text == ",") {
-      cases += Case_Term(std::move(term));
+  const auto end_token = std::find_if(
+      tokens.begin() + (is_ordered ? static_cast<std::ptrdiff_t>(at) : 0), tokens.end(), is_end);
+  const std::size_t end = end_token == tokens.end()
+                              ? text.size()
+                              : static_cast<std::size_t>(end_token->text.data() - text.data());
+  std::string added;
+  std::vector<Token> term;
+  for (auto token = tokens.begin() + static_cast<std::ptrdiff_t>(at); token < end_token; ++token) {
+    if (token->depth == 0 && token->text == ",") {
+      added += Case_Term(std::move(term));
       term.clear();
     } else {
-      term.push_back(tokens[at]);
+      term.push_back(*token);
     }
   }
-  cases += Case_Term(std::move(term));
-  return std::string(text.substr(0, end)) + cases + ' ' + std::string(text.substr(end));
+  added += Case_Term(std::move(term));
+  if (Is_Of_One_Table(tokens)) added += is_ordered ? ", rowid" : " ORDER BY rowid";
+  return std::string(text.substr(0, end)) + added + ' ' + std::string(text.substr(end));
 }
 
 }  // namespace Record_Store

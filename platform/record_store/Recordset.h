@@ -113,8 +113,8 @@ class Recordset {
   // ---- changing (tables) ----
 
   /// Begins a new row, all fields null but the counter (and its copy), which is given here and can
-  /// be read at once. It grows by one and is never given twice, even if the row is dropped or
-  /// deleted. Needs no current row.
+  /// be read at once. It grows by one and is never given twice to rows that are stored, even if
+  /// they are deleted; nor, within a run, where the row is dropped. Needs no current row.
   void AddNew();
   /// Begins the change of the current row, which is read again: 3167 if it was deleted.
   void Edit();

@@ -53,6 +53,7 @@ class Disk_Test : public Store_Test {
 };
 
 struct Breakage {
+  const char* name;
   Fault fault;
   int number;
 };
@@ -90,9 +91,10 @@ TEST_P(Broken_Disk_Test, A_Burst_Is_Stored_Whole_Or_Not_At_All) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Faults, Broken_Disk_Test,
-                         testing::Values(Breakage{Fault::Full, 3026},
-                                         Breakage{Fault::Write_Fails, 3043},
-                                         Breakage{Fault::Sync_Fails, 3043}));
+                         testing::Values(Breakage{"Full", Fault::Full, 3026},
+                                         Breakage{"Write", Fault::Write_Fails, 3043},
+                                         Breakage{"Sync", Fault::Sync_Fails, 3043}),
+                         [](const auto& breakage) { return std::string(breakage.param.name); });
 
 TEST_F(Disk_Test, A_Burst_Is_Four_Syncs_And_Reading_Is_None) {
   Watched_Disk::Count_From_Zero();

@@ -33,14 +33,30 @@ TEST_F(Query_Test, Texts_Are_Found_And_Ordered_As_In_An_Index) {
             (std::vector<std::string>{"Edam", "ECLAIR", "Eclair", "eclair"}));
 }
 
+// Whatever index the engine walks for them.
 TEST_F(Query_Test, Ties_Stand_In_Storage_Order) {
-  for (int i = 0; i < 300; ++i) Add_Bottle("n", i * 7 % 3);
-  std::vector<std::string> numbers = Rows("SELECT * FROM Bottles ORDER BY Rack", "Bottle_ID");
-  std::vector<std::string> sorted = numbers;
-  std::ranges::stable_sort(sorted, {}, [](const std::string& text) {
-    return (std::stoi(text) - 101) * 7 % 3 * 10000 + std::stoi(text);
-  });
-  EXPECT_EQ(numbers, sorted);
+  for (int i = 0; i < 300; ++i)
+    Add_Bottle(std::string(1, static_cast<char>('z' - i % 7)), i * 7 % 3);
+  const auto rank_by_rack = [](int row) { return row * 7 % 3; };
+  const auto rank_by_name = [](int row) { return row % 7; };
+  struct Case {
+    const char* statement;
+    std::function<int(int)> rank;
+  };
+  for (const Case& given :
+       {Case{"SELECT * FROM Bottles ORDER BY Rack", rank_by_rack},
+        Case{"SELECT * FROM Bottles ORDER BY Rack DESC",
+             [&](int row) { return -rank_by_rack(row); }},
+        Case{"SELECT * FROM Bottles ORDER BY Name DESC", rank_by_name},
+        Case{"SELECT * FROM Bottles WHERE Rack=1 OR Rack=0 OR Rack=2", [](int) { return 0; }}}) {
+    const std::vector<std::string> numbers = Rows(given.statement, "Bottle_ID");
+    std::vector<std::string> sorted = numbers;
+    std::ranges::stable_sort(sorted, {}, [&](const std::string& text) {
+      return given.rank(std::stoi(text) - 101) * 10000 + std::stoi(text);
+    });
+    EXPECT_EQ(numbers, sorted) << given.statement;
+    EXPECT_EQ(numbers.size(), 300U);
+  }
 }
 
 TEST_F(Query_Test, Computed_Columns_Have_Values_Too) {

@@ -80,12 +80,14 @@ TEST_F(Query_Test, Sees_What_Its_Own_Burst_Wrote) {
 
 TEST(Query_Text_Test, Only_Plain_Names_Are_Ordered_By_Case_As_Well) {
   const std::vector<std::pair<std::string, std::string>> cases{
-      {"SELECT * FROM T", ""},
-      {"SELECT * FROM T WHERE a='ORDER BY b'", ""},
-      {"SELECT * FROM T ORDER BY a", ", a COLLATE WINE_CASE"},
+      {"SELECT a FROM T", ""},
+      {"SELECT * FROM T, U", ""},
+      {"SELECT * FROM T WHERE a='ORDER BY b'", " ORDER BY rowid"},
+      {"SELECT * FROM T ORDER BY a", ", a COLLATE WINE_CASE, rowid"},
+      {"SELECT * FROM T WHERE a=1 UNION SELECT * FROM U ORDER BY 1", ""},
       {"SELECT * FROM T order by T.a desc, 2, [b c] ASC",
-       ", T.a COLLATE WINE_CASE desc, [b c] COLLATE WINE_CASE ASC"},
-      {"SELECT * FROM T ORDER BY a+1, f(a, b), a COLLATE BINARY", ""},
+       ", T.a COLLATE WINE_CASE desc, [b c] COLLATE WINE_CASE ASC, rowid"},
+      {"SELECT * FROM T ORDER BY a+1, f(a, b), a COLLATE BINARY", ", rowid"},
       {"SELECT * FROM (SELECT * FROM T ORDER BY a)", ""}};
   for (const auto& [text, added] : cases) EXPECT_EQ(With_Full_Order(text), text + added + " ");
   EXPECT_EQ(With_Full_Order("SELECT a FROM T ORDER BY a LIMIT 3"),

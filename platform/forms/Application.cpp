@@ -42,6 +42,7 @@ void Settle() {
 struct Application::Data {
   Data(int& argc, char** argv) : toolkit(argc, argv) {}
   QApplication toolkit;
+  QStyle* style = new Desktop_Style;  ///< the toolkit owns it
 };
 
 Application::Application(int& argc, char** argv) : data_(std::make_unique<Data>(argc, argv)) {
@@ -50,7 +51,7 @@ Application::Application(int& argc, char** argv) : data_(std::make_unique<Data>(
   QApplication::setApplicationName("wine-cellar");
   QApplication::setDesktopFileName("org.winecellar.Wine_Cellar");
   QApplication::setQuitOnLastWindowClosed(false);
-  QApplication::setStyle(new Desktop_Style);
+  QApplication::setStyle(data_->style);
   Focus_Watch::The().Begin();
   Hooks().show = Show_Failure;
   Hooks().settled = Settle;

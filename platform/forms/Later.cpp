@@ -1,9 +1,9 @@
 #include "platform/forms/Later.h"
 
-#include <QApplication>
-#include <QTimer>
 #include <unordered_map>
 #include <utility>
+
+#include "platform/forms/Soon.h"
 
 namespace Forms {
 
@@ -18,9 +18,10 @@ Waiting& The_Waiting() {
 
 }  // namespace
 
-void Show_Later(const void* who, std::function<void()> show) {
-  if (The_Waiting().empty()) QTimer::singleShot(0, qApp, Show_Now);
-  The_Waiting().try_emplace(who, std::move(show));
+void Show_Later(const void* who, const std::function<void()>& show) {
+  static Soon soon(Show_Now);
+  soon.Set_Off();
+  The_Waiting().try_emplace(who, show);
 }
 
 void Forget_Later(const void* who) { The_Waiting().erase(who); }

@@ -7,7 +7,7 @@
 namespace Forms {
 
 /// `show` runs once, soon. A second call for the same `who` before that changes nothing.
-void Show_Later(const void* who, std::function<void()> show);
+void Show_Later(const void* who, const std::function<void()>& show);
 /// `who` goes: what was to be shown of it is not.
 void Forget_Later(const void* who);
 /// Shows all that is waiting.

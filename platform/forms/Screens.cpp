@@ -1,7 +1,5 @@
 #include "platform/forms/Screens.h"
 
-#include <QApplication>
-#include <QTimer>
 #include <QWindow>
 #include <map>
 #include <vector>
@@ -9,6 +7,7 @@
 #include "platform/forms/Focus.h"
 #include "platform/forms/Form_Data.h"
 #include "platform/forms/Screens_Inside.h"
+#include "platform/forms/Soon.h"
 #include "platform/run_time/Guard.h"
 
 namespace Forms {
@@ -60,6 +59,11 @@ void Empty_Grave() {
   if (!Inside_Handler()) The_Registry().buried.clear();
 }
 
+void Empty_Grave_Soon() {
+  static Soon soon(Empty_Grave);
+  soon.Set_Off();
+}
+
 bool Any_Window_Visible() {
   for (const auto& [name, entry] : The_Registry().entries) {
     if (entry.form != nullptr && entry.form->Visible()) return true;
@@ -88,11 +92,11 @@ void Bury(Form& form) {
   Entry* entry = Find(form.Name());
   if (entry == nullptr || entry->form.get() != &form) return;
   registry.buried.push_back(std::move(entry->form));
-  QTimer::singleShot(0, qApp, Empty_Grave);
+  Empty_Grave_Soon();
 }
 
 void Settle_Screens() {
-  if (!The_Registry().buried.empty()) QTimer::singleShot(0, qApp, Empty_Grave);
+  if (!The_Registry().buried.empty()) Empty_Grave_Soon();
   const std::string& main = The_Registry().main;
   if (main.empty() || Any_Window_Visible() || Process_Has_Ended()) return;
   Screen(main).Show();

@@ -1,6 +1,7 @@
-// Renders a drawing in its own size as an image that is not compressed, for drawings that take longer to
-// render than a window to open:
-//   render_drawing DRAWING.svg IMAGE.png
+// Renders a drawing in its own size to bare pixels (four bytes each, blue, green, red, alpha,
+// colours multiplied by alpha), for drawings that take longer to render than a window to open:
+//   render_drawing DRAWING.svg PIXELS
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -12,7 +13,7 @@ int main(int argc, char** argv) {
   const QGuiApplication application(argc, argv);
   const QStringList arguments = QGuiApplication::arguments();
   if (arguments.size() != 3) {
-    std::fprintf(stderr, "usage: render_drawing DRAWING.svg IMAGE.png\n");
+    std::fprintf(stderr, "usage: render_drawing DRAWING.svg PIXELS\n");
     return 2;
   }
   QSvgRenderer drawing(arguments[1]);
@@ -25,5 +26,9 @@ int main(int argc, char** argv) {
   QPainter painter(&image);
   drawing.render(&painter);
   painter.end();
-  return image.save(arguments[2], "PNG", 100) ? 0 : 1;
+  QFile pixels(arguments[2]);
+  const auto* bytes = reinterpret_cast<const char*>(image.constBits());
+  const bool written = pixels.open(QIODevice::WriteOnly) &&
+                       pixels.write(bytes, image.sizeInBytes()) == image.sizeInBytes();
+  return written ? 0 : 1;
 }

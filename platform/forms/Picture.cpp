@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QResource>
 #include <QSvgRenderer>
 #include <memory>
 
@@ -33,15 +34,23 @@ class Picture_Widget : public QLabel {
     Changed({});
   }
 
-  // A rich drawing takes longer to render than a window to open: one that was rendered when the
-  // program was built has its image beside it.
   bool Load_Drawing(const QString& path) {
     auto drawing = std::make_unique<QSvgRenderer>(path);
     if (!drawing->isValid()) return false;
     drawing_ = std::move(drawing);
-    photo_ = QPixmap(path + ".png");
+    Take_Pixels(path + ".pixels");
     Changed(drawing_->defaultSize());
     return true;
+  }
+
+  // A rich drawing takes longer to render than a window to open: one that was rendered when the
+  // program was built has its pixels beside it.
+  void Take_Pixels(const QString& path) {
+    const QResource pixels(path);
+    const QSize size = drawing_->defaultSize();
+    if (!pixels.isValid() || pixels.size() != qint64{4} * size.width() * size.height()) return;
+    photo_ = QPixmap::fromImage(QImage(pixels.data(), size.width(), size.height(), 4 * size.width(),
+                                       QImage::Format_ARGB32_Premultiplied));
   }
 
   bool Load_Photo(const QString& path) {

@@ -37,12 +37,8 @@ Text To_Text(std::int64_t value);
 Text To_Text(double value);
 Text To_Text(Single value);
 Text To_Text(Currency value);
-inline Text To_Text(int value) {
-  return To_Text(static_cast<std::int64_t>(value));
-}
-inline Text To_Text(Integer value) {
-  return To_Text(static_cast<std::int64_t>(value));
-}
+inline Text To_Text(int value) { return To_Text(static_cast<std::int64_t>(value)); }
+inline Text To_Text(Integer value) { return To_Text(static_cast<std::int64_t>(value)); }
 
 // ---- dates ----
 

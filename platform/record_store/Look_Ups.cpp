@@ -42,10 +42,11 @@ std::optional<std::size_t> Look_Ups::Find(const Order& order, const Value& key,
 
 void Look_Ups::Keep_Missed(const Order& order, const Value& key, sqlite3_stmt* statement,
                            int width) {
-  asked_.resize(places_of_asked);
-  std::uint64_t& asked = asked_[missed_ % places_of_asked];
-  if (asked != missed_) {
-    asked = missed_;
+  if (asked_.empty()) asked_.resize(places_of_asked);
+  const auto mark = static_cast<std::uint32_t>(missed_ >> 32) | 1;
+  std::uint32_t& asked = asked_[missed_ % places_of_asked];
+  if (asked != mark) {
+    asked = mark;
     return;
   }
   if (orders_.size() == most_rows || !places_.emplace(missed_, orders_.size()).second) return;
@@ -59,6 +60,7 @@ void Look_Ups::Keep_Missed(const Order& order, const Value& key, sqlite3_stmt* s
 }
 
 void Look_Ups::Forget() {
+  asked_.clear();
   if (orders_.empty()) return;
   places_.clear();
   orders_.clear();

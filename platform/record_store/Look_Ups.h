@@ -31,7 +31,7 @@ class Look_Ups {
   std::vector<const Order*> orders_;                       // by row, as are the next two
   Row_Block keys_;
   Row_Block rows_;
-  std::vector<std::uint64_t> asked_;  // hashes of keys that were asked for, each in its place
+  std::vector<std::uint32_t> asked_;  // ends of hashes of keys asked for, each in its place
   std::uint64_t missed_ = 0;
   std::uint64_t file_state_ = 0;
 };

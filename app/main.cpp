@@ -1,3 +1,4 @@
+#include "cellar/Cellar_Screens.h"
 #include "core/Core_Screens.h"
 #include "platform/forms/Application.h"
 #include "platform/forms/Screens.h"
@@ -5,5 +6,6 @@
 int main(int argc, char** argv) {
   Forms::Application application(argc, argv);
   Register_Core_Screens();
+  Register_Cellar_Screens();
   return application.Run([] { Forms::Screen("Wine_Cellar_Form").Open(); });
 }

@@ -120,6 +120,11 @@ Text Country_Long_Name(std::string_view short_name) {
   return Country_By("Short_Name", short_name, "Long_Name");
 }
 
+int Country_Name_Column() {
+  constexpr std::array columns{1, 2, 9, 10, 11, 12, 13};
+  return columns.at(static_cast<std::size_t>(System_Language) - 3);
+}
+
 Integer Color_Index(std::string_view color) {
   constexpr std::array<std::string_view, 5> colors{"Red", "White", "Rosé", "Sparkling",
                                                    "Fortified"};

@@ -72,6 +72,8 @@ void Show_Named_Cellars(std::string_view first, std::string_view second);
 void Read_Winery_By_ID(Integer key);
 Text Country_Short_Name(std::string_view long_name);
 Text Country_Long_Name(std::string_view short_name);
+/// The ordinal of the field of `World_Contries` that names a country in the language in force.
+int Country_Name_Column();
 /// 0 to 4 for "Red", "White", "Rosé", "Sparkling", "Fortified", exactly so written; 0 for any
 /// other.
 Integer Color_Index(std::string_view color);

@@ -34,6 +34,24 @@ inline Text Selected_Text;
 /// While True the events of the entry fields do nothing: code is setting their values.
 inline bool Ignore_Events = false;
 
+/// Ignore_Events is True as long as this lives, and afterwards what it was before.
+class Ignoring_Events {
+ public:
+  Ignoring_Events() { Ignore_Events = true; }
+  ~Ignoring_Events() { Ignore_Events = before_; }
+  Ignoring_Events(const Ignoring_Events&) = delete;
+  Ignoring_Events& operator=(const Ignoring_Events&) = delete;
+
+ private:
+  bool before_ = Ignore_Events;
+};
+
+/// While True a click on a taste or aroma box is undone.
+inline bool Checks_Locked = false;
+
+/// The key, as text, of the wine that another screen asks the wine screen to show.
+inline Text Requested_Wine_Text;
+
 /// The data file, and the shared reference file that is named but never opened. Set at start-up.
 inline Text Wine_Cellar_DB_Path;
 inline Text Shared_DB_Path;

@@ -63,3 +63,28 @@ Text Language_Name_From_Number(Integer number) {
   const bool known = number >= first_language && number < first_language + 7;
   return language_names[known ? static_cast<std::size_t>(number - first_language) : 0];
 }
+
+Text Data_Text(Long key) {
+  if (key == -1) return " ";
+  Open_Table(Words_for_Data_Recordset, "Words_for_Data");
+  Words_for_Data_Recordset.Index("Multi_Language_ID");
+  Words_for_Data_Recordset.Seek("=", key);
+  Text text = Words_for_Data_Recordset.Fields(System_Language - 2).As_Text();
+  Close_Table(Words_for_Data_Recordset);
+  return text == "x" ? " " : text;
+}
+
+Long Add_Data_Text(std::string_view text) {
+  using R = Words_for_Data_Record;
+  constexpr std::array columns{&R::English, &R::Spanish, &R::French,    &R::German,
+                               &R::Italian, &R::Japanes, &R::Portuguese};
+  Init_Words_for_Data_Record();
+  Words_for_Data.*columns.at(static_cast<std::size_t>(System_Language - first_language)) = text;
+  Open_Table(Words_for_Data_Recordset, "Words_for_Data");
+  Words_for_Data_Recordset.AddNew();
+  Write_Words_for_Data_Record();
+  Words_for_Data_Recordset.MoveLast();
+  const Long key = Words_for_Data_Recordset.Fields("ID").As_Long();
+  Close_Table(Words_for_Data_Recordset);
+  return key;
+}

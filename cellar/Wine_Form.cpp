@@ -1,0 +1,253 @@
+// The life of the screen, its modes, and the ways to other screens and back.
+#include "cellar/Wine_Form.h"
+
+#include "core/Gereral_Processes.h"
+#include "core/Globals.h"
+#include "core/MultiLanguage_Processes.h"
+#include "core/Varieties_Processes.h"
+#include "core/tables/Catalogue.h"
+#include "platform/run_time/Conversions.h"
+
+using Forms::Screen;
+
+namespace {
+
+constexpr const char* pick_first = "Please Select a Wine from the Cellar first";
+
+}  // namespace
+
+Wine_Form::Wine_Form()
+    : Form("Wine_Form", "Wine Information"),
+      Wine_Cellar_ListView(*this, "Wine_Cellar_ListView",
+                           {{"Vintage", 8},
+                            {"Winery", 26},
+                            {"Label", 24},
+                            {"Wine Region", 20},
+                            {"Grape Variety", 30},
+                            {"Color", 10},
+                            {"Merit", 7},
+                            {"Peak", 7},
+                            {"Stock", 7},
+                            {"ID", 8}}) {
+  for (Forms::Placed_Control* field : Gate_Fields()) field->Set_Tag("0");
+  for (Forms::Control* field : {static_cast<Forms::Control*>(&Country_Combo),
+                                static_cast<Forms::Control*>(&Region_Combo)}) {
+    field->Set_Tag("0");
+  }
+  Message_Label.Set_Visible(false);
+  Lay_Out();
+  Set_Up_Handlers();
+}
+
+void Wine_Form::Set_Up_Handlers() {
+  Let(Country_Combo.Click, &Wine_Form::Country_Combo_Click);
+  Let(Winery_Combo.Click, &Wine_Form::Winery_Combo_Click);
+  Let(Region_Combo.Click, &Wine_Form::Region_Combo_Click);
+  Let(Label_Combo.Click, &Wine_Form::Label_Combo_Click);
+  Let(Classification_Combo.Click, &Wine_Form::Classification_Combo_Click);
+  Let(Color_Combo.Click, &Wine_Form::Color_Combo_Click);
+  Let(Bottle_Size_Combo.Click, &Wine_Form::Bottle_Size_Combo_Click);
+  Let(Total_Bottles_Text.LostFocus, &Wine_Form::Total_Bottles_Text_LostFocus);
+  Let(Alcohol_Text.LostFocus, &Wine_Form::Alcohol_Text_LostFocus);
+  Let(Price_Text.LostFocus, &Wine_Form::Price_Text_LostFocus);
+  Vintage_Combo.Click = [this] { Vintage_Combo_Click(); };
+  Variety_Combo.ItemCheck = [this](int item) { Variety_Combo_ItemCheck(item); };
+  for (Forms::Text_Box* date : {&Date_Added_Text, &Last_Date_Uncorked_Text}) {
+    date->LostFocus = [this, date] { Date_Text_LostFocus(*date); };
+  }
+  Winery_Combo.DblClick = [this] { Winery_Combo_DblClick(); };
+  Wine_Cellar_ListView.ItemClick = [this](Forms::List_Item item) {
+    Wine_Cellar_ListView_ItemClick(item);
+  };
+  Wine_Cellar_ListView.ColumnClick = [this](const Forms::Column_Header& header) {
+    Wine_Cellar_ListView_ColumnClick(header);
+  };
+  Winery_Add_Command.Click = [this] { Winery_Add_Command_Click(); };
+  Label_Add_Command.Click = [this] { Label_Add_Command_Click(); };
+  Pairings_Add_Command.Click = [this] { Pairings_Add_Command_Click(); };
+  Multi_Functional_Command.Click = [this] { Multi_Functional_Command_Click(); };
+  Exit_Command.Click = [this] { Exit_Command_Click(); };
+}
+
+// ---- loading ----
+
+// The screen of a new winery leaves it in the memory record and has this screen load anew: filling
+// the lists must not lose it.
+void Wine_Form::Form_Load() {
+  command_ = Current_Command;
+  const Wineries_Record winery = Wineries;
+  const Ignoring_Events ignoring;
+  Load_Language_Words("Wine_Form");
+  if (command_ == "WineAdd") Load_for_Add();
+  if (command_ == "WineMod") Load_for_Mod();
+  if (command_ == "CellarView" || command_ == "CheeseParingsCellar") Load_for_View();
+  if (command_ == "WineUncork") Load_for_Uncork();
+  if (command_ == "WineDel") Load_for_Del();
+  if (command_ == "WineOtherAdd") Load_for_General_List("Add New Wine to the General List");
+  if (command_ == "WineOtherMod") Load_for_General_List("MODIFY Wine Information");
+  Wineries = winery;
+}
+
+void Wine_Form::Load_for_Add() {
+  Initialize_Form_Data();
+  Display_Current_Cellar();
+  Set_Caption("Add New Wine to the Cellar");
+  Multi_Functional_Command.Set_Enabled(false);
+  Wine_Cellar_ListView.Set_BackColor(Forms::Locked_Color);
+  Wait_for_Country();
+}
+
+void Wine_Form::Load_for_Mod() {
+  Initialize_Form_Data();
+  Display_Current_Cellar();
+  Set_Caption("MODIFY Wine Information");
+  Pairings_Add_Command.Set_Caption("Modify Pairing");
+  Wait_for_Pick();
+}
+
+void Wine_Form::Load_for_Display(const char* caption) {
+  Initialize_Display_Data();
+  Display_Current_Cellar();
+  Set_Caption(caption);
+  Multi_Functional_Command.Set_Visible(false);
+  Hide_ADD_Buttons();
+  Lock_Top_Window();
+  Checks_Locked = true;
+  Pairings_Add_Command.Set_Visible(false);
+  Wine_Cellar_ListView.SetFocus();
+}
+
+void Wine_Form::Load_for_View() { Load_for_Display("Display of Current Cellar"); }
+
+void Wine_Form::Load_for_Uncork() {
+  Load_for_Display("Select Wine to Uncork");
+  Setup_for_Message(pick_first);
+}
+
+void Wine_Form::Load_for_Del() {
+  Set_Caption("Select Wine Delete");
+  Display_Current_Cellar();
+  Lock_Top_Window();
+  Setup_for_Message("Please Select the Wine to REMOVE from the Cellar");
+  Checks_Locked = true;
+  Pairings_Add_Command.Set_Visible(false);
+  Disable_Add_Buttons();
+  Wine_Cellar_ListView.SetFocus();
+}
+
+// The screen of the general list has this one load, hidden, by captioning it.
+void Wine_Form::Load_for_General_List(const char* caption) {
+  Set_Caption(caption);
+  for (Forms::Control* hidden : std::initializer_list<Forms::Control*>{
+           &Vintage_Label, &Vintage_Combo, &Total_Bottles_Label, &Total_Bottles_Text,
+           &Last_Day_Uncorked_Label, &Last_Date_Uncorked_Text, &Current_Cellar_Label,
+           &Wine_Cellar_Name_Label, &Peak_Year_Combo, &Peak_Year_Label, &Merit_Combo,
+           &Merit_Label}) {
+    hidden->Set_Visible(false);
+  }
+  Total_Bottles_Text.Set_Tag("1");
+}
+
+// The beginning of each new wine: nothing is open but the country.
+void Wine_Form::Wait_for_Country() {
+  Lock_Top_Window();
+  Checks_Locked = true;
+  Boxes.Clear();
+  Country_Combo.Set_Locked(false);
+  Country_Combo.Set_BackColor(Forms::Required_Color);
+  Winery_Add_Command.Set_Enabled(true);
+  Pairings_Add_Command.Set_Enabled(false);
+  Date_Added_Text.Set_Text(To_Text(Now()));
+  Hide_Add_Commands();
+  Country_Combo.SetFocus();
+}
+
+// The beginning of each correction: the wine is still to be picked.
+void Wine_Form::Wait_for_Pick() {
+  Lock_Top_Window();
+  Checks_Locked = true;
+  Boxes.Clear();
+  Disable_Add_Buttons();
+  Pairings_Add_Command.Set_Enabled(true);
+  Multi_Functional_Command.Set_Caption("SAVE");
+  Multi_Functional_Command.Set_Enabled(false);
+  Multi_Functional_Command.Set_Visible(false);
+  Setup_for_Message(pick_first);
+  Wine_Cellar_ListView.SetFocus();
+}
+
+// ---- coming back ----
+
+void Wine_Form::Form_Activate() {
+  Current_Command = command_;
+  const bool winery_or_label_is_new = Tag() == "1";
+  if (winery_or_label_is_new) Update_for_New_Winery();
+  Set_Tag("0");
+  Should_Multi_Command_Be_Enabled();
+  if (Pairings_Add_Command.Tag() == "1") Take_Over_Pairings();
+  if (command_ == "CheeseParingsCellar") Show_Requested_Wine();
+}
+
+void Wine_Form::Update_for_New_Winery() {
+  const Wineries_Record winery = Wineries;
+  Initialize_Winery();
+  const int place = Winery_Lines.Place_Of(winery.Winery_ID, 1);
+  if (place > 0) Winery_Combo.Set_ListIndex(place);
+}
+
+// Under WineMod the keys keep their old lines ahead of the new ones; nothing reads them there.
+void Wine_Form::Take_Over_Pairings() {
+  if (command_ != "WineAdd" && command_ != "WineMod") return;
+  Pairing_List.Clear();
+  if (command_ == "WineAdd") Pairing_Index_List.Clear();
+  Pairing_List.Set_BackColor(Forms::Window_Color);
+  Pairings_Add_Command.Set_Tag("0");
+  for (int pairing = 1; pairing <= Selected_Count; ++pairing) {
+    Pairing_Lines.Add(Selected_Names[pairing], Selected_IDs[pairing]);
+  }
+}
+
+void Wine_Form::Show_Requested_Wine() {
+  std::optional<Forms::List_Item> item = Item_of_Wine(Requested_Wine_Text);
+  if (!item) return;
+  Wine_Cellar_ListView.Set_SelectedItem(*item);
+  Wine_Cellar_ListView_ItemClick(*item);
+  item->EnsureVisible();
+}
+
+// ---- leaving ----
+
+void Wine_Form::Winery_Add_Command_Click() {
+  if (!Screen("Wineries_Form").Exists()) return;
+  Unload();
+  Screen("Wineries_Form").Open();
+}
+
+void Wine_Form::Label_Add_Command_Click() {
+  if (!Screen("Label_Form").Exists()) return;
+  Screen("Label_Form").Open();
+  Hide();
+}
+
+void Wine_Form::Pairings_Add_Command_Click() {
+  Screen("Select_Maridages_for_Wines_Form").Open_Over(*this);
+}
+
+void Wine_Form::Winery_Combo_DblClick() {
+  if (!Screen("Wineries_Form").Exists()) return;
+  Current_Command = "WineryList";
+  Screen("Wineries_Form").Open();
+}
+
+void Wine_Form::Exit_Command_Click() {
+  if (command_ == "CheeseParingsCellar") {
+    Screen("Cheeses_Form").Show();
+  } else {
+    Leave();
+  }
+}
+
+void Wine_Form::Leave() {
+  Unload();
+  Screen("Wine_Cellar_Form").Show();
+}

@@ -1,0 +1,236 @@
+// The one button that writes, in each of its four modes. Nothing is undone: what was written before
+// a failure stays written.
+#include "cellar/Wine_Form.h"
+#include "core/Globals.h"
+#include "core/MultiLanguage_Processes.h"
+#include "core/Used_Counters.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "platform/run_time/Conversions.h"
+
+void Wine_Form::Multi_Functional_Command_Click() {
+  if (command_ == "WineAdd") Save_Wine();
+  if (command_ == "WineMod") Modify_Wine();
+  if (command_ == "WineUncork") Uncork_Wine();
+  if (command_ == "WineDel") Remove_Wine();
+}
+
+// ---- SAVE ----
+
+void Wine_Form::Save_Wine() {
+  Store_New_Wine();
+  Boxes.Store_Marks_of(Wines.Wine_ID, true);
+  Count_Wine_In();
+  Winery_Combo.Set_ListIndex(0);
+  Display_Current_Cellar();
+  Wait_for_Country();
+  Lock(Winery_Combo);
+  Wine_Cellar_ListView.Set_Enabled(false);
+  Should_Multi_Command_Be_Enabled();
+  Forms::Message_Box("This Wine was successfully ADDED to your Wine Cellar.",
+                     "WINE ADDITION SUCCESSFULLY");
+}
+
+// A row of defaults first, for its number; then, read back as the highest one, what the form says.
+void Wine_Form::Store_New_Wine() {
+  Open_Table(Wines_Recordset, "Wines");
+  Init_Wines_Record();
+  Wines_Recordset.AddNew();
+  Write_Wines_Record();
+  Close_Table(Wines_Recordset);
+  Open_Table(Wines_Recordset, "Wines");
+  Wines_Recordset.Index("Wine_ID");
+  Wines_Recordset.MoveLast();
+  Read_Wines_Record();
+  From_Form_to_Memory();
+  Wines_Recordset.Edit();
+  Write_Wines_Record();
+  Close_Table(Wines_Recordset);
+}
+
+// The label's and the classification's counters go by their memory records, and of all grapes only
+// the one read last is counted, where the list of grapes has a current line.
+void Wine_Form::Count_Wine_In() {
+  Count_Winery(Wines.Winery_ID, 1);
+  Count_Region(Wineries.Region_ID, 1);
+  if (Label_Combo.ListIndex() > 1) Count_Label(Labels.Label_ID, 1);
+  if (Classification_Combo.ListIndex() > 1) {
+    Count_Classification(Classification.Classification_ID, 1);
+  }
+  Store_Varieties();
+  if (Variety_Combo.ListIndex() >= 1) Count_Variety(Varieties.Variety_ID, 1);
+}
+
+// ---- MODIFY ----
+
+void Wine_Form::Modify_Wine() {
+  Seek_Wine();
+  From_Form_to_Memory();
+  Wines_Recordset.Edit();
+  Write_Wines_Record();
+  Close_Table(Wines_Recordset);
+  Remove_Tasting();
+  Boxes.Store_Marks_of(Wines.Wine_ID, true);
+  Remove_Varieties();
+  Store_Varieties();
+  Lock_Top_Window();
+  Display_Current_Cellar();
+  Multi_Functional_Command.Set_Enabled(false);
+  Forms::Message_Box("Wine information was Modified.", "WINE INFORMATION UPDATED");
+  Top_Window_Clean();
+  Wait_for_Pick();
+}
+
+// Begins with the lowest key of the table, whichever wine that is: only the marks of that wine are
+// ever removed. An empty table has no row to begin with (3021).
+void Wine_Form::Remove_Tasting() {
+  Open_Table(Wine_Tasting_Recordset, "Wine_Tasting");
+  Wine_Tasting_Recordset.Index("Wine_ID");
+  do {
+    if (Wine_Tasting_Recordset.Fields("Wine_ID").As_Long() != Wines.Wine_ID) break;
+    Wine_Tasting_Recordset.Edit();
+    Wine_Tasting_Recordset.Delete();
+    Wine_Tasting_Recordset.MoveNext();
+  } while (!Wine_Tasting_Recordset.Eof());
+  Close_Table(Wine_Tasting_Recordset);
+}
+
+// A wine without a row has none to begin with (3021).
+void Wine_Form::Remove_Varieties() {
+  Open_Table(Varieties_of_Wines_Recordset, "Varieties_of_Wines");
+  Varieties_of_Wines_Recordset.Index("Wine_ID");
+  Varieties_of_Wines_Recordset.Seek("=", Wines.Wine_ID);
+  do {
+    if (Varieties_of_Wines_Recordset.Fields("Wine_ID").As_Long() != Wines.Wine_ID) break;
+    Varieties_of_Wines_Recordset.Delete();
+    Varieties_of_Wines_Recordset.MoveNext();
+  } while (!Varieties_of_Wines_Recordset.Eof());
+  Close_Table(Varieties_of_Wines_Recordset);
+}
+
+// ---- UNCORK ----
+
+void Wine_Form::Uncork_Wine() {
+  Seek_Wine();
+  Wines.Total_Bottles = To_Integer(static_cast<double>(Wines.Total_Bottles - 1));
+  Wines.Last_Date_Uncorked = Now();
+  Wines_Recordset.Edit();
+  Write_Wines_Record();
+  Close_Table(Wines_Recordset);
+  Selected_Wine_ID = To_Integer(static_cast<double>(Wines.Wine_ID));
+  Forms::Message_Box("Your Wine Cellar was updated. This bottle of Wine was marked as Uncorked",
+                     "WINE UNCORKED");
+  Total_Bottles_Text.Set_Text(To_Text(Wines.Total_Bottles));
+  if (Wines.Total_Bottles == 0) {
+    Total_Bottles_Text.Set_BackColor(Forms::Required_Color);
+    Multi_Functional_Command.Set_Enabled(false);
+  }
+  Last_Date_Uncorked_Text.Set_Text(To_Text(Wines.Last_Date_Uncorked));
+  Display_Current_Cellar();
+  if (std::optional<Forms::List_Item> item = Item_of_Wine(To_Text(Selected_Wine_ID))) {
+    item->Set_Selected(true);
+    item->EnsureVisible();
+  }
+  Wines.Wine_ID = Selected_Wine_ID;
+  Seek_Wine();
+}
+
+// ---- REMOVE ----
+
+void Wine_Form::Remove_Wine() {
+  Seek_Wine();
+  const bool sure = Forms::Ask_Yes_No("Are you sure yo want to REMOVE this wine from Wine Cellar?",
+                                      "WINE DELETE WARNING");
+  if (!sure) {
+    Close_Table(Wines_Recordset);
+    return;
+  }
+  Wines_Recordset.Edit();
+  Wines_Recordset.Delete();
+  Close_Table(Wines_Recordset);
+  Count_Wine_Out();
+  Forms::Message_Box("This wine was REMOVED from your Wine Cellar.", "WINE DELETE NOTICE");
+  Leave();
+}
+
+void Wine_Form::Count_Wine_Out() {
+  Count_Winery(Wines.Winery_ID, -1);
+  Count_Region(Wineries.Region_ID, -1);
+  if (Label_Combo.ListIndex() > 1) Count_Label(To_Long(Label_Lines.Key()), -1);
+  if (Classification_Combo.ListIndex() > 1) {
+    Count_Classification(To_Long(Classification_Lines.Key()), -1);
+  }
+  if (Variety_Combo.ListIndex() > 0) Count_Variety(To_Long(Variety_Lines.Key()), -1);
+}
+
+// ---- what they share ----
+
+// Leaves `Wines` open on the row of the wine in the memory record. 3021 where it has gone.
+void Wine_Form::Seek_Wine() {
+  Open_Table(Wines_Recordset, "Wines");
+  Wines_Recordset.Index("Wine_ID");
+  Wines_Recordset.Seek("=", Wines.Wine_ID);
+  Read_Wines_Record();
+}
+
+void Wine_Form::From_Form_to_Memory() {
+  const Text price = Trim(Price_Text.Text());
+  const Text alcohol = Trim(Alcohol_Text.Text());
+  Wines.Winery_ID = To_Long(Winery_Lines.Key());
+  Wines.Label = Label_Combo.ListIndex() == 1 ? "x" : Label_Combo.Text();
+  Varieties_to_Memory();
+  Wines.Vintage = To_Integer(Vintage_Combo.Text());
+  Wines.Peak = To_Integer(Peak_Year_Combo.Text());
+  Wines.Value_Guide = price.empty() ? Currency::Of(-1) : To_Currency(price);
+  Wines.Ranking = Merit_Combo.ListIndex() == 0 ? Integer{-1} : To_Integer(Merit_Combo.Text());
+  Wines.Total_Bottles = To_Integer(Trim(Total_Bottles_Text.Text()));
+  Wines.Bottle_Size = Bottle_Size_Combo.Text();
+  Wines.Description = Store_Data_Text(Description_Text, Wines.Description);
+  Wines.Color = Color_Combo.Text();
+  Wines.Alcohol = alcohol.empty() ? Single{-1} : To_Single(alcohol);
+  Wines.Clasification = Classification_Combo.Text();
+  Wines.Comments = Store_Data_Text(Comments_Text, Wines.Comments);
+}
+
+void Wine_Form::Varieties_to_Memory() {
+  Wines.Variety.clear();
+  for (int item = 0; item < Variety_Combo.ListCount(); ++item) {
+    if (!Variety_Combo.Selected(item)) continue;
+    Wines.Variety_ID = To_Long(Variety_Lines.Key(item));
+    if (!Wines.Variety.empty()) Wines.Variety += ", ";
+    Wines.Variety += Variety_Combo.List(item);
+  }
+}
+
+// The key of the row that holds the box's text, -1 for a new wine without one. Under WineMod a text
+// that is stored already cannot be changed: the row is not being edited (3020). Emptying the box is
+// such a change, and a wine without a text gets a row that says "x".
+Long Wine_Form::Store_Data_Text(Forms::Text_Box& box, Long key) {
+  const bool empty = Trim(box.Text()).empty();
+  if (command_ == "WineAdd") return empty ? -1 : Add_Data_Text(box.Text());
+  if (empty) box.Set_Text("x");
+  Open_Table(Words_for_Data_Recordset, "Words_for_Data");
+  Words_for_Data_Recordset.Index("Multi_Language_ID");
+  Words_for_Data_Recordset.Seek("=", key);
+  if (Words_for_Data_Recordset.NoMatch()) {
+    Close_Table(Words_for_Data_Recordset);
+    return Add_Data_Text(box.Text());
+  }
+  Words_for_Data_Recordset.Fields(System_Language - 2) = box.Text();
+  Words_for_Data_Recordset.Update();
+  Close_Table(Words_for_Data_Recordset);
+  return key;
+}
+
+void Wine_Form::Store_Varieties() {
+  Open_Table(Varieties_of_Wines_Recordset, "Varieties_of_Wines");
+  for (int item = 0; item < Variety_Combo.ListCount(); ++item) {
+    if (!Variety_Combo.Selected(item)) continue;
+    Varieties_of_Wines_Recordset.AddNew();
+    Varieties_of_Wines_Recordset.Fields("Wine_ID") = Wines.Wine_ID;
+    Varieties_of_Wines_Recordset.Fields("Variety_ID") = To_Long(Variety_Lines.Key(item));
+    Varieties_of_Wines_Recordset.Update();
+  }
+  Close_Table(Varieties_of_Wines_Recordset);
+}

@@ -1,0 +1,223 @@
+// What a choice in a field brings about in the others, and what the text fields accept.
+#include <cmath>
+#include <limits>
+
+#include "cellar/Wine_Form.h"
+#include "core/Gereral_Processes.h"
+#include "core/Globals.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "platform/run_time/Conversions.h"
+
+using Forms::Locked_Color;
+using Forms::Required_Color;
+using Forms::Window_Color;
+
+namespace {
+
+constexpr double highest_number_of_bottles = std::numeric_limits<Integer>::max();
+constexpr double highest_alcohol = std::numeric_limits<Single>::max();
+constexpr double highest_price = 922337203685477;
+constexpr int oldest_accepted_date = 20;  // calendar years back
+
+// What is wrong with a number; "" if nothing is. One that the table could not hold is no number.
+Text Number_Fault(const Text& field, const Text& text, double highest) {
+  if (!Is_Numeric(text) || std::abs(To_Double(text)) > highest) {
+    return field + " value is NOT numeric !!!";
+  }
+  if (To_Double(text) < 0) return field + " value MUST be greather than 0 !!!";
+  return {};
+}
+
+Text Whole_Number_Fault(const Text& field, const Text& text, double highest) {
+  Text fault = Number_Fault(field, text, highest);
+  if (!fault.empty() || To_Double(text) == std::trunc(To_Double(text))) return fault;
+  return field + " value MUST be an Integer !!!";
+}
+
+Text Date_Fault(const Text& text) {
+  if (!Is_Date(text)) return "This is an Illegal Date !!!";
+  const Date date = To_Date(text);
+  if (date > Now()) return "This date is in the FUTURE !!!";
+  if (date.Year() < Now().Year() - oldest_accepted_date) {
+    return "This date is TOO far into the PAST !!!";
+  }
+  return {};
+}
+
+// Tells the fault and keeps the user in the field. False where there is none.
+bool Is_Refused(Forms::Text_Box& field, const Text& fault, const char* title) {
+  if (fault.empty()) return false;
+  Forms::Message_Box(fault, title);
+  field.SetFocus();
+  return true;
+}
+
+constexpr const char* illegal_number = "ILLEGAL NUMBER";
+
+}  // namespace
+
+// A field's event: nothing while code sets values, and nothing that the handler sets raises
+// another. Every one of them ends with the gate.
+void Wine_Form::Let(std::function<void()>& event, void (Wine_Form::*handler)()) {
+  event = [this, handler] {
+    if (Ignore_Events) return;
+    const Ignoring_Events ignoring;
+    (this->*handler)();
+    Should_Multi_Command_Be_Enabled();
+  };
+}
+
+void Wine_Form::Country_Combo_Click() {
+  Fill_In(Country_Combo);
+  if (Country_Combo.Locked()) return;
+  const Text country = Country_Lines.Key();
+  Load_Wineries_in_Country(country);
+  Require(Winery_Combo);
+  Winery_Combo.Set_Locked(false);
+  Load_Regions_for_Country(country);
+  Load_Classifications(country);
+}
+
+void Wine_Form::Winery_Combo_Click() {
+  if (Winery_Combo.ListIndex() >= 1) {
+    Winery_Chosen();
+  } else {
+    New_Winery_Chosen();
+  }
+}
+
+void Wine_Form::Winery_Chosen() {
+  Winery_Add_Command.Set_Enabled(false);
+  Read_Winery_By_ID(To_Integer(Winery_Lines.Key()));
+  Load_Region_Unique();
+  Load_Labels_for_Region(To_Integer(static_cast<double>(Wineries.Region_ID)));
+  Load_Classifications(Wineries.Country);
+  Load_Varieties_for_Region(Wineries.Region_ID);
+  Fill_In(Winery_Combo);
+  if (command_ != "WineAdd" && command_ != "WineOtherAdd") return;
+  UnLock_for_Add();
+  Region_Combo.Set_Tag("1");
+  for (Forms::Command_Button* button :
+       {&Classification_Add_Command, &Label_Add_Command, &Variety_Add_Command}) {
+    button->Set_Visible(true);
+  }
+  Pairings_Add_Command.Set_Enabled(true);
+}
+
+void Wine_Form::New_Winery_Chosen() {
+  Winery_Add_Command.Set_Enabled(!Winery_Combo.Locked());
+  Reset_Values();
+}
+
+void Wine_Form::Region_Combo_Click() {
+  if (Region_Combo.ListIndex() >= 1) {
+    Load_Labels_for_Region(To_Integer(Region_Lines.Key()));
+    Fill_In(Region_Combo);
+  } else {
+    Region_Combo.Set_Locked(false);
+    Require(Region_Combo);
+  }
+}
+
+// The colour that a label fixes is set here, while events are ignored: it is not the user's choice,
+// so the boxes stay as they were and the colour does not count as chosen.
+void Wine_Form::Label_Combo_Click() {
+  if (Label_Combo.ListIndex() >= 2) {
+    Open_Table(Labels_Recordset, "Labels");
+    Labels_Recordset.Index("Label_ID");
+    Labels_Recordset.Seek("=", Label_Lines.Key());
+    Read_Labels_Record();
+    Close_Table(Labels_Recordset);
+    if (Labels.Wine_Color != "x") Color_Combo.Set_ListIndex(Color_Index(Labels.Wine_Color));
+  }
+  Take_Choice(Label_Combo, Label_Add_Command);
+}
+
+void Wine_Form::Classification_Combo_Click() {
+  Take_Choice(Classification_Combo, Classification_Add_Command);
+}
+
+// The first entry offers to add a new row; every other one is a choice.
+void Wine_Form::Take_Choice(Forms::Combo_Box& combo, Forms::Command_Button& add) {
+  const bool chosen = combo.ListIndex() >= 1;
+  add.Set_Enabled(!chosen && !combo.Locked());
+  if (chosen) {
+    Fill_In(combo);
+  } else {
+    Require(combo);
+  }
+}
+
+void Wine_Form::Variety_Combo_ItemCheck(int item) {
+  if (Ignore_Events) return;
+  const Ignoring_Events ignoring;
+  if (Variety_Combo.BackColor() == Locked_Color) {
+    Variety_Combo.Set_Selected(item, !Variety_Combo.Selected(item));
+    return;
+  }
+  const bool new_variety = Variety_Combo.Selected(0);
+  for (int other = 1; new_variety && other < Variety_Combo.ListCount(); ++other) {
+    Variety_Combo.Set_Selected(other, false);
+  }
+  Variety_Add_Command.Set_Enabled(new_variety);
+  if (!new_variety && Variety_Combo.SelCount() >= 1) {
+    Variety_Combo.Set_Tag("1");
+    Variety_Combo.Set_BackColor(Window_Color);
+  } else {
+    Require(Variety_Combo);
+  }
+  Should_Multi_Command_Be_Enabled();
+}
+
+void Wine_Form::Color_Combo_Click() {
+  constexpr std::array english_colors{"Red", "White", "Rosé", "Sparkling", "Fortified"};
+  Fill_In(Color_Combo);
+  Boxes.Offer(english_colors.at(static_cast<std::size_t>(Color_Combo.ListIndex())));
+}
+
+void Wine_Form::Bottle_Size_Combo_Click() { Fill_In(Bottle_Size_Combo); }
+
+// Also while events are ignored: the peak years follow every change of the vintage. The oldest
+// vintage of the list is no choice.
+void Wine_Form::Vintage_Combo_Click() {
+  Fill_Peak_Years();
+  if (Vintage_Combo.ListIndex() > 0) {
+    Fill_In(Vintage_Combo);
+  } else {
+    Require(Vintage_Combo);
+  }
+  Should_Multi_Command_Be_Enabled();
+}
+
+void Wine_Form::Total_Bottles_Text_LostFocus() {
+  if (Total_Bottles_Text.Locked()) return;
+  const Text& text = Total_Bottles_Text.Text();
+  if (text.empty() ||
+      Is_Refused(Total_Bottles_Text,
+                 Whole_Number_Fault("Total Bottles", text, highest_number_of_bottles),
+                 illegal_number)) {
+    Require(Total_Bottles_Text);
+  } else {
+    Fill_In(Total_Bottles_Text);
+  }
+}
+
+void Wine_Form::Alcohol_Text_LostFocus() {
+  const Text& text = Alcohol_Text.Text();
+  if (Alcohol_Text.Locked() || text.empty()) return;
+  Is_Refused(Alcohol_Text, Number_Fault("Alcohol", text, highest_alcohol), illegal_number);
+}
+
+// A lone blank counts as empty here, as it does not in the field for alcohol.
+void Wine_Form::Price_Text_LostFocus() {
+  const Text& text = Price_Text.Text();
+  if (Price_Text.Locked() || Trim(text).empty()) return;
+  Is_Refused(Price_Text, Number_Fault("Price", text, highest_price), illegal_number);
+}
+
+void Wine_Form::Date_Text_LostFocus(Forms::Text_Box& date) {
+  if (date.Locked() || Trim(date.Text()).empty()) return;
+  Is_Refused(date, Date_Fault(date.Text()), "ILLEGAL DATE");
+}

@@ -1,0 +1,139 @@
+// The states of the fields: locked, open, required; the message; the buttons; the gate.
+#include "cellar/Wine_Form.h"
+#include "core/Globals.h"
+#include "platform/run_time/Conversions.h"
+
+using Forms::Locked_Color;
+using Forms::Required_Color;
+using Forms::Window_Color;
+
+std::vector<Forms::Lockable_Control*> Wine_Form::Entry_Fields() {
+  return {&Winery_Combo,      &Label_Combo,          &Region_Combo,     &Country_Combo,
+          &Vintage_Combo,     &Peak_Year_Combo,      &Price_Text,       &Merit_Combo,
+          &Bottle_Size_Combo, &Total_Bottles_Text,   &Description_Text, &Color_Combo,
+          &Alcohol_Text,      &Classification_Combo, &Comments_Text,    &Last_Date_Uncorked_Text,
+          &Date_Added_Text};
+}
+
+Wine_Form::Controls Wine_Form::Gate_Fields() {
+  return {&Bottle_Size_Combo, &Classification_Combo, &Color_Combo,  &Label_Combo,
+          &Variety_Combo,     &Vintage_Combo,        &Winery_Combo, &Total_Bottles_Text};
+}
+
+void Wine_Form::Lock_Top_Window() {
+  for (Forms::Lockable_Control* field : Entry_Fields()) Lock(*field);
+  Pairing_List.Set_BackColor(Locked_Color);
+  Variety_Combo.Set_BackColor(Locked_Color);
+  Boxes.Show_Locked();
+}
+
+void Wine_Form::UnLock_Top_Window() {
+  for (Forms::Lockable_Control* field : Entry_Fields()) {
+    field->Set_Locked(false);
+    field->Set_BackColor(Window_Color);
+  }
+  Variety_Combo.Set_BackColor(Window_Color);
+  Pairing_List.Set_BackColor(Window_Color);
+  Boxes.Open(Forms::Open_Check_Color);
+}
+
+// The vintage shows as required though its first fill counts as a choice.
+void Wine_Form::UnLock_for_Add() {
+  UnLock_Top_Window();
+  Lock(Region_Combo);
+  for (Forms::Placed_Control* field :
+       Controls{&Label_Combo, &Variety_Combo, &Bottle_Size_Combo, &Total_Bottles_Text, &Color_Combo,
+                &Classification_Combo}) {
+    Require(*field);
+  }
+  Vintage_Combo.Set_BackColor(Required_Color);
+  Checks_Locked = false;
+}
+
+void Wine_Form::Lock(Forms::Lockable_Control& field) {
+  field.Set_Locked(true);
+  field.Set_BackColor(Locked_Color);
+}
+
+void Wine_Form::Require(Forms::Placed_Control& field) {
+  field.Set_BackColor(Required_Color);
+  field.Set_Tag("0");
+}
+
+void Wine_Form::Fill_In(Forms::Lockable_Control& field) {
+  Show_Lock(field);
+  field.Set_Tag("1");
+}
+
+void Wine_Form::Show_Lock(Forms::Lockable_Control& field) {
+  field.Set_BackColor(field.Locked() ? Locked_Color : Window_Color);
+}
+
+void Wine_Form::Setup_for_Message(const char* message) {
+  Boxes.Set_Aroma_Visible(false);
+  Message_Label.Set_Caption(message);
+  Message_Label.Set_Visible(true);
+}
+
+void Wine_Form::Remove_Message() {
+  Boxes.Set_Aroma_Visible(true);
+  Message_Label.Set_Visible(false);
+}
+
+// The winery first: back on its first entry it has everything else filled anew.
+void Wine_Form::Top_Window_Clean() {
+  Winery_Combo.Set_ListIndex(0);
+  const Ignoring_Events ignoring;
+  for (Forms::Item_List* list : std::initializer_list<Forms::Item_List*>{
+           &Label_Combo, &Region_Combo, &Country_Combo, &Vintage_Combo, &Peak_Year_Combo,
+           &Merit_Combo, &Bottle_Size_Combo, &Color_Combo, &Classification_Combo, &Variety_Combo}) {
+    if (list->ListCount() > 0) list->Set_ListIndex(0);
+  }
+  for (Forms::Text_Box* box : {&Price_Text, &Alcohol_Text, &Total_Bottles_Text, &Description_Text,
+                               &Comments_Text, &Date_Added_Text, &Last_Date_Uncorked_Text}) {
+    box->Set_Text("");
+  }
+  Boxes.Clear();
+}
+
+void Wine_Form::Hide_Add_Commands() {
+  for (Forms::Command_Button* button :
+       {&Classification_Add_Command, &Label_Add_Command, &Variety_Add_Command}) {
+    button->Set_Visible(false);
+  }
+}
+
+void Wine_Form::Hide_ADD_Buttons() {
+  Hide_Add_Commands();
+  Winery_Add_Command.Set_Visible(false);
+}
+
+void Wine_Form::Disable_Add_Buttons() {
+  for (Forms::Command_Button* button : {&Classification_Add_Command, &Label_Add_Command,
+                                        &Variety_Add_Command, &Winery_Add_Command}) {
+    button->Set_Enabled(false);
+  }
+}
+
+// A wine begun anew finds no field of the gate filled, whatever the fields show by default; only
+// the vintage counts from its fill on.
+void Wine_Form::Reset_Values() {
+  Initialize_Form_Data();
+  Lock_Top_Window();
+  Checks_Locked = true;
+  for (Forms::Placed_Control* field : Gate_Fields()) {
+    if (field != &Vintage_Combo) field->Set_Tag("0");
+  }
+  Winery_Combo.Set_BackColor(Required_Color);
+  Winery_Combo.Set_Locked(false);
+  Hide_Add_Commands();
+  Pairings_Add_Command.Set_Enabled(false);
+}
+
+void Wine_Form::Should_Multi_Command_Be_Enabled() {
+  bool all_filled = true;
+  for (const Forms::Placed_Control* field : Gate_Fields()) {
+    all_filled = all_filled && Val(field->Tag()) != 0;
+  }
+  Multi_Functional_Command.Set_Enabled(all_filled);
+}

@@ -1,0 +1,65 @@
+// The boxes for a wine's marks of taste and aroma, as the wine screens show them, and the rows of
+// `Wine_Tasting` that they stand for.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "platform/forms/Forms.h"
+#include "platform/run_time/Bounded_Array.h"
+#include "platform/run_time/Values.h"
+
+/// Flag i stands for the taste box i - 1: its mark will be stored. Place 0 belongs to no box.
+inline Bounded_Array<bool, 6> Taste_Flags;
+
+/// Cleared with the boxes and read by nobody: aroma marks are stored by the boxes themselves.
+inline Bounded_Array<bool, 8> Aroma_Flags;
+
+/// The two frames of boxes of one form. A click of the user is undone while `Checks_Locked`;
+/// otherwise it flags a taste box and clears those that the wine's colour excludes beside it.
+class Tasting_Boxes {
+ public:
+  /// `color` tells which colour the form shows: 0 Red, 1 White, 2 Rosé, 3 Sparkling, 4 Fortified.
+  Tasting_Boxes(Forms::Form& form, std::function<int()> color);
+
+  Forms::Place Taste_Place();
+  Forms::Place Aroma_Place();
+
+  void Open(Forms::Color open_color);  ///< they can be clicked
+  void Show_Locked();
+  void Set_Aroma_Visible(bool visible);
+  /// No box is ticked and none flagged.
+  void Clear();
+  void Clear_Flags();
+  /// Shows, cleared, the boxes that the colour offers: as many of each kind as `Wine_Taste_Type`
+  /// has rows of it. 3021 for a colour without rows. `english_color` is written as in that table.
+  void Offer(std::string_view english_color);
+
+  /// Ticks what the rows of `Wine_Tasting` with this key say, flags nothing; a row of a wine of the
+  /// other list with the same key shows as well.
+  void Show_Marks_of(Long wine_id);
+  /// Adds a row for each flagged taste box and each ticked aroma box. 6 for a key beyond 16 bits.
+  void Store_Marks_of(Long wine_id, bool cellar_wine);
+
+ private:
+  using Boxes = Forms::Control_Array<Forms::Check_Box>;
+  template <class Action>
+  void Each(const Action& action) {
+    Taste_Check.Each(action);
+    Aroma_Check.Each(action);
+  }
+  void Taste_Check_Click(int index);
+  void Undo(Forms::Check_Box& box);
+  void Exclude_Others(int index);
+  void Add_Row(Long wine_id, const char* kind, int box, bool cellar_wine);
+
+  std::function<int()> color_;
+  /// While True the boxes' Click does nothing: code is setting their values.
+  bool taste_guard_ = false;
+  bool aroma_guard_ = false;
+
+  Forms::Frame Wine_Taste_Frame;
+  Boxes Taste_Check;
+  Forms::Frame Aroma_Frame;
+  Boxes Aroma_Check;
+};

@@ -81,12 +81,14 @@ void List_View::Set_Cell(int row, int column, std::string_view text) {
 
 void List_View::Changed(bool order_too) {
   order_is_old_ = order_is_old_ || (order_too && sorted_);
+  if (std::exchange(show_->is_old, true)) return;
   Show_Later(rows_.get(), [this] { Refresh(); });
 }
 
 void List_View::Refresh() {
   Sort_If_Needed();
   Forget_Later(rows_.get());
+  show_->is_old = false;
   show_->model.Show_Rows();
   std::vector<int> places;
   for (const int row : show_->selected) places.push_back(rows_->Place_Of(row));

@@ -18,6 +18,7 @@ struct List_View::Show {
   std::set<int> selected;  ///< rows
   int current = -1;        ///< the row picked last
   bool to_the_top = false;
+  bool is_old = false;  ///< the view waits for Refresh
 };
 
 }  // namespace Forms

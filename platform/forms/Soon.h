@@ -10,7 +10,9 @@ class Soon : public QObject {
  public:
   explicit Soon(void (*call)()) : call_(call) {}
   /// Several times before the call comes are one call.
-  void Set_Off() { timer_.start(0, this); }
+  void Set_Off() {
+    if (!timer_.isActive()) timer_.start(0, this);
+  }
 
  protected:
   void timerEvent(QTimerEvent*) override {

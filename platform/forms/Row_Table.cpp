@@ -97,6 +97,14 @@ void Row_View::Select(const std::vector<int>& places, int current) {
   selecting_ = false;
 }
 
+// The toolkit would ask every changed row for its place before it paints the few that can be seen.
+// The first one tells it how high a row is.
+void Row_View::dataChanged(const QModelIndex& first, const QModelIndex& last,
+                           const QList<int>& roles) {
+  QTreeView::dataChanged(first, last.siblingAtRow(first.row()), roles);
+  viewport()->update();
+}
+
 // A click beside the rows, or with Ctrl on the one that is selected, leaves a selected row
 // selected.
 QItemSelectionModel::SelectionFlags Row_View::selectionCommand(const QModelIndex& index,

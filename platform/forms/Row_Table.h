@@ -42,6 +42,9 @@ class Row_View : public QTreeView {
   void Select(const std::vector<int>& places, int current);
   bool Is_Selecting() const { return selecting_; }
 
+  void dataChanged(const QModelIndex& first, const QModelIndex& last,
+                   const QList<int>& roles = {}) override;
+
  protected:
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;

@@ -70,6 +70,8 @@ Place Grid(int columns, const Places& places) {
 
 Place Buttons(const Places& buttons) { return Of_Kind(Place_Kind::Buttons, buttons); }
 
+Place One_Place(const Places& places) { return Of_Kind(Place_Kind::One_Place, places); }
+
 Place Above_Below(const Place& upper, const Place& lower) {
   return Of_Kind(Place_Kind::Above_Below, {upper, lower}).Grow();
 }

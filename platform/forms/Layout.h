@@ -23,7 +23,7 @@ class Place {
 
   /// Takes `share` parts of the room that is left over.
   Place Grow(int share = 1) const;
-  /// At least so many characters wide, in the desktop's font.
+  /// At least so many characters wide, in the desktop's font; a button exactly so wide.
   Place Wide(int characters) const;
   /// So many lines of text high; at least so many where the place grows.
   Place High(int lines) const;
@@ -58,6 +58,10 @@ Place Grid(int columns, const Places& places);
 Place Buttons(const Places& buttons);
 /// What a frame holds. The frame hides and shows it.
 Place Group(Frame& frame, const Place& content);
+/// Places that share one cell: those that are visible at the moment are seen, a later one above an
+/// earlier one. The cell keeps the room of the largest, so that nothing around it moves when one
+/// is hidden and another shown.
+Place One_Place(const Places& places);
 /// Two places with a bar between them that the user can move.
 Place Above_Below(const Place& upper, const Place& lower);
 Place Side_By_Side(const Place& left, const Place& right);

@@ -3,12 +3,15 @@
 #include <QBoxLayout>
 #include <QFontMetrics>
 #include <QGridLayout>
+#include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSplitter>
 #include <algorithm>
+#include <utility>
 
 #include "platform/forms/Form_Data.h"
 #include "platform/forms/Place_Data.h"
@@ -17,9 +20,18 @@ namespace Forms {
 
 namespace {
 
-constexpr int block_distance = 24;
+constexpr int block_distance = 18;
+constexpr int frame_margin = 8;
+constexpr QSize window_frame(16, 48);  // generous: the window manager draws it
 constexpr int label_distance = 10;
 constexpr int part_distance = 6;
+
+/// A part of a splitter that takes no more room at first than it needs.
+class Least_Part : public QWidget {
+ public:
+  using QWidget::QWidget;
+  QSize sizeHint() const override { return minimumSizeHint(); }
+};
 
 /// Builds one form's layout, reading the places in order.
 class Builder {
@@ -41,6 +53,8 @@ class Builder {
         return Buttons_Of(data.places, parent);
       case Place_Kind::Row:
         return Row_Of(data.places, parent);
+      case Place_Kind::One_Place:
+        return One_Place_Of(data.places, parent);
       default:
         return Box_Of(new QVBoxLayout, {place}, parent);
     }
@@ -76,6 +90,7 @@ class Builder {
 
   static bool Is_A_Block(const Place& place) {
     const Place_Kind kind = place.Data()->kind;
+    if (kind == Place_Kind::One_Place) return std::ranges::any_of(place.Data()->places, Is_A_Block);
     return kind == Place_Kind::Column || kind == Place_Kind::Fields || kind == Place_Kind::Group;
   }
 
@@ -110,7 +125,10 @@ class Builder {
         return Settle(data, parent);
       case Place_Kind::Group: {
         QWidget* frame = Settle(data, parent);
+        const bool shares = std::exchange(shares_its_place_, false);
         frame->setLayout(Layout_Of(data.places.front(), frame));
+        frame->layout()->setContentsMargins(frame_margin, frame_margin, frame_margin, frame_margin);
+        shares_its_place_ = shares;
         return frame;
       }
       case Place_Kind::Above_Below:
@@ -127,11 +145,22 @@ class Builder {
     if (widget->parentWidget() != parent) widget->setParent(parent);
     const QFontMetrics metrics = widget->fontMetrics();
     if (data.characters > 0) {
-      widget->setMinimumWidth((data.characters + 2) * metrics.averageCharWidth());
+      const int width = (data.characters + 2) * metrics.averageCharWidth();
+      widget->setMinimumWidth(width);
+      if (qobject_cast<const QPushButton*>(widget) != nullptr) widget->setMaximumWidth(width);
     }
     if (data.lines > 0) {
       const int height = (data.lines * (metrics.lineSpacing() + 1)) + 8;
       data.share > 0 ? widget->setMinimumHeight(height) : widget->setFixedHeight(height);
+    }
+    if (shares_its_place_) {
+      QSizePolicy policy = widget->sizePolicy();
+      policy.setRetainSizeWhenHidden(true);
+      // A paragraph breaks to the width that the others need.
+      const auto* label = qobject_cast<const QLabel*>(widget);
+      if (label != nullptr && label->wordWrap()) policy.setHorizontalPolicy(QSizePolicy::Ignored);
+      widget->setSizePolicy(policy);
+      widget->raise();
     }
     data.control->Set_Placed();
     form_.reading_order.emplace_back(widget);
@@ -144,7 +173,7 @@ class Builder {
     for (const Place& place : places) {
       QWidget* part = Widget_Of(place, splitter);
       if (part == nullptr) {
-        part = new QWidget(splitter);
+        part = place.Data()->share > 0 ? new QWidget(splitter) : new Least_Part(splitter);
         part->setLayout(Layout_Of(place, part));
         part->layout()->setContentsMargins(0, 0, 0, 0);
       }
@@ -198,6 +227,14 @@ class Builder {
     return grid;
   }
 
+  QLayout* One_Place_Of(const Places& places, QWidget* parent) {
+    auto* grid = new QGridLayout;
+    const bool shares = std::exchange(shares_its_place_, true);
+    for (const Place& place : places) Add(*grid, place, parent, 0, 0);
+    shares_its_place_ = shares;
+    return grid;
+  }
+
   QLayout* Buttons_Of(const Places& places, QWidget* parent) {
     auto* row = new QHBoxLayout;
     row->setSpacing(part_distance);
@@ -211,6 +248,7 @@ class Builder {
   }
 
   Form_Data& form_;
+  bool shares_its_place_ = false;  ///< what is settled now keeps its room while it is hidden
 };
 
 }  // namespace
@@ -229,14 +267,16 @@ void Build_Layout(Form_Data& form, const Place& content) {
 
 void Fit_To_Desktop(QMainWindow& window, int width) {
   const auto* area = static_cast<QScrollArea*>(window.centralWidget());
-  QSize wanted = area->widget()->sizeHint().expandedTo(area->widget()->minimumSize());
+  const QWidget& content = *area->widget();
+  QSize wanted =
+      content.sizeHint().expandedTo(content.minimumSize()).expandedTo(content.minimumSizeHint());
   if (!window.menuBar()->actions().isEmpty()) {
     const QSize bar = window.menuBar()->sizeHint();
     wanted = QSize(qMax(wanted.width(), bar.width()), wanted.height() + bar.height());
   }
   if (width > 0) wanted.setWidth(width);
   const QRect desktop = window.screen()->availableGeometry();
-  window.resize(wanted.boundedTo(desktop.size() * 0.94));
+  window.resize(wanted.boundedTo(desktop.size() - window_frame));
   window.move(desktop.center() - QPoint(window.width() / 2, window.height() / 2));
 }
 

@@ -1,6 +1,7 @@
 #include "platform/forms/Look.h"
 
 #include <QAbstractItemView>
+#include <QCheckBox>
 #include <QPainter>
 #include <QPainterPath>
 #include <QString>
@@ -84,11 +85,15 @@ QString Sheet(const QWidget* widget, Color back, Color fore) {
   QString sheet = QString("%1 { background-color: %2; color: %3;").arg(self, Css(back), Css(ink));
   if (qobject_cast<const QAbstractItemView*>(widget) != nullptr) {
     sheet += QString(" alternate-background-color: %1; border: %2;").arg(Css(back), Border(back));
+  } else if (qobject_cast<const QCheckBox*>(widget) != nullptr) {
+    sheet += " border-radius: 3px; padding: 1px 4px;";
   } else if (widget->focusPolicy() != Qt::NoFocus) {
     sheet += QString(" border: %1; border-radius: 3px; padding: 1px 4px;").arg(Border(back));
   }
   sheet += QString(" } %1:disabled { color: %2; }").arg(self, Css(Mixed(ink, back)));
-  sheet += QString(" %1:focus { border: 2px solid palette(highlight); }").arg(self);
+  if (qobject_cast<const QCheckBox*>(widget) == nullptr) {
+    sheet += QString(" %1:focus { border: 2px solid palette(highlight); }").arg(self);
+  }
   return sheet;
 }
 

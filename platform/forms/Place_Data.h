@@ -16,6 +16,7 @@ enum class Place_Kind {
   Grid,
   Buttons,
   Group,
+  One_Place,
   Above_Below,
   Side_By_Side,
   Stretch,

@@ -53,11 +53,13 @@ class List_Item {
   int row_;
 };
 
-/// A column of the design. Its width counts characters; the column of the key is hidden.
+/// A column of the design. Its width counts characters; the column of the key is hidden; one of
+/// numbers stands at the right, with its header. It sorts as text like every other.
 struct List_Column {
   std::string text;
   int characters = 12;
   bool hidden = false;
+  bool number = false;
 };
 
 /// What ColumnClick tells: the header's place, counted from 1, and its text.

@@ -9,6 +9,15 @@
 
 namespace Forms {
 
+namespace {
+
+QVariant Alignment(const List_Column& column) {
+  if (!column.number) return {};
+  return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+}  // namespace
+
 int Row_Model::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : shown_; }
 
 int Row_Model::columnCount(const QModelIndex& parent) const {
@@ -17,6 +26,7 @@ int Row_Model::columnCount(const QModelIndex& parent) const {
 
 QVariant Row_Model::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || index.row() >= rows_.Shown()) return {};
+  if (role == Qt::TextAlignmentRole) return Alignment(Column_Of(index.column()));
   const int row = rows_.Row_At(index.row());
   if (role == Qt::DisplayRole) return To_Qt(rows_.Cell(row, index.column()));
   if (role == Qt::FontRole && rows_.Marks(row).bold) {
@@ -32,8 +42,9 @@ QVariant Row_Model::data(const QModelIndex& index, int role) const {
 }
 
 QVariant Row_Model::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-  return To_Qt(columns_[static_cast<std::size_t>(section)].text);
+  if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::TextAlignmentRole) return Alignment(Column_Of(section));
+  return role == Qt::DisplayRole ? QVariant(To_Qt(Column_Of(section).text)) : QVariant();
 }
 
 Qt::ItemFlags Row_Model::flags(const QModelIndex& index) const {

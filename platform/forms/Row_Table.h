@@ -28,6 +28,10 @@ class Row_Model : public QAbstractTableModel {
   void Show_Rows();
 
  private:
+  const List_Column& Column_Of(int section) const {
+    return columns_[static_cast<std::size_t>(section)];
+  }
+
   const List_Rows& rows_;
   const std::vector<List_Column>& columns_;
   int shown_ = 0;

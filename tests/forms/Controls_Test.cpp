@@ -30,11 +30,15 @@ class Controls_Form : public Forms::Form {
       box.Click = [&box] { log.push_back(box.Name() + " " + std::to_string(box.Value())); };
     });
     Region_Image.Click = [] { log.push_back("Image"); };
+    Message_Label.Set_Visible(false);
+    Message_Label.Click = [] { log.push_back("Message"); };
     Wine_Add.Click = [] { log.push_back("Add"); };
     Wine_Mod.Click = [] { Fail(Failure::Overflow); };
     Set_Content(Forms::Column(
         {Forms::Fields({{Name_Label, Name_Text}, {Notes_Label, Forms::Place(Notes_Text).High(3)}}),
-         Forms::Group(Wine_Taste_Frame, Forms::Grid(2, {Taste_Check[0], Taste_Check[1]})),
+         Forms::One_Place(
+             {Forms::Group(Wine_Taste_Frame, Forms::Grid(2, {Taste_Check[0], Taste_Check[1]})),
+              Forms::Place(Message_Label).Centred()}),
          Forms::Place(Region_Image).High(5)}));
   }
 
@@ -51,6 +55,7 @@ class Controls_Form : public Forms::Form {
   Forms::Text_Box Notes_Text{*this, "Notes_Text", Forms::Text_Box::Lines::Many};
   Forms::Frame Wine_Taste_Frame{*this, "Wine_Taste_Frame", "Taste"};
   Forms::Control_Array<Forms::Check_Box> Taste_Check{*this, "Taste_Check", 0, 1, "Fruity"};
+  Forms::Label Message_Label{*this, "Message_Label", "No taste is known"};
   Forms::Picture Region_Image{*this, "Region_Image"};
   Forms::List_Box Unseen_List{*this, "Unseen_List"};
 };
@@ -114,6 +119,29 @@ TEST_F(Controls_Test, A_check_box_clicks_on_each_change) {
   form.Taste_Check[1].Set_Visible(false);
   form.Wine_Taste_Frame.Set_Visible(true);
   EXPECT_TRUE(Is_Seen("Taste_Check_0") && !Is_Seen("Taste_Check_1") && !Is_Seen("Unseen_List"));
+}
+
+TEST_F(Controls_Test, Places_that_share_a_cell_take_turns_and_nothing_around_them_moves) {
+  const auto all_places = [] {
+    Settle_Events();
+    return std::vector<QRect>{Find("Notes_Text").geometry(), Find("Region_Image").geometry()};
+  };
+  const auto before = all_places();
+  const QRect cell = Find("Wine_Taste_Frame").geometry();
+  Taken();
+  Click("Taste_Check_0");
+  form.Wine_Taste_Frame.Set_Visible(false);
+  EXPECT_EQ(all_places(), before);
+  form.Message_Label.Set_Visible(true);
+  EXPECT_EQ(all_places(), before);
+  EXPECT_TRUE(cell.contains(Find("Message_Label").geometry()));
+  EXPECT_NEAR(Find("Message_Label").geometry().center().x(), cell.center().x(), 1);
+  form.Wine_Taste_Frame.Set_Visible(true);
+  Click("Message_Label");
+  form.Message_Label.Set_Visible(false);
+  Click("Taste_Check_1");
+  EXPECT_EQ(all_places(), before);
+  EXPECT_EQ(Taken(), Log({"Taste_Check_0 1", "Message", "Taste_Check_1 1"}));
 }
 
 TEST_F(Controls_Test, A_picture_is_scaled_into_its_place_never_beyond_its_size) {

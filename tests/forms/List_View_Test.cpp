@@ -1,6 +1,7 @@
 // The list view: its rows, its order, what the user's doings raise, and what code does not.
 #include <gtest/gtest.h>
 
+#include <QHeaderView>
 #include <QTreeView>
 #include <random>
 
@@ -45,6 +46,7 @@ class Regions_Form : public Forms::Form {
       item.Set_SubItems(1, row[1]);
       item.Set_SubItems(2, row[2]);
     }
+    List.ListItems(1).Set_SubItems(4, "12");
   }
 
   static inline Log log;
@@ -53,7 +55,11 @@ class Regions_Form : public Forms::Form {
   Forms::Text_Box Name_Text{*this, "Name_Text"};
   List_View List{*this,
                  "Regions_ListView",
-                 {{"Wine Region Name", 20}, {"Country"}, {"Region_ID", 4, true}, {"Notes"}}};
+                 {{"Wine Region Name", 20},
+                  {"Country"},
+                  {"Region_ID", 4, true},
+                  {.text = "Notes"},
+                  {.text = "Wines", .number = true}}};
 };
 
 class List_View_Test : public testing::Test {
@@ -80,7 +86,7 @@ class List_View_Test : public testing::Test {
 };
 
 TEST_F(List_View_Test, Rows_and_sub_items_are_counted_from_one) {
-  EXPECT_EQ(Shown_Rows("Regions_ListView")[0], "Rioja | Spain | 7 | ");
+  EXPECT_EQ(Shown_Rows("Regions_ListView")[0], "Rioja | Spain | 7 |  | 12");
   EXPECT_TRUE(dynamic_cast<QTreeView&>(Find("Regions_ListView")).isColumnHidden(2));
   List_Item last = list.ListItems(5);
   EXPECT_EQ(last.SubItems(2), "5");
@@ -90,7 +96,7 @@ TEST_F(List_View_Test, Rows_and_sub_items_are_counted_from_one) {
   EXPECT_FAILURE(35600, list.ListItems(0));
   EXPECT_FAILURE(35600, list.ListItems(6));
   EXPECT_FAILURE(35600, list.Remove(6));
-  EXPECT_FAILURE(380, last.SubItems(4));
+  EXPECT_FAILURE(380, last.SubItems(5));
   EXPECT_FAILURE(91, list.SelectedItem());
   last.Set_SubItems(1, "a longer text than there was");
   last.Set_SubItems(2, "");
@@ -107,6 +113,37 @@ TEST_F(List_View_Test, Rows_and_sub_items_are_counted_from_one) {
   EXPECT_EQ(Taken(), Log());
 }
 
+// Where what is written in `place` begins and ends, as parts of its width.
+std::pair<double, double> Ink(QWidget& widget, QRect place) {
+  const QImage image = widget.grab(place.adjusted(2, 2, -2, -2)).toImage();
+  int first = image.width();
+  int last = 0;
+  for (int x = 0; x < image.width(); ++x) {
+    for (int y = 0; y < image.height(); ++y) {
+      if (image.pixelColor(x, y).lightness() > 100) continue;
+      first = std::min(first, x);
+      last = std::max(last, x);
+    }
+  }
+  return {1.0 * first / image.width(), 1.0 * last / image.width()};
+}
+
+TEST_F(List_View_Test, Numbers_stand_at_the_right_with_their_header) {
+  auto& view = dynamic_cast<QTreeView&>(Find("Regions_ListView"));
+  QHeaderView& header = *view.header();
+  Settle_Events();
+  for (const int column : {1, 4}) {
+    view.scrollTo(view.model()->index(0, column));
+    const QRect cell = view.visualRect(view.model()->index(0, column));
+    const QRect title(header.sectionViewportPosition(column), 0, header.sectionSize(column),
+                      header.height());
+    for (const auto& [from, to] : {Ink(*view.viewport(), cell), Ink(*header.viewport(), title)}) {
+      EXPECT_TRUE(column == 4 ? from > 0.5 && to > 0.8 : from < 0.2 && to < 0.8)
+          << column << ": " << from << " to " << to;
+    }
+  }
+}
+
 TEST_F(List_View_Test, Sorts_without_regard_to_case_and_keeps_equal_rows_as_they_stood) {
   list.Set_Sorted(true);
   EXPECT_EQ(Names(), Log({"alsace", "Éclair", "Loire", "Rioja", "Zitsa"}));
@@ -117,8 +154,8 @@ TEST_F(List_View_Test, Sorts_without_regard_to_case_and_keeps_equal_rows_as_they
   list.Add("Dão").Set_SubItems(1, "Portugal");
   EXPECT_EQ(list.ListItems(2).Text(), "Dão");
   Settle_Events();
-  EXPECT_EQ(Shown_Rows("Regions_ListView")[1], "Dão | Portugal |  | ");
-  EXPECT_FAILURE(380, list.Set_SortKey(4));
+  EXPECT_EQ(Shown_Rows("Regions_ListView")[1], "Dão | Portugal |  |  | ");
+  EXPECT_FAILURE(380, list.Set_SortKey(5));
   EXPECT_FAILURE(380, list.Set_SortOrder(2));
   Click_Header("Regions_ListView", 1);
   EXPECT_EQ(Taken(), Log({"LostFocus", "2 Country"}));

@@ -1,25 +1,271 @@
-// What the screen shows and allows in each of its modes, from its opening to the pick and the
-// button.
+// What the screen shows and allows in each of its modes: from its opening over the choice or the
+// pick to the button, to other screens and back.
 #include <gmock/gmock.h>
 
+#include <functional>
+
+#include "core/Globals.h"
+#include "core/Varieties_Processes.h"
+#include "core/tables/Geography_Tables.h"
+#include "platform/forms/Forms.h"
+#include "platform/forms/Screens.h"
+#include "platform/run_time/Guard.h"
 #include "tests/cellar/Cellar_Program.h"
 
 namespace {
 
-using Modes = Cellar_Program;
+const Forms::Screen screen("Wine_Form");
+constexpr const char* button = "Multi_Functional_Command";
+const Text pick_first = "Please Select a Wine from the Cellar first";
 
-TEST_F(Modes, A_wine_filled_in_can_be_saved) {
-  const Long wine = Put_Wine(Sample_Wine());
-  Put_Mark(wine, "Taste", 2);
-  Start_With("Wine_Add");
-  EXPECT_EQ(Row_of(wine), 0);
+// Adds the name of a field, without its kind.
+void Add(Text& names, const Text& field) {
+  names += (names.empty() ? "" : " ") + field.substr(0, field.rfind('_'));
+}
+
+// The fields: those unlocked, or "all but" the others; those required; the colours of the grapes,
+// the pairings and the boxes. Any other field's colour says whether it is locked.
+Text Fields(const std::function<Text(const char*)>& color_of,
+            const std::function<bool(const char*)>& is_locked) {
+  Text locked, unlocked, required;
+  int open = 0;
+  for (const char* field :
+       {"Winery_Combo", "Label_Combo", "Region_Combo", "Country_Combo", "Vintage_Combo",
+        "Peak_Year_Combo", "Price_Text", "Merit_Combo", "Bottle_Size_Combo", "Total_Bottles_Text",
+        "Description_Text", "Color_Combo", "Alcohol_Text", "Classification_Combo", "Comments_Text",
+        "Last_Date_Uncorked_Text", "Date_Added_Text"}) {
+    Add(is_locked(field) ? locked : unlocked, field);
+    if (!is_locked(field)) ++open;
+    if (color_of(field) == "required") {
+      Add(required, field);
+    } else {
+      EXPECT_EQ(color_of(field), is_locked(field) ? "locked" : "open") << field;
+    }
+  }
+  return (open > 8 ? "all but " + locked : unlocked) + "; " + required + "; " +
+         color_of("Variety_Combo") + " " + color_of("Pairing_List") + " " +
+         color_of("Aroma_Check_7");
+}
+
+class Modes : public Cellar_Program {
+ protected:
+  // The button; the fields; a capital letter for each add button, a small one if it is disabled,
+  // "." if it is hidden; and the message that stands in place of the aroma boxes.
+  static Text Look() {
+    Text look = Shown_Text(button);
+    if (!Is_Seen(button)) look += " hidden";
+    if (!screen.Control(button).Enabled()) look += " disabled";
+    look += "; " + Fields(Color_of, Is_Locked) + "; ";
+    for (const char* name : {"Winery", "Label", "Classification", "Variety", "Pairings"}) {
+      const Text add = name + Text("_Add_Command");
+      const int letter = Is_Usable(add) ? *name : std::tolower(*name);
+      look += Is_Seen(add) ? static_cast<char>(letter) : '.';
+    }
+    EXPECT_NE(Is_Seen("Aroma_Frame"), Is_Seen("Message_Label"));
+    return look + "; " + (Is_Seen("Message_Label") ? Shown_Text("Message_Label") : "");
+  }
+
+  using Action = std::function<void()>;
+  static void Walk(const char* caption, const std::vector<std::pair<Action, Text>>& steps) {
+    int number = 0;
+    for (const auto& [act, look] : steps) {
+      act();
+      EXPECT_EQ(Look(), look) << caption << ", step " << ++number;
+      EXPECT_EQ(Shown_Text("Wine_Form"), caption);
+    }
+  }
+  static Action Entry(const char* entry) {
+    return [entry] { Pick(entry); };
+  }
+  static Action Wine(Long wine) {
+    return [wine] { Pick_Wine(wine); };
+  }
+  static void Press_Button() { Click(button); }
+  // As on the return from another window of the program.
+  static void Activate() {
+    Run_Guarded([] { screen.Show(); });
+    Settle_Events();
+  }
+
+  // Stands where another screen will stand.
+  void Stand_In(const Text& name) {
+    class Empty_Form : public Forms::Form {
+     public:
+      explicit Empty_Form(const Text& form) : Form(form, form) { Set_Content(Forms::Stretch()); }
+    };
+    Forms::Screens::Register(name, [name] { return std::make_unique<Empty_Form>(name); });
+    stand_ins_.push_back(name);
+  }
+  ~Modes() override {
+    for (const Text& name : stand_ins_) Forms::Screens::Register(name, nullptr);
+  }
+
+ private:
+  std::vector<Text> stand_ins_;
+};
+
+TEST_F(Modes, Adding) {
+  const Text no_country = "SAVE disabled; Country; Country; locked locked locked; W...p; ";
+  const Text no_winery = "SAVE disabled; Winery Country; Winery; locked locked locked; W...p; ";
+  const Text new_winery = "SAVE disabled; Winery; Winery; locked locked locked; W...p; ";
+  const Text chosen =
+      "SAVE disabled; all but Region; Label Vintage Bottle_Size Total_Bottles Color "
+      "Classification; "
+      "required open check; wLCVP; ";
+  const Text filled = "SAVE; all but Region; Vintage; open open check; wlcvP; ";
+  Put_Wine(Sample_Wine());
+  Start();
   Box_Script boxes;
-  Fill_Add();
-  EXPECT_TRUE(Is_Usable("Multi_Functional_Command"));
-  Click("Multi_Functional_Command");
-  EXPECT_THAT(boxes.Texts(),
-              testing::ElementsAre("This Wine was successfully ADDED to your Wine Cellar."));
-  EXPECT_EQ(Stored("SELECT Wine_ID FROM Wines", 1).size(), 2U);
+  Walk("Add New Wine to the Cellar",
+       {{Entry("Wine_Add"), no_country},
+        {[] { Click_Row("Wine_Cellar_ListView", 0); }, no_country},
+        {[this] { Choose("Country_Combo", Sample().country_name); }, no_winery},
+        {[this] { Choose("Winery_Combo", Sample().name); }, chosen},
+        {[] { Choose("Winery_Combo", "New Winery"); }, new_winery},
+        {[this] { Choose("Winery_Combo", Sample(1).name); }, chosen},
+        {[this] { Fill_Add(); }, filled},
+        {Activate, filled},
+        {Press_Button, no_country},
+        {[this] { Fill_Add({}, 1); }, filled},
+        {Press_Button, no_country}});
+  EXPECT_FALSE(screen.Get<Forms::List_View>("Wine_Cellar_ListView").Has_Selection());
+  EXPECT_EQ(boxes.Boxes().size(), 2U);
+}
+
+TEST_F(Modes, Modifying) {
+  const Text nothing = "SAVE hidden disabled; ; ; locked locked locked; ";
+  const Text picked = "MODIFY; all but Winery Region Country; ; open open check; ";
+  const Long wines[] = {Put_Wine(Sample_Wine()), Put_Wine(Sample_Wine())};
+  Start();
+  Box_Script boxes;
+  Walk("MODIFY Wine Information", {{Entry("Wine_Mod"), nothing + "wlcvP; " + pick_first},
+                                   {Activate, nothing + "wlcvP; " + pick_first},
+                                   {Wine(wines[1]), picked + ".lcvP; "},
+                                   {Activate, picked + ".lcvP; "},
+                                   {Press_Button, nothing + "....P; " + pick_first},
+                                   {Activate, nothing + "....P; " + pick_first},
+                                   {Wine(wines[0]), picked + "....P; "},
+                                   {Wine(wines[1]), picked + "....P; "}});
+  EXPECT_EQ(Shown_Text("Pairings_Add_Command"), "Modify Pairing");
+  EXPECT_EQ(boxes.Texts(), std::vector<Text>{"Wine information was Modified."});
+}
+
+TEST_F(Modes, Looking) {
+  const Text look = "SAVE hidden disabled; ; ; locked locked locked; .....; ";
+  const char* caption = "Display of Current Cellar";
+  const Long wines[] = {Put_Wine(Sample_Wine()), Put_Wine(Sample_Wine(1))};
+  Start();
+  Walk(caption, {{Entry("Cellar1_View"), look}, {Wine(wines[0]), look}, {Activate, look}});
+  Stand_In("Wineries_Form");
+  Double_Click("Winery_Combo");
+  EXPECT_EQ(Current_Command, "WineryList");
+  screen.Unload();
+  Forms::Screen("Wineries_Form").Unload();
+
+  Stand_In("Cheeses_Form");
+  Requested_Wine_Text = std::to_string(wines[1]);
+  Walk(caption, {{[] { Open_Under("CheeseParingsCellar"); }, look}});
+  EXPECT_EQ(Shown_Text("Winery_Combo"), Sample(1).name);
+  Click("Exit_Command");
+  EXPECT_TRUE(Is_Seen("Cheeses_Form"));
+  EXPECT_TRUE(screen.Is_Loaded());
+}
+
+// A real message box: closing it is no return to the screen, which would close the button.
+TEST_F(Modes, Uncorking) {
+  const Text rest = "; ; ; locked locked locked; .....; ";
+  const Text empty = "UNCORK disabled; ; Total_Bottles; locked locked locked; .....; ";
+  Wines_Record none_left = Sample_Wine();
+  none_left.Total_Bottles = 0;
+  const Long wines[] = {Put_Wine(Sample_Wine()), Put_Wine(none_left), Put_Wine(Sample_Wine())};
+  Start();
+  const auto uncork = [] {
+    Press_In_Next_Box("Return");
+    Press_Button();
+  };
+  Walk("Select Wine to Uncork", {{Entry("Wine_Uncork"), "SAVE hidden disabled" + rest + pick_first},
+                                 {Wine(wines[0]), "UNCORK" + rest},
+                                 {uncork, "UNCORK" + rest},
+                                 {uncork, "UNCORK" + rest},
+                                 {uncork, empty},
+                                 {Wine(wines[1]), empty},
+                                 {Wine(wines[2]), "UNCORK" + rest},
+                                 {Activate, "UNCORK disabled" + rest}});
+}
+
+TEST_F(Modes, Removing) {
+  const Text rest = "; ; ; locked locked locked; wlcv.; ";
+  const char* caption = "Select Wine Delete";
+  const Long wine = Put_Wine(Sample_Wine());
+  Start();
+  Box_Script boxes({false, true});
+  Walk(caption, {{Entry("Wine_Del"),
+                  "SAVE disabled" + rest + "Please Select the Wine to REMOVE from the Cellar"}});
+  for (const char* list : {"Winery_Combo", "Country_Combo", "Vintage_Combo", "Variety_Combo"}) {
+    EXPECT_TRUE(Shown_Rows(list).empty()) << list;
+  }
+  Walk(caption, {{Wine(wine), "REMOVE" + rest},
+                 {Press_Button, "REMOVE" + rest},
+                 {Activate, "REMOVE disabled" + rest},
+                 {Wine(wine), "REMOVE" + rest}});
+  Press_Button();
+  EXPECT_FALSE(screen.Is_Loaded());
+  EXPECT_TRUE(Is_Seen("Wine_Cellar_Form"));
+}
+
+TEST_F(Modes, An_unknown_command_shows_the_design) {
+  Start();
+  Open_Under("Nothing");
+  EXPECT_EQ(Shown_Text("Wine_Form"), "Wine Information");
+  EXPECT_FALSE(Is_Usable(button));
+  Click("Exit_Command");
+  EXPECT_FALSE(screen.Is_Loaded());
+  EXPECT_TRUE(Is_Seen("Wine_Cellar_Form"));
+}
+
+TEST_F(Modes, A_new_winery_and_a_new_label_are_chosen_on_the_return) {
+  for (const char* name : {"Wineries_Form", "Label_Form"}) Stand_In(name);
+  Start_With("Wine_Add");
+  Click("Winery_Add_Command");
+  EXPECT_TRUE(Is_Seen("Wineries_Form"));
+  EXPECT_FALSE(screen.Is_Loaded());
+  Wineries.Winery_ID = Sample(1).id;  // what its screen leaves behind
+  screen.Set_Tag("1");
+  Activate();
+  EXPECT_EQ(Shown_Text("Winery_Combo"), Sample(1).name);
+  EXPECT_EQ(Shown_Text("Region_Combo"), Sample(1).region);
+  Type_Into("Comments_Text", "typed before");
+  Click("Label_Add_Command");
+  EXPECT_TRUE(Is_Seen("Label_Form"));
+  EXPECT_FALSE(Is_Seen("Wine_Form"));
+  Current_Command = "LabelAdd";
+  screen.Set_Tag("1");
+  Activate();
+  EXPECT_EQ(Current_Command, "WineAdd");
+  EXPECT_EQ(Shown_Text("Winery_Combo"), Sample(1).name);
+  EXPECT_EQ(Shown_Text("Comments_Text"), "typed before");
+  EXPECT_EQ(screen.Tag(), "0");
+}
+
+TEST_F(Modes, Chosen_pairings_are_taken_over_once) {
+  Start();
+  Selected_Count = 2;
+  for (const int pairing : {1, 2}) {
+    Selected_Names[pairing] = "food " + std::to_string(pairing);
+    Selected_IDs[pairing] = std::to_string(40 + pairing);
+  }
+  // Under WineMod the old keys stay ahead of the new ones.
+  for (const auto& [entry, keys] : {std::pair{"Wine_Add", 2U}, {"Wine_Mod", 4U}}) {
+    Pick(entry);
+    for (int visit = 0; visit < 2; ++visit) {
+      screen.Control("Pairings_Add_Command").Set_Tag("1");
+      Activate();
+      EXPECT_EQ(Shown_Rows("Pairing_List"), (std::vector<Text>{"food 1", "food 2"}));
+      EXPECT_EQ(Tag_of("Pairings_Add_Command"), "0");
+    }
+    EXPECT_EQ(Shown_Rows("Pairing_Index_List").size(), keys) << entry;
+    Click("Exit_Command");
+  }
 }
 
 }  // namespace

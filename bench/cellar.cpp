@@ -1,0 +1,272 @@
+// The screen of the cellar under load, beside the bare engine and the bare toolkit in the same run:
+// 30,000 wines of 3,000 wineries.
+//
+//   cellar             makes the cellar in a folder of its own, and measures
+//   cellar PART...     opening, picks, sorting, memory: only these
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QLabel>
+#include <array>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <set>
+
+#include "bench/Bare_Cellar.h"
+#include "bench/Cellar_Program.h"
+#include "bench/Large_Cellar.h"
+#include "core/Globals.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int rounds = 9;
+constexpr int picks = 50;
+constexpr const char* password = "vinebox31";
+const int wines = Cellar_Size{}.wines;
+
+const char* Met(bool met) { return met ? "ok" : "MISSED"; }
+
+// ---- from the choice of the menu entry to the painted list ----
+
+class Opening {
+ public:
+  explicit Opening(const std::string& file) : file_(file) {}
+
+  void Run(bool cold) {
+    std::vector<double> items;
+    std::vector<double> texts;
+    std::vector<double> ours;
+    for (int round = 0; round <= rounds; ++round) {
+      items.push_back(Bare(Bare_Cellar::Model::Items, cold));
+      texts.push_back(Bare(Bare_Cellar::Model::Texts, cold));
+      ours.push_back(Ours("Cellar_View", cold));
+    }
+    if (!cold) Drop_First({&items, &texts, &ours});
+    const double ratio = Median(ours) / Median(items);
+    std::printf("%-38s bare items %6.1f ms, bare texts %6.1f ms, ours %6.1f ms\n",
+                cold ? "to the painted list, file just opened" : "to the painted list, again",
+                Median(items), Median(texts), Median(ours));
+    std::printf("%-38s to items %.2f (at most 1.40) %s; to texts %.2f\n", "  ratio", ratio,
+                Met(ratio <= 1.4), Median(ours) / Median(texts));
+  }
+
+  static void Run_Modes() {
+    for (const char* entry : {"Wine_Add", "Wine_Mod", "Wine_Uncork", "Wine_Del"}) {
+      std::vector<double> times;
+      for (int round = 0; round < 5; ++round) times.push_back(Ours(entry, false));
+      std::printf("to the painted list by %-15s %6.1f ms\n", entry, Median(times));
+    }
+  }
+
+ private:
+  static void Drop_First(std::initializer_list<std::vector<double>*> lists) {
+    for (auto* list : lists) list->erase(list->begin());
+  }
+
+  double Bare(Bare_Cellar::Model kind, bool cold) {
+    if (cold || !engine_) {
+      engine_.emplace(file_, password);
+      engine_->Execute("PRAGMA cache_size=-65536; SELECT count(*) FROM Cellars");
+    }
+    std::optional<Bare_Cellar::Screen> screen;
+    const double time = Until_Painted(Bare_Cellar::list_name, wines,
+                                      [&] { screen.emplace(kind, *engine_, Current_Cellar_ID); });
+    screen.reset();
+    Settle_Events();
+    return time;
+  }
+
+  static double Ours(const char* entry, bool cold) {
+    if (cold) Cellar_Program::Open_File_Anew();
+    const double time = Until_Painted(Cellar_Program::list_name, wines,
+                                      [&] { Cellar_Program::Choose_Entry(entry); });
+    Settle_Events();
+    Cellar_Program::Leave_Screen();
+    return time;
+  }
+
+  std::string file_;
+  std::optional<Bare_Engine> engine_;
+};
+
+// ---- clicks on wines and on headers ----
+
+// The next row from here on whose wine has a label: one without cannot be modified.
+QModelIndex Labelled(const QTreeView& list, int row) {
+  constexpr int label_column = 2;
+  while (list.model()->index(row, label_column).data().toString().isEmpty()) ++row;
+  return list.model()->index(row, 0);
+}
+
+void Measure_Picks(const char* entry) {
+  Cellar_Program::Choose_Entry(entry);
+  Settle_Events();
+  QTreeView& list = Cellar_Program::Shown_List();
+  std::vector<double> times;
+  for (int i = 0; i < picks; ++i) {
+    const QModelIndex wine = Labelled(list, i * (wines / picks) + i);
+    list.scrollTo(wine);
+    Settle_Events();
+    const QPoint place = list.visualRect(wine).center();
+    times.push_back(Until_Painted(Cellar_Program::list_name, wines,
+                                  [&] { Click_At(*list.viewport(), place); }));
+    Settle_Events();
+  }
+  const double worst = std::ranges::max(times);
+  std::printf(
+      "a click on a wine under %-14s median %6.1f ms, worst of %d %6.1f ms (below 100) %s\n", entry,
+      Median(times), picks, worst, Met(worst < 100));
+  Cellar_Program::Leave_Screen();
+}
+
+void Measure_Sorting() {
+  Cellar_Program::Choose_Entry("Cellar_View");
+  Settle_Events();
+  QTreeView& list = Cellar_Program::Shown_List();
+  for (int column = 0; column < list.model()->columnCount(); ++column) {
+    std::array<double, 2> times{};
+    for (double& time : times) {
+      time = Until_Painted(Cellar_Program::list_name, wines, [&] { Click_Header(list, column); });
+      Settle_Events();
+    }
+    const std::string header =
+        list.model()->headerData(column, Qt::Horizontal).toString().toStdString();
+    std::printf("a click on the header %-16s %6.1f ms, once more %6.1f ms (below 100) %s\n",
+                header.c_str(), times[0], times[1], Met(std::ranges::max(times) < 100));
+  }
+  Cellar_Program::Leave_Screen();
+}
+
+// ---- memory, and from the start of the process: each side in a process of its own ----
+
+struct Start_Cost {
+  double milliseconds = 0;  ///< from the start of the process to the painted list
+  double before = 0;        ///< megabytes, each of these: resident before the list is opened
+  double after = 0;
+  double most = 0;
+  double heap = 0;  ///< what the list took on the heap
+};
+
+std::int64_t Nanoseconds_Now() {
+  return std::chrono::steady_clock::now().time_since_epoch().count();
+}
+
+int Say_Cost(std::int64_t started, const char* list, const std::function<void()>& open) {
+  const double before = Megabytes("VmRSS");
+  const double heap = Heap_Megabytes();
+  Until_Painted(list, wines, open);
+  std::printf("%f %f %f %f %f\n", static_cast<double>(Nanoseconds_Now() - started) / 1e6, before,
+              Megabytes("VmRSS"), Megabytes("VmHWM"), Heap_Megabytes() - heap);
+  std::fflush(stdout);
+  std::_Exit(0);
+}
+
+int Run_Ours(const std::string& folder, std::int64_t started) {
+  Cellar_Program::Start(folder);
+  return Say_Cost(started, Cellar_Program::list_name,
+                  [] { Cellar_Program::Choose_Entry("Cellar_View"); });
+}
+
+int Run_Bare(const std::string& folder, std::int64_t started, Bare_Cellar::Model kind) {
+  QLabel window("Wine Cellar");
+  window.resize(1000, 640);
+  window.show();
+  const Bare_Engine engine(folder + "/dbase/Wine_Cellar.mdb", password);
+  engine.Execute("PRAGMA cache_size=-65536; SELECT count(*) FROM Cellars");
+  Settle_Events();
+  std::optional<Bare_Cellar::Screen> screen;
+  return Say_Cost(started, Bare_Cellar::list_name, [&] { screen.emplace(kind, engine, 1); });
+}
+
+Start_Cost Started(const char* self, const char* side, const std::string& folder) {
+  std::array<int, 2> ends{};
+  if (pipe(ends.data()) != 0) return {};
+  const std::string now = std::to_string(Nanoseconds_Now());
+  const pid_t child = fork();
+  if (child == 0) {
+    dup2(ends[1], STDOUT_FILENO);
+    execl(self, self, "--start", side, folder.c_str(), now.c_str(), nullptr);
+    _exit(1);
+  }
+  close(ends[1]);
+  FILE* said = fdopen(ends[0], "r");
+  Start_Cost cost;
+  if (std::fscanf(said, "%lf %lf %lf %lf %lf", &cost.milliseconds, &cost.before, &cost.after,
+                  &cost.most, &cost.heap) != 5) {
+    std::fprintf(stderr, "%s: no answer\n", side);
+  }
+  std::fclose(said);
+  waitpid(child, nullptr, 0);
+  return cost;
+}
+
+void Measure_Start(const char* self, const std::string& folder) {
+  constexpr std::array sides{"ours", "items", "texts"};
+  std::array<std::vector<Start_Cost>, sides.size()> costs;
+  for (int round = 0; round < rounds; ++round) {
+    for (std::size_t side = 0; side < sides.size(); ++side) {
+      costs[side].push_back(Started(self, sides[side], folder));
+    }
+  }
+  const auto median = [](const std::vector<Start_Cost>& list, double Start_Cost::*part) {
+    std::vector<double> values;
+    for (const Start_Cost& cost : list) values.push_back(cost.*part);
+    return Median(values);
+  };
+  for (std::size_t side = 0; side < sides.size(); ++side) {
+    const auto& list = costs[side];
+    const double time = median(list, &Start_Cost::milliseconds);
+    const double most = median(list, &Start_Cost::most);
+    std::printf(
+        "%-5s start to painted list %6.1f ms; resident %5.1f MB before it, %5.1f MB after, "
+        "%5.1f MB at most; heap of the list %5.1f MB",
+        sides[side], time, median(list, &Start_Cost::before), median(list, &Start_Cost::after),
+        most, median(list, &Start_Cost::heap));
+    std::printf(side == 0 ? " (600 ms %s, 120 MB %s)\n" : "\n", Met(time <= 600), Met(most <= 120));
+  }
+}
+
+int Run_Side(const std::string& side, const std::string& folder, std::int64_t started) {
+  if (side == "ours") return Run_Ours(folder, started);
+  return Run_Bare(folder, started,
+                  side == "items" ? Bare_Cellar::Model::Items : Bare_Cellar::Model::Texts);
+}
+
+void Measure(const std::set<std::string>& parts, const char* self, const std::string& folder) {
+  const auto wanted = [&](const char* part) { return parts.empty() || parts.contains(part); };
+  Cellar_Program::Start(folder);
+  if (wanted("opening")) {
+    Opening opening(folder + "/dbase/Wine_Cellar.mdb");
+    opening.Run(true);
+    opening.Run(false);
+    Opening::Run_Modes();
+  }
+  if (wanted("picks")) {
+    for (const char* entry : {"Cellar_View", "Wine_Mod", "Wine_Uncork", "Wine_Del"}) {
+      Measure_Picks(entry);
+    }
+  }
+  if (wanted("sorting")) Measure_Sorting();
+  if (wanted("memory")) Measure_Start(self, folder);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  // What the offscreen platform cannot do is told at every window.
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+  const std::vector<std::string> words(argv + 1, argv + argc);
+  const Forms::Application application(argc, argv);
+  if (words.size() == 4 && words[0] == "--start") {
+    return Run_Side(words[1], words[2], std::stoll(words[3]));
+  }
+  const fs::path folder = fs::temp_directory_path() / ("cellar_bench_" + std::to_string(getpid()));
+  Make_Large_Cellar(folder);
+  Measure({words.begin(), words.end()}, argv[0], folder);
+  Wine_Cellar_DB.reset();
+  fs::remove_all(folder);
+}

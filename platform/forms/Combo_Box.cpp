@@ -30,6 +30,8 @@ class Combo_Widget : public QComboBox {
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     // Without it the toolkit would choose the first entry by itself.
     setPlaceholderText(" ");
+    // The list behind the box measures its entries at each change of look, shown or not.
+    if (auto* list = qobject_cast<QListView*>(view())) list->setUniformItemSizes(true);
   }
 
   // The toolkit asks every entry for its icon to know the box's size.
@@ -44,7 +46,6 @@ class Combo_Widget : public QComboBox {
 
   void showPopup() override {
     if (combo_.Locked() || count() == 0) return;
-    if (auto* list = qobject_cast<QListView*>(view())) list->setUniformItemSizes(true);
     view()->window()->installEventFilter(this);
     QComboBox::showPopup();
   }

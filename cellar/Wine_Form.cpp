@@ -25,10 +25,10 @@ Wine_Form::Wine_Form()
                             {"Wine Region", 20},
                             {"Grape Variety", 38},
                             {"Color", 10},
-                            {"Merit", 7},
-                            {"Peak", 7},
-                            {"Stock", 7},
-                            {"ID", 8}}) {
+                            {"Merit", 7, false, true},
+                            {"Peak", 7, false, true},
+                            {"Stock", 7, false, true},
+                            {"ID", 8, false, true}}) {
   for (Forms::Placed_Control* field : Gate_Fields()) field->Set_Tag("0");
   for (Forms::Control* field : {static_cast<Forms::Control*>(&Country_Combo),
                                 static_cast<Forms::Control*>(&Region_Combo)}) {

@@ -123,6 +123,8 @@ class List_View : public Placed_Control {
 
   /// The user picked a row, by mouse (the selected one too), Enter, Space or the arrow keys.
   std::function<void(List_Item item)> ItemClick;
+  /// The user clicked a header, or chose it in the menu of the columns, which opens by the right
+  /// button, the menu key and Shift+F10 where this is set.
   std::function<void(const Column_Header& header)> ColumnClick;
 
   // ---- for this room and the tests ----

@@ -6,8 +6,12 @@ namespace Forms {
 
 namespace {
 
+// Marks that several scripts share, such as the one that lengthens a Japanese vowel, count as
+// letters too; so do the raised ones of abbreviations.
 bool Can_Be_Typed(QChar letter) {
-  return letter.isLetterOrNumber() && letter.script() <= QChar::Script_Latin;
+  if (letter >= u'0' && letter <= u'9') return true;
+  const bool latin = letter.script() == QChar::Script_Latin && letter < QChar(0x250);
+  return latin && (letter.isLower() || letter.isUpper());
 }
 
 bool Begins_A_Word(const QString& text, qsizetype place) {

@@ -1,11 +1,13 @@
 #include "platform/forms/Row_Table.h"
 
+#include <QContextMenuEvent>
 #include <QFont>
 #include <QHeaderView>
 #include <QKeyEvent>
 
 #include "platform/forms/List_Rows.h"
 #include "platform/forms/Qt_Text.h"
+#include "platform/forms/Sort_Menu.h"
 
 namespace Forms {
 
@@ -82,6 +84,9 @@ Row_View::Row_View(QWidget* parent, List_View& list, Row_Model& model)
   header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   connect(header(), &QHeaderView::sectionClicked,
           [this](int section) { list_.Header_Clicked(section + 1); });
+  header()->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(header(), &QHeaderView::customContextMenuRequested,
+          [this](QPoint place) { Offer_Columns(header()->viewport()->mapToGlobal(place)); });
 }
 
 void Row_View::Show_Columns(const std::vector<List_Column>& columns) {
@@ -125,10 +130,12 @@ QItemSelectionModel::SelectionFlags Row_View::selectionCommand(const QModelIndex
   return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
 }
 
+// The other buttons choose no row: nobody would be told of it.
 void Row_View::mousePressEvent(QMouseEvent* event) {
+  pressed_ = -1;
+  if (event->button() != Qt::LeftButton) return;
   QTreeView::mousePressEvent(event);
-  const bool left = event->button() == Qt::LeftButton;
-  pressed_ = left ? indexAt(event->position().toPoint()).row() : -1;
+  pressed_ = indexAt(event->position().toPoint()).row();
 }
 
 void Row_View::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
@@ -144,8 +151,34 @@ void Row_View::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && place >= 0) list_.Picked(place, false);
 }
 
+void Row_View::contextMenuEvent(QContextMenuEvent* event) {
+  if (event->reason() == QContextMenuEvent::Mouse) {
+    Offer_Columns(event->globalPos());
+  } else {
+    Offer_Columns(Below_Header());
+  }
+}
+
+QPoint Row_View::Below_Header() const {
+  return header()->mapToGlobal(header()->rect().bottomLeft());
+}
+
+void Row_View::Offer_Columns(QPoint place) {
+  if (list_.ColumnClick) Open_Sort_Menu(*this, list_, place);
+}
+
+// Some desktops ask for the menu themselves at these keys; the key then goes to the open menu.
+bool Row_View::Is_Menu_Key(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Menu ||
+         (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
+}
+
 void Row_View::keyPressEvent(QKeyEvent* event) {
   const int key = event->key();
+  if (Is_Menu_Key(*event)) {
+    Offer_Columns(Below_Header());
+    return;
+  }
   if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
     Pick_By_Key();
     return;

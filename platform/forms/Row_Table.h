@@ -57,8 +57,12 @@ class Row_View : public QTreeView {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
+  static bool Is_Menu_Key(const QKeyEvent& event);
+  QPoint Below_Header() const;
+  void Offer_Columns(QPoint place);
   void Pick_By_Key();
   bool Takes_Several() const { return selectionMode() == ExtendedSelection; }
 

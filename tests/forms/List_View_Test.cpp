@@ -1,7 +1,9 @@
 // The list view: its rows, its order, what the user's doings raise, and what code does not.
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QHeaderView>
+#include <QTest>
 #include <QTreeView>
 #include <random>
 
@@ -249,6 +251,48 @@ TEST_F(List_View_Test, Browsing_goes_on_though_the_handler_moves_the_focus_or_de
   Press("Up");
   EXPECT_EQ(Taken(), Log({"Éclair", "alsace"}));
   EXPECT_FALSE(list.Has_Selection());
+}
+
+TEST_F(List_View_Test, A_menu_of_the_columns_is_a_click_on_a_header) {
+  const auto entries = [] {
+    Log texts;
+    const QWidget* menu = QApplication::activePopupWidget();
+    if (menu == nullptr) return texts;
+    EXPECT_EQ(menu->accessibleName(), Find("Regions_ListView").accessibleName());
+    for (const QAction* entry : menu->actions()) {
+      texts.push_back((entry->isChecked() ? "* " : "") + entry->text().toStdString());
+    }
+    return texts;
+  };
+  const Log columns{"&Wine Region Name", "&Country", "&Notes", "W&ines"};
+  Click_Row("Regions_ListView", 0);
+  Taken();
+  for (const char* key : {"Shift+F10", "Menu"}) {
+    Press(key);
+    EXPECT_EQ(entries(), columns) << key;
+    Press("Down");
+    Press("Return");
+    Press(key);
+    Press("N");
+    Press(key);
+    Press("Esc");
+    EXPECT_EQ(Taken(), Log({"2 Country", "4 Notes"}));
+    EXPECT_EQ(Focused(), "Regions_ListView");
+  }
+  list.Set_SortKey(1);
+  list.Set_Sorted(true);
+  const auto& view = dynamic_cast<QTreeView&>(Find("Regions_ListView"));
+  for (QWidget* place : {view.viewport(), view.header()->viewport()}) {
+    QTest::mouseClick(place->window()->windowHandle(), Qt::RightButton, {},
+                      place->mapTo(place->window(), place->rect().center()));
+    EXPECT_EQ(entries(), Log({columns[0], "* " + columns[1], columns[2], columns[3]}));
+    Press("Return");
+    EXPECT_EQ(Taken(), Log({"1 Wine Region Name"}));
+  }
+  EXPECT_EQ(list.SelectedItem().Text(), "Rioja");
+  list.ColumnClick = {};
+  Press("Menu");
+  EXPECT_EQ(entries(), Log());
 }
 
 TEST_F(List_View_Test, Ctrl_selects_several_rows_where_the_screen_asks_for_it) {

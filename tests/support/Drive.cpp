@@ -78,6 +78,14 @@ void Click_At(QWidget& widget, QPoint place, Qt::KeyboardModifiers keys = Qt::No
   Settle_Events();
 }
 
+// The offscreen desktop gives the keys to no window when Esc closes a menu.
+QWindow* Window_With_Keys() {
+  if (const QWidget* popup = QApplication::activePopupWidget()) return popup->windowHandle();
+  if (QWindow* window = QApplication::focusWindow()) return window;
+  const QWidget* active = QApplication::activeWindow();
+  return active == nullptr ? nullptr : active->windowHandle();
+}
+
 QAbstractItemView& Find_List(std::string_view name) {
   auto* view = dynamic_cast<QAbstractItemView*>(&Find(name));
   if (view == nullptr) No_Such(name);
@@ -247,8 +255,7 @@ void Type(std::string_view text) {
 
 void Press(std::string_view key) {
   const QKeyCombination keys = QKeySequence(To_Qt(key))[0];
-  QWindow* window = QApplication::focusWindow();
-  if (QWidget* popup = QApplication::activePopupWidget()) window = popup->windowHandle();
+  QWindow* window = Window_With_Keys();
   if (window == nullptr) return;
   QTest::keyClick(window, keys.key(), keys.keyboardModifiers());
   Settle_Events();

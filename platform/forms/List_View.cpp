@@ -116,7 +116,8 @@ void List_View::Clear() {
   show_->selected.clear();
   show_->current = -1;
   show_->to_the_top = true;
-  Changed(true);
+  order_is_old_ = false;
+  Changed(false);
 }
 
 void List_View::Remove(int index) {
@@ -171,7 +172,9 @@ bool List_View::Is_Found(int row, std::string_view text, Where where, Match matc
   return false;
 }
 
+// Rows that are sorted no more stay in the order that they had.
 void List_View::Set_Sorted(bool sorted) {
+  Sort_If_Needed();
   sorted_ = sorted;
   Changed(true);
 }

@@ -218,6 +218,17 @@ bool Cellar_Program::Is_Ticked(const Text& check_box) {
   return screen.Get<Forms::Check_Box>(check_box).Value() == 1;
 }
 
+std::vector<Text> Cellar_Program::Ticked_Boxes() {
+  std::vector<Text> ticked;
+  for (const auto& [kind, last] : {std::pair{"Taste_Check_", 5}, {"Aroma_Check_", 7}}) {
+    for (int box = 0; box <= last; ++box) {
+      const Text name = kind + std::to_string(box);
+      if (Is_Ticked(name)) ticked.push_back(name);
+    }
+  }
+  return ticked;
+}
+
 std::vector<Text> Cellar_Program::Ticked_Varieties() {
   const Forms::Check_List& list = screen.Get<Forms::Check_List>("Variety_Combo");
   std::vector<Text> ticked;

@@ -72,6 +72,8 @@ class Cellar_Program : public Program_Folder {
   static Text Color_of(const char* control);
   static bool Is_Locked(const char* control);
   static bool Is_Ticked(const Text& check_box);
+  /// The names of the ticked boxes of taste and aroma.
+  static std::vector<Text> Ticked_Boxes();
   /// The ticked entries of the list of grapes.
   static std::vector<Text> Ticked_Varieties();
 

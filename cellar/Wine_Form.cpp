@@ -47,9 +47,9 @@ void Wine_Form::Set_Up_Handlers() {
   Let(Classification_Combo.Click, &Wine_Form::Classification_Combo_Click);
   Let(Color_Combo.Click, &Wine_Form::Color_Combo_Click);
   Let(Bottle_Size_Combo.Click, &Wine_Form::Bottle_Size_Combo_Click);
-  Let(Total_Bottles_Text.LostFocus, &Wine_Form::Total_Bottles_Text_LostFocus);
-  Let(Alcohol_Text.LostFocus, &Wine_Form::Alcohol_Text_LostFocus);
-  Let(Price_Text.LostFocus, &Wine_Form::Price_Text_LostFocus);
+  Let(Total_Bottles_Text, &Wine_Form::Total_Bottles_Text_LostFocus);
+  Let(Alcohol_Text, &Wine_Form::Alcohol_Text_LostFocus);
+  Let(Price_Text, &Wine_Form::Price_Text_LostFocus);
   Vintage_Combo.Click = [this] { Vintage_Combo_Click(); };
   Variety_Combo.ItemCheck = [this](int item) { Variety_Combo_ItemCheck(item); };
   for (Forms::Text_Box* date : {&Date_Added_Text, &Last_Date_Uncorked_Text}) {

@@ -103,6 +103,7 @@ class Wine_Form : public Forms::Form {
 
   // ---- what a choice or a value brings about ----
   void Let(std::function<void()>& event, void (Wine_Form::*handler)());
+  void Let(Forms::Text_Box& field, void (Wine_Form::*handler)());
   void Country_Combo_Click();
   void Winery_Combo_Click();
   void Winery_Chosen();

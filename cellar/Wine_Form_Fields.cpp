@@ -17,7 +17,7 @@ using Forms::Window_Color;
 namespace {
 
 constexpr double highest_number_of_bottles = std::numeric_limits<Integer>::max();
-constexpr double highest_alcohol = std::numeric_limits<Single>::max();
+constexpr double highest_alcohol = 3.4028235e38;  // the highest Single, as it is written
 constexpr double highest_price = 922337203685477;
 constexpr int oldest_accepted_date = 20;  // calendar years back
 
@@ -66,6 +66,15 @@ void Wine_Form::Let(std::function<void()>& event, void (Wine_Form::*handler)()) 
     const Ignoring_Events ignoring;
     (this->*handler)();
     Should_Multi_Command_Be_Enabled();
+  };
+}
+
+// A locked field that was only looked at tests nothing and leaves the button as it is.
+void Wine_Form::Let(Forms::Text_Box& field, void (Wine_Form::*handler)()) {
+  std::function<void()> left;
+  Let(left, handler);
+  field.LostFocus = [&field, left] {
+    if (!field.Locked()) left();
   };
 }
 
@@ -192,7 +201,6 @@ void Wine_Form::Vintage_Combo_Click() {
 }
 
 void Wine_Form::Total_Bottles_Text_LostFocus() {
-  if (Total_Bottles_Text.Locked()) return;
   const Text& text = Total_Bottles_Text.Text();
   if (text.empty() ||
       Is_Refused(Total_Bottles_Text,
@@ -206,14 +214,14 @@ void Wine_Form::Total_Bottles_Text_LostFocus() {
 
 void Wine_Form::Alcohol_Text_LostFocus() {
   const Text& text = Alcohol_Text.Text();
-  if (Alcohol_Text.Locked() || text.empty()) return;
+  if (text.empty()) return;
   Is_Refused(Alcohol_Text, Number_Fault("Alcohol", text, highest_alcohol), illegal_number);
 }
 
 // A lone blank counts as empty here, as it does not in the field for alcohol.
 void Wine_Form::Price_Text_LostFocus() {
   const Text& text = Price_Text.Text();
-  if (Price_Text.Locked() || Trim(text).empty()) return;
+  if (Trim(text).empty()) return;
   Is_Refused(Price_Text, Number_Fault("Price", text, highest_price), illegal_number);
 }
 

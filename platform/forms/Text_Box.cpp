@@ -21,8 +21,9 @@ Text_Box::Text_Box(Form& form, std::string_view name, Lines lines)
   }
   auto* sheet = new QPlainTextEdit(Widget_Parent());
   sheet->setTabChangesFocus(true);
+  // The raw text: the plain one makes ordinary blanks of those that keep words together.
   QObject::connect(sheet, &QPlainTextEdit::textChanged, [this, sheet] {
-    Take_Over(From_Qt(sheet->toPlainText().replace("\n", "\r\n")));
+    Take_Over(From_Qt(sheet->document()->toRawText().replace(QChar::ParagraphSeparator, "\r\n")));
   });
   Set_Widget(sheet);
 }

@@ -151,10 +151,9 @@ Long To_Long(double value) { return Rounded<Long>(value); }
 Long To_Long(std::string_view text) { return To_Long(To_Double(text)); }
 
 Single To_Single(double value) {
-  if (!(std::abs(value) <= static_cast<double>(std::numeric_limits<Single>::max()))) {
-    Fail(Failure::Overflow);
-  }
-  return static_cast<Single>(value);
+  const auto single = static_cast<Single>(value);
+  if (!std::isfinite(single)) Fail(Failure::Overflow);
+  return single;
 }
 Single To_Single(std::string_view text) { return To_Single(To_Double(text)); }
 

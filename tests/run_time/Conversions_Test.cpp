@@ -70,6 +70,8 @@ TEST_F(Conversions, Rounding_is_half_to_even_and_ranges_are_kept) {
   EXPECT_FAILURE(6, To_Long(std::numeric_limits<double>::quiet_NaN()));
   EXPECT_FAILURE(6, To_Single(1e39));
   EXPECT_EQ(To_Single("13.5"), 13.5F);
+  EXPECT_EQ(To_Single(To_Text(std::numeric_limits<Single>::max())),
+            std::numeric_limits<Single>::max());
 }
 
 TEST_F(Conversions, Money_is_exact_from_text_and_back) {

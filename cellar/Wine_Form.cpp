@@ -76,7 +76,7 @@ void Wine_Form::Set_Up_Handlers() {
 void Wine_Form::Form_Load() {
   command_ = Current_Command;
   const Wineries_Record winery = Wineries;
-  const Ignoring_Events ignoring;
+  Ignore_Events = true;
   Load_Language_Words("Wine_Form");
   if (command_ == "WineAdd") Load_for_Add();
   if (command_ == "WineMod") Load_for_Mod();
@@ -86,6 +86,7 @@ void Wine_Form::Form_Load() {
   if (command_ == "WineOtherAdd") Load_for_General_List("Add New Wine to the General List");
   if (command_ == "WineOtherMod") Load_for_General_List("MODIFY Wine Information");
   Wineries = winery;
+  Ignore_Events = false;
 }
 
 void Wine_Form::Load_for_Add() {

@@ -123,7 +123,7 @@ void Wine_Form::Uncork_Wine() {
                      "WINE UNCORKED");
   Total_Bottles_Text.Set_Text(To_Text(Wines.Total_Bottles));
   if (Wines.Total_Bottles == 0) {
-    Total_Bottles_Text.Set_BackColor(Forms::Required_Color);
+    Require(Total_Bottles_Text);
     Multi_Functional_Command.Set_Enabled(false);
   }
   Last_Date_Uncorked_Text.Set_Text(To_Text(Wines.Last_Date_Uncorked));

@@ -1,6 +1,5 @@
 // What a choice in a field brings about in the others, and what the text fields accept.
 #include <cmath>
-#include <limits>
 
 #include "cellar/Wine_Form.h"
 #include "core/Gereral_Processes.h"
@@ -16,22 +15,23 @@ using Forms::Window_Color;
 
 namespace {
 
-constexpr double highest_number_of_bottles = std::numeric_limits<Integer>::max();
-constexpr double highest_alcohol = 3.4028235e38;  // the highest Single, as it is written
-constexpr double highest_price = 922337203685477;
+// The first numbers that the fields of the table cannot hold.
+constexpr double too_many_bottles = 32768;
+constexpr double too_much_alcohol = 3.402823567e38;
+constexpr double too_high_price = 922337203685477.5;
 constexpr int oldest_accepted_date = 20;  // calendar years back
 
 // What is wrong with a number; "" if nothing is. One that the table could not hold is no number.
-Text Number_Fault(const Text& field, const Text& text, double highest) {
-  if (!Is_Numeric(text) || std::abs(To_Double(text)) > highest) {
+Text Number_Fault(const Text& field, const Text& text, double too_much) {
+  if (!Is_Numeric(text) || To_Double(text) >= too_much) {
     return field + " value is NOT numeric !!!";
   }
   if (To_Double(text) < 0) return field + " value MUST be greather than 0 !!!";
   return {};
 }
 
-Text Whole_Number_Fault(const Text& field, const Text& text, double highest) {
-  Text fault = Number_Fault(field, text, highest);
+Text Whole_Number_Fault(const Text& field, const Text& text, double too_much) {
+  Text fault = Number_Fault(field, text, too_much);
   if (!fault.empty() || To_Double(text) == std::trunc(To_Double(text))) return fault;
   return field + " value MUST be an Integer !!!";
 }
@@ -85,6 +85,7 @@ void Wine_Form::Country_Combo_Click() {
   Load_Wineries_in_Country(country);
   Require(Winery_Combo);
   Winery_Combo.Set_Locked(false);
+  Winery_Add_Command.Set_Enabled(true);
   Load_Regions_for_Country(country);
   Load_Classifications(country);
 }
@@ -203,8 +204,7 @@ void Wine_Form::Vintage_Combo_Click() {
 void Wine_Form::Total_Bottles_Text_LostFocus() {
   const Text& text = Total_Bottles_Text.Text();
   if (text.empty() ||
-      Is_Refused(Total_Bottles_Text,
-                 Whole_Number_Fault("Total Bottles", text, highest_number_of_bottles),
+      Is_Refused(Total_Bottles_Text, Whole_Number_Fault("Total Bottles", text, too_many_bottles),
                  illegal_number)) {
     Require(Total_Bottles_Text);
   } else {
@@ -215,14 +215,14 @@ void Wine_Form::Total_Bottles_Text_LostFocus() {
 void Wine_Form::Alcohol_Text_LostFocus() {
   const Text& text = Alcohol_Text.Text();
   if (text.empty()) return;
-  Is_Refused(Alcohol_Text, Number_Fault("Alcohol", text, highest_alcohol), illegal_number);
+  Is_Refused(Alcohol_Text, Number_Fault("Alcohol", text, too_much_alcohol), illegal_number);
 }
 
 // A lone blank counts as empty here, as it does not in the field for alcohol.
 void Wine_Form::Price_Text_LostFocus() {
   const Text& text = Price_Text.Text();
   if (Trim(text).empty()) return;
-  Is_Refused(Price_Text, Number_Fault("Price", text, highest_price), illegal_number);
+  Is_Refused(Price_Text, Number_Fault("Price", text, too_high_price), illegal_number);
 }
 
 void Wine_Form::Date_Text_LostFocus(Forms::Text_Box& date) {

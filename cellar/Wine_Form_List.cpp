@@ -67,11 +67,11 @@ void Wine_Form::Wine_Cellar_ListView_ColumnClick(const Forms::Column_Header& hea
 }
 
 void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
-  Checks_Locked = false;
   if (command_ == "WineAdd") {
     item.Set_Selected(false);
     return;
   }
+  Checks_Locked = false;
   const Integer wine_id = To_Integer(item.SubItems(key_column));
   Open_Table(Wines_Recordset, "Wines");
   Wines_Recordset.Index("WINE_ID");
@@ -120,7 +120,7 @@ void Wine_Form::Picked_for_Uncork() {
   if (bottles_left) {
     Show_Lock(Total_Bottles_Text);
   } else {
-    Total_Bottles_Text.Set_BackColor(Forms::Required_Color);
+    Require(Total_Bottles_Text);
   }
   Multi_Functional_Command.Set_Visible(true);
   Multi_Functional_Command.Set_Enabled(bottles_left);

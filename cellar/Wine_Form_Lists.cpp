@@ -64,7 +64,7 @@ void Wine_Form::Initialize_Own_Fields() {
   const Ignoring_Events ignoring;
   Initialize_Vintage();
   Initialize_Color();
-  Boxes.Clear_Flags();
+  Boxes.Clear();
   Initialize_Bootle_Size();
   Initialize_Merit();
   for (Forms::Text_Box* box : {&Total_Bottles_Text, &Price_Text, &Alcohol_Text, &Date_Added_Text,

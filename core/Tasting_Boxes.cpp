@@ -105,10 +105,6 @@ void Tasting_Boxes::Clear() {
   const Guarding taste_guarding(taste_guard_);
   const Guarding aroma_guarding(aroma_guard_);
   Each([](Forms::Check_Box& box) { box.Set_Value(0); });
-  Clear_Flags();
-}
-
-void Tasting_Boxes::Clear_Flags() {
   Taste_Flags.Clear();
   Aroma_Flags.Clear();
 }

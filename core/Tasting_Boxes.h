@@ -30,7 +30,6 @@ class Tasting_Boxes {
   void Set_Aroma_Visible(bool visible);
   /// No box is ticked and none flagged.
   void Clear();
-  void Clear_Flags();
   /// Shows, cleared, the boxes that the colour offers: as many of each kind as `Wine_Taste_Type`
   /// has rows of it. 3021 for a colour without rows. `english_color` is written as in that table.
   void Offer(std::string_view english_color);

@@ -1,5 +1,6 @@
 #include "core/Varieties_Processes.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/tables/Catalogue.h"
@@ -11,25 +12,36 @@ namespace {
 
 constexpr Long subgroups_of_a_group = 10;
 
+// Lands on the first variety of the group. False where the group has none.
+bool Seek_Group(Long group) {
+  Varieties_Recordset.Seek("=", group);
+  if (Varieties_Recordset.NoMatch()) return false;
+  Read_Varieties_Record();
+  return true;
+}
+
 // Looks for a subgroup from the current row of `Varieties` on.
 bool Find_Subgroup(Long subgroup) {
-  for (int row = 0; row < subgroups_of_a_group && !Varieties_Recordset.Eof(); ++row) {
-    Read_Varieties_Record();
+  for (int row = 0; row < subgroups_of_a_group; ++row) {
     if (Varieties.Variety_SubGr == subgroup) return true;
     Varieties_Recordset.MoveNext();
+    if (Varieties_Recordset.Eof()) return false;
+    Read_Varieties_Record();
   }
   return false;
 }
 
+// After each subgroup back to the group's first row, also behind the last one.
 void Decode_Varieties(Long group, Long mask) {
   Decoded_Group = group;
   Decoded_Mask = mask;
-  while (Decoded_Mask >= 1) {
-    const Long subgroup = Next_Subgroup_of_Mask(Decoded_Mask);
-    Varieties_Recordset.Seek("=", Decoded_Group);
-    if (Varieties_Recordset.NoMatch() || !Find_Subgroup(subgroup)) continue;
-    Decoded_Items[++Decoded_Count] = {Varieties.Variety_ID, Varieties.Variety_Name,
-                                      Varieties.Variety_Color};
+  bool in_group = Seek_Group(group);
+  while (in_group && Decoded_Mask >= 1) {
+    if (Find_Subgroup(Next_Subgroup_of_Mask(Decoded_Mask))) {
+      Decoded_Items[++Decoded_Count] = {Varieties.Variety_ID, Varieties.Variety_Name,
+                                        Varieties.Variety_Color};
+    }
+    in_group = Seek_Group(group);
   }
 }
 
@@ -40,6 +52,7 @@ Long Subgroup_Mask(Long subgroup) {
 }
 
 Long Next_Subgroup_of_Mask(Long& mask) {
+  mask = std::max(mask, Long{0});
   Text digits = Trim(To_Text(mask));
   digits.insert(0, subgroups_of_a_group - digits.size(), '0');
   const auto first = digits.find('1');

@@ -32,13 +32,14 @@ inline Long Decoded_Mask = 0;   ///< its subgroups still to be read
 /// The mask of one subgroup, 1 to 10: 10 to the power of the subgroup less one. 6 above.
 Long Subgroup_Mask(Long subgroup);
 
-/// Takes the highest subgroup out of the mask and returns it. 0 where the mask has no digit 1; the
-/// mask is 0 then.
+/// Takes the highest subgroup out of the mask and returns it. 0 where the mask has no digit 1, or
+/// is negative; it is 0 then.
 Long Next_Subgroup_of_Mask(Long& mask);
 
 // ---- decoders ----
 
 /// The varieties of the region in the memory record of `Regions`, by their link rows, in each group
 /// from the highest subgroup down. A subgroup that does not stand among the first ten rows of its
-/// group is left out. The memory record of `Varieties` holds the row read last.
+/// group is left out. The memory record of `Varieties` holds the row read last: the first one of
+/// the last link row's group.
 void Load_Varieties_of_Region();

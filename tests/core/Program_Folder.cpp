@@ -13,27 +13,14 @@
 
 namespace fs = std::filesystem;
 
-namespace {
-
-std::string New_Folder() {
-  std::string name = (fs::temp_directory_path() / "wine_cellar_XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  return name;
-}
-
-}  // namespace
-
-Program_Folder::Program_Folder() : folder_(New_Folder()) {
-  fs::create_directories(folder_ + "/dbase");
+Program_Folder::Program_Folder() {
+  fs::create_directories(folder_.Path("dbase"));
   fs::copy_file(DELIVERED_FOLDER "/dbase/Wine_Cellar.mdb", Data_File());
-  Forms::Set_App_Path_For_Tests(folder_);
+  Forms::Set_App_Path_For_Tests(Folder());
   Register_Core_Screens();
 }
 
-Program_Folder::~Program_Folder() {
-  Stop();
-  fs::remove_all(folder_);
-}
+Program_Folder::~Program_Folder() { Stop(); }
 
 void Program_Folder::Start() {
   Run_Guarded([] { Forms::Screen("Wine_Cellar_Form").Open(); });

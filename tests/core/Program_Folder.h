@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/record_store/Record_Store.h"
+#include "tests/support/Temporary_Folder.h"
 
 /// Every test of the program's screens: the main window on a data file of its own.
 class Program_Folder : public testing::Test {
@@ -14,8 +15,8 @@ class Program_Folder : public testing::Test {
   Program_Folder();
   ~Program_Folder() override;
 
-  std::string Folder() const { return folder_; }
-  std::string Data_File() const { return folder_ + "/dbase/Wine_Cellar.mdb"; }
+  std::string Folder() const { return folder_.Path(); }
+  std::string Data_File() const { return folder_.Path("dbase/Wine_Cellar.mdb"); }
 
   /// Starts the program, as main does, up to the main window.
   void Start();
@@ -31,5 +32,5 @@ class Program_Folder : public testing::Test {
   void Set_Language(Integer number) const;
 
  private:
-  std::string folder_;
+  Temporary_Folder folder_;
 };

@@ -1,9 +1,5 @@
 #include "tests/record_store/Store_Fixture.h"
 
-#include <unistd.h>
-
-#include <atomic>
-
 #include "platform/record_store/Engine.h"
 #include "platform/record_store/Rows.h"
 #include "platform/run_time/Run_Time_Error.h"
@@ -48,19 +44,12 @@ const std::vector<Table_Schema>& Test_Tables() {
 }
 
 Store_Test::Store_Test() {
-  static std::atomic<int> number = 0;
-  folder_ = std::filesystem::temp_directory_path() /
-            ("record_store_" + std::to_string(getpid()) + "_" + std::to_string(++number));
-  std::filesystem::create_directories(folder_);
   path_ = folder_ / "Test.mdb";
   Create_Database(path_, Right_Connect, Test_Tables())->Commit();
   Reopen();
 }
 
-Store_Test::~Store_Test() {
-  database_.reset();
-  std::filesystem::remove_all(folder_);
-}
+Store_Test::~Store_Test() = default;
 
 void Store_Test::Reopen() {
   database_.reset();

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/record_store/Record_Store.h"
+#include "tests/support/Temporary_Folder.h"
 
 inline const std::string Right_Connect = "; DATABASE=x;PWD=open9sesame";
 
@@ -38,7 +39,8 @@ class Store_Test : public testing::Test {
   /// Whether the engine finds the closed file sound.
   bool Is_Sound() const;
 
-  std::filesystem::path folder_;
+  const Temporary_Folder own_folder_;
+  const std::filesystem::path folder_ = own_folder_.Path();
   std::string path_;
   std::unique_ptr<Record_Store::Database> database_;
 };

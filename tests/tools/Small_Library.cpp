@@ -9,15 +9,11 @@
 namespace fs = std::filesystem;
 
 Small_Library::Small_Library() {
-  folder_ = (fs::temp_directory_path() / "small_library_XXXXXX").string();
-  if (mkdtemp(folder_.data()) == nullptr) throw std::runtime_error("no temporary folder");
   fs::copy(SMALL_LIBRARY_FOLDER, Folder());
   for (const char* file : {"countries", "states", "languages", "wine_system", "cellars",
                            "wine_taste_type", "words", "replace_keys"})
     fs::copy(std::string(DATA_FOLDER "/") + file + ".tsv", Folder());
 }
-
-Small_Library::~Small_Library() { fs::remove_all(folder_); }
 
 std::string Contents(const std::string& path) {
   std::ostringstream text;

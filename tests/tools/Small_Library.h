@@ -5,13 +5,12 @@
 #include <string>
 #include <string_view>
 
+#include "tests/support/Temporary_Folder.h"
 #include "tools/Compile_Library.h"
 
 class Small_Library {
  public:
   Small_Library();
-  ~Small_Library();
-  Small_Library(const Small_Library&) = delete;
 
   /// Writes `to` for the first `from` in a file; a test that names a text that is not there fails.
   void Replace(const std::string& file, std::string_view from, std::string_view to) const;
@@ -21,12 +20,12 @@ class Small_Library {
     return Data_Compiler::Compile_Library(Folder(), "English", problems);
   }
 
-  std::string Folder() const { return folder_ + "/data"; }
+  std::string Folder() const { return folder_.Path("data"); }
   /// A place for files beside the data folder.
-  std::string Path(std::string_view name) const { return folder_ + "/" + std::string(name); }
+  std::string Path(std::string_view name) const { return folder_.Path(name); }
 
  private:
-  std::string folder_;
+  Temporary_Folder folder_;
 };
 
 /// All problems, a line each.

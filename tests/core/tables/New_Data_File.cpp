@@ -4,23 +4,14 @@
 
 #include "core/Globals.h"
 
-namespace fs = std::filesystem;
+New_Data_File::New_Data_File() { Make(Tables::All_Schemas()); }
 
-New_Data_File::New_Data_File() {
-  folder_ = (fs::temp_directory_path() / "tables_XXXXXX").string();
-  if (mkdtemp(folder_.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  Make(Tables::All_Schemas());
-}
-
-New_Data_File::~New_Data_File() {
-  Wine_Cellar_DB.reset();
-  fs::remove_all(folder_);
-}
+New_Data_File::~New_Data_File() { Wine_Cellar_DB.reset(); }
 
 void New_Data_File::Make(const std::vector<Record_Store::Table_Schema>& tables) {
   Wine_Cellar_DB.reset();
-  Wine_Cellar_DB_Path = folder_ + "/Wine_Cellar.mdb";
-  fs::remove(Wine_Cellar_DB_Path);
+  Wine_Cellar_DB_Path = folder_.Path("Wine_Cellar.mdb");
+  std::filesystem::remove(Wine_Cellar_DB_Path);
   const auto connect = Connect_Text(Wine_Cellar_DB_Path);
   Record_Store::Create_Database(Wine_Cellar_DB_Path, connect, tables)->Commit();
   Open_Wine_Cellar_DB();

@@ -3,11 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
 #include <vector>
 
 #include "core/tables/Catalogue.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "tests/support/Temporary_Folder.h"
 
 class New_Data_File : public testing::Test {
  protected:
@@ -18,5 +18,5 @@ class New_Data_File : public testing::Test {
   void Make(const std::vector<Record_Store::Table_Schema>& tables);
 
  private:
-  std::string folder_;
+  Temporary_Folder folder_;
 };

@@ -1,5 +1,6 @@
 #include "platform/forms/Sort_Menu.h"
 
+#include <QActionGroup>
 #include <QMenu>
 #include <QTreeView>
 
@@ -19,12 +20,11 @@ std::vector<int> Columns_To_Choose(const QTreeView& view, const List_View& list)
   return columns;
 }
 
-void Add_Column(QMenu& menu, const QString& text, List_View& list, int column) {
-  QAction* entry = menu.addAction(text);
-  entry->setCheckable(list.Sorted());
-  entry->setChecked(list.Sorted() && list.SortKey() == column - 1);
-  QObject::connect(entry, &QAction::triggered, &menu,
-                   [&list, column] { list.Header_Clicked(column); });
+void Connect(QAction& entry, QActionGroup& one_of_them, List_View& list, int column) {
+  one_of_them.addAction(&entry);
+  entry.setCheckable(list.Sorted());
+  entry.setChecked(list.Sorted() && list.SortKey() == column - 1);
+  QObject::connect(&entry, &QAction::triggered, [&list, column] { list.Header_Clicked(column); });
 }
 
 }  // namespace
@@ -40,7 +40,10 @@ void Open_Sort_Menu(QTreeView& view, List_View& list, QPoint place) {
   for (const int column : columns) captions.push_back(list.Header_Text(column));
   std::set<QChar> used;
   const std::vector<QString> texts = With_Mnemonics(captions, used);
-  for (std::size_t i = 0; i < columns.size(); ++i) Add_Column(*menu, texts[i], list, columns[i]);
+  auto* one_of_them = new QActionGroup(menu);
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    Connect(*menu->addAction(texts[i]), *one_of_them, list, columns[i]);
+  }
   menu->popup(place);
   menu->setActiveAction(menu->actions().front());
 }

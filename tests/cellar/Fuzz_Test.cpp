@@ -1,0 +1,284 @@
+// Whatever a user types on the screen of the cellar gives its message or is stored and shown again;
+// and a long walk of clicks at random ends in nothing but the failures that are known.
+#include <gmock/gmock.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <map>
+#include <memory>
+#include <random>
+#include <set>
+
+#include "core/Globals.h"
+#include "platform/forms/Forms.h"
+#include "platform/forms/Screens.h"
+#include "tests/cellar/Cellar_Program.h"
+
+namespace {
+
+using testing::IsEmpty;
+using Lines = std::vector<std::string>;
+
+constexpr const char* button = "Multi_Functional_Command";
+
+std::string Repeated(const char* text, int times) {
+  return QString(text).repeated(times).toStdString();
+}
+
+void Paste_Into(const std::string& field, const Text& text) {
+  QApplication::clipboard()->setText(QString::fromStdString(text));
+  Click(field);
+  Press("Ctrl+A");
+  Press("Delete");
+  Press("Ctrl+V");
+}
+
+class Cellar_Fuzz : public Cellar_Program {};
+
+struct Number {
+  Text text;
+  Text fields;        // those that take it: Bottles, Price, Alcohol
+  Text shown;         // by them after a restart
+  Text alcohol = {};  // by the field for alcohol, where that differs
+};
+
+std::vector<Number> Numbers() {
+  std::vector<Number> numbers{{"0", "BPA", "0"},
+                              {" 7 ", "BPA", "7"},
+                              {"-0", "BPA", "0"},
+                              {"1,250", "BPA", "1250"},
+                              {"1e3", "BPA", "1000"},
+                              {"32767", "BPA", "32767"},
+                              {Repeated("0", 30'000) + "7", "BPA", "7"},
+                              {"2.5", "PA", "2.5"},
+                              {"40000", "PA", "40000"},
+                              {"0.00005", "PA", "0", "0.00005"},
+                              {"922337203685477", "PA", "922337203685477", "922337180385280"},
+                              {"922337203685478", "A", "", "922337180385280"},
+                              {"3.4028235e38", "A", "3.4028235e+38"}};
+  for (const char* none : {"-1", "12,50", "1e400", "1e-400", "NaN", "inf", "0x10", "١٢", "１２",
+                           "\u202e12", "7🍷", "7\n8", "7' OR '1'='1"}) {
+    numbers.push_back({none, "", ""});
+  }
+  numbers.push_back({Repeated("9", 100'000), "", ""});
+  return numbers;
+}
+
+TEST_F(Cellar_Fuzz, A_number_gives_its_message_or_is_stored_and_shown_again) {
+  const std::vector<Number> numbers = Numbers();
+  const std::map<char, std::string> fields{
+      {'B', "Total_Bottles_Text"}, {'P', "Price_Text"}, {'A', "Alcohol_Text"}};
+  for (std::size_t count = 0; count < numbers.size(); ++count) Put_Wine(Sample_Wine());
+  for (const bool restarted : {false, true}) {
+    Restart();
+    Pick("Wine_Mod");
+    for (std::size_t place = 0; place < numbers.size(); ++place) {
+      const Number& number = numbers[place];
+      const auto [text, taken_by, shown, alcohol] = number;
+      Pick_Wine(static_cast<Long>(place + 1));
+      for (const auto& [letter, field] : fields) {
+        const bool taken = taken_by.find(letter) != Text::npos;
+        const Text expected = letter == 'A' && !alcohol.empty() ? alcohol : shown;
+        if (restarted) {
+          EXPECT_EQ(Shown_Text(field), taken ? expected : "5") << text.substr(0, 40);
+          continue;
+        }
+        const Box_Script boxes;
+        Paste_Into(field, text);
+        Press("Tab");
+        ASSERT_EQ(boxes.Boxes().size(), taken ? 0U : 1U) << field << text.substr(0, 40);
+        if (taken) continue;
+        EXPECT_EQ(boxes.Boxes()[0].title, "ILLEGAL NUMBER");
+        Click(button);  // does not get past the field
+        EXPECT_EQ(Focused(), field) << text.substr(0, 40);
+        Type_Into(field, "5");
+      }
+      const Box_Script boxes;
+      if (!restarted) Click(button);
+      EXPECT_EQ(boxes.Boxes().size(), restarted ? 0U : 1U);
+    }
+  }
+}
+
+TEST_F(Cellar_Fuzz, A_date_gives_its_message_or_passes) {
+  const std::map<Text, Lines> dates{
+      {"", {"", "  ", "6/15/2026 14:30:05", "2020-02-29", "1/1/2006"}},
+      {"This date is in the FUTURE !!!", {"6/15/2026 14:30:06", "6/16/2026"}},
+      {"This date is TOO far into the PAST !!!", {"12/31/2005", "1/1/0100"}},
+      {"This is an Illegal Date !!!",
+       {"2020-02-30", "31.02.2020", "1/1/0000", "1/1/20200", "14:30", "1/1/2020 25:00", "1e400",
+        "NaN", "١٢/١/٢٠٢٠", "\u202e1/1/2020", "1/1/2020'; DROP TABLE Wines",
+        Repeated("1/", 30'000)}}};
+  Put_Wine(Sample_Wine());
+  for (const bool add : {true, false}) {
+    Restart();
+    Pick(add ? "Wine_Add" : "Wine_Mod");
+    add ? Choose_Winery() : Pick_Wine(1);
+    for (const char* field : {"Date_Added_Text", "Last_Date_Uncorked_Text"}) {
+      for (const auto& [fault, texts] : dates) {
+        for (const Text& text : texts) {
+          const Box_Script boxes;
+          Paste_Into(field, text);
+          Press("Tab");
+          EXPECT_EQ(boxes.Texts(), fault.empty() ? Lines{} : Lines{fault}) << text.substr(0, 40);
+          EXPECT_EQ(Focused() == field, !fault.empty()) << text.substr(0, 40);
+          Paste_Into(field, "");
+        }
+      }
+    }
+  }
+}
+
+TEST_F(Cellar_Fuzz, A_text_is_stored_to_the_letter_and_shown_again) {
+  const Lines texts{"It's \"x\"; -- ' OR 1=1",
+                    "first\r\nsecond\r\n\r\n fourth ",
+                    "🍷👨‍👩‍👧 \u202eabc\u202c שלום مرحبا",
+                    "à la fin\u00a0: 12\u202f%",
+                    "\t\\0 %s &amp; <b>&</b>",
+                    Repeated("Ünï🍇", 25'000),
+                    "\r\n",
+                    "x"};
+  for (std::size_t wine = 1; wine < texts.size(); ++wine) Put_Wine(Sample_Wine());
+  const Box_Script boxes;
+  Start_With("Wine_Mod");
+  for (std::size_t place = 0; place < texts.size(); ++place) {
+    if (place + 1 < texts.size()) {
+      Pick_Wine(static_cast<Long>(place + 1));
+    } else {
+      Restart();
+      Pick("Wine_Add");
+      Fill_Add();
+    }
+    Paste_Into("Description_Text", texts[place]);
+    Paste_Into("Comments_Text", texts[texts.size() - 1 - place]);
+    Click(button);
+    EXPECT_EQ(boxes.Boxes().size(), place + 1);
+  }
+  const auto stored = [this](const char* field) {
+    return Stored("SELECT English FROM Wines w JOIN Words_for_Data t ON t.Multi_Language_ID = w." +
+                      Text(field) + " ORDER BY w.Wine_ID",
+                  1);
+  };
+  EXPECT_TRUE(stored("Description") == texts);
+  EXPECT_TRUE(stored("Comments") == Lines(texts.rbegin(), texts.rend()));
+  Restart();
+  Pick("Cellar1_View");
+  for (std::size_t place = 0; place < texts.size(); ++place) {
+    Pick_Wine(static_cast<Long>(place + 1));
+    const auto& box = Forms::Screen("Wine_Form").Get<Forms::Text_Box>("Description_Text");
+    EXPECT_TRUE(box.Text() == (texts[place] == "x" ? " " : texts[place])) << place;
+  }
+}
+
+// ---- a long walk ----
+
+class Cellar_Walk : public Cellar_Program {
+ protected:
+  int Random(std::size_t count) { return static_cast<int>(random_() % count); }
+  template <class List>
+  auto One_of(const List& list) {
+    return list[static_cast<std::size_t>(Random(list.size()))];
+  }
+
+  void Step(bool kept_in_field) {
+    if (Is_Seen("Wine_Cellar_Form")) {
+      Begin();
+    } else if (kept_in_field) {
+      Paste_Into(Focused(), One_of(Lines{"", "", "6"}));
+    } else if (const int choice = Random(10); choice < 2 && Is_Usable(button)) {
+      Click(button);
+    } else if (choice < 3) {
+      Click("Exit_Command");
+    } else if (choice < 5 && Current_Command != "WineAdd") {
+      Use(Find("Wine_Cellar_ListView"));
+    } else {
+      Use(*One_of(Usable_Controls()));
+    }
+  }
+
+ private:
+  void Begin() {
+    Pick(One_of(Lines{"Wine_Add", "Wine_Mod", "Wine_Mod", "Wine_Mod", "Wine_Uncork", "Wine_Del",
+                      "Cellar1_View", "Cellar2_View"}));
+    if (Current_Command != "WineAdd") return;
+    const int winery = Random(2);
+    const Text& label = Sample(winery).label;
+    Fill_Add({One_of(Lines{"No Label", label, label, label}),
+              One_of(Lines{"NO Classification", Sample(winery).classification}),
+              {1, 2}},
+             winery);
+  }
+
+  static std::vector<QWidget*> Usable_Controls() {
+    std::vector<QWidget*> usable;
+    for (QWidget* widget : Find("Wine_Form").findChildren<QWidget*>()) {
+      const QString name = widget->objectName();
+      const bool control =
+          !name.isEmpty() && !name.startsWith("qt_") && widget->focusPolicy() != Qt::NoFocus;
+      if (control && widget->isVisible() && widget->isEnabled()) usable.push_back(widget);
+    }
+    return usable;
+  }
+
+  void Use(QWidget& control) {
+    const std::string name = control.objectName().toStdString();
+    if (qobject_cast<QComboBox*>(&control) != nullptr) {
+      control.setFocus();
+      Press(One_of(Lines{"Down", "Up", "End", "Home", "PgDown", "S"}));
+    } else if (const auto* list = qobject_cast<QAbstractItemView*>(&control)) {
+      const auto rows = static_cast<std::size_t>(list->model()->rowCount());
+      if (name == "Wine_Cellar_ListView" && Random(8) == 0) {
+        Click_Header(name, Random(10));
+      } else if (rows > 0) {
+        name == "Variety_Combo" ? Click_Tick(name, Random(rows)) : Click_Row(name, Random(rows));
+      }
+    } else if (name.ends_with("_Text")) {
+      Paste_Into(name, One_of(Lines{"", " ", "7", "8", "12.5", "-1", "abc", "40000", "x",
+                                    "1/1/2020", "It's", "🍷", "1e400"}));
+    } else {
+      Click(name);
+    }
+  }
+
+  std::mt19937 random_{5};
+};
+
+TEST_F(Cellar_Walk, Ends_in_known_failures_alone_and_leaves_every_wine_whole) {
+  Put_Wine(Sample_Wine(), {});  // the one that no modify gets past
+  for (int wine = 0; wine < 5; ++wine) Put_Wine(Sample_Wine());
+  std::vector<bool> answers(2000);
+  for (std::size_t box = 0; box < answers.size(); ++box) answers[box] = Random(3) > 0;
+  const Box_Script boxes(answers);
+  std::set<Text> ends;
+  auto end = std::make_unique<End_Watch>();
+  Start();
+  for (int step = 0; step < 500; ++step) {
+    const bool kept = !boxes.Boxes().empty() && boxes.Boxes().back().title.starts_with("ILLEGAL") &&
+                      Focused().ends_with("_Text");
+    Step(kept && Random(4) > 0);
+    if (!end->Ended()) continue;
+    ends.insert(Current_Command + boxes.Texts().back().substr(14, 7));
+    end = nullptr;
+    Restart();
+    end = std::make_unique<End_Watch>();
+  }
+  EXPECT_THAT(ends, testing::IsSubsetOf({"WineMod '380':", "WineMod '3020'", "WineMod '3021'"}));
+  const auto told = [texts = boxes.Texts()](const char* text) {
+    return std::count(texts.begin(), texts.end(), text);
+  };
+  const auto added = told("This Wine was successfully ADDED to your Wine Cellar.");
+  const auto removed = told("This wine was REMOVED from your Wine Cellar.");
+  EXPECT_GT(std::min({added, removed, told("Wine information was Modified.")}), 0);
+  EXPECT_EQ(static_cast<long>(Stored("SELECT Wine_ID FROM Wines", 1).size()), 6 + added - removed);
+  EXPECT_THAT(Stored("SELECT Wine_ID FROM Wines w WHERE Winery_ID NOT IN (SELECT Winery_ID FROM "
+                     "Wineries) OR Vintage NOT BETWEEN 1977 AND 2026 OR Peak NOT BETWEEN Vintage "
+                     "AND Vintage + 15 OR Total_Bottles < 0 OR Bottle_Size = 'x' OR Color = 'x' "
+                     "OR Clasification = 'x' OR (Wine_ID > 1 AND (Variety IN ('', 'x') OR "
+                     "Wine_ID NOT IN (SELECT Wine_ID FROM Varieties_of_Wines)))",
+                     1),
+              IsEmpty());
+}
+
+}  // namespace

@@ -306,6 +306,9 @@ TEST_F(Fields, Values_that_were_not_given_or_that_no_list_holds) {
   wine.Peak = 1999;
   wine.Bottle_Size = "1 keg";
   const Long odd = Put_Wine(wine);
+  wine = Sample_Wine();
+  wine.Peak = wine.Vintage;  // the first of the peak years
+  const Long early = Put_Wine(wine);
   Start_With("Cellar1_View");
   Pick_Wine(bare);
   for (const auto& [field, text] : {std::pair{"Label_Combo", "No Label"},
@@ -323,6 +326,9 @@ TEST_F(Fields, Values_that_were_not_given_or_that_no_list_holds) {
   EXPECT_EQ(Shown_Text("Vintage_Combo"), "2001");
   EXPECT_EQ(Shown_Text("Peak_Year_Combo"), "2009");
   EXPECT_EQ(Shown_Text("Bottle_Size_Combo"), "");
+  Pick_Wine(early);
+  EXPECT_EQ(Shown_Text("Vintage_Combo"), "2016");
+  EXPECT_EQ(Shown_Text("Peak_Year_Combo"), "2024");
 }
 
 }  // namespace

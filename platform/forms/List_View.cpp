@@ -174,7 +174,7 @@ bool List_View::Is_Found(int row, std::string_view text, Where where, Match matc
 
 // Rows that are sorted no more stay in the order that they had.
 void List_View::Set_Sorted(bool sorted) {
-  Sort_If_Needed();
+  if (!sorted) Sort_If_Needed();
   sorted_ = sorted;
   Changed(true);
 }

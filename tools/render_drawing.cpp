@@ -1,6 +1,7 @@
-// Renders a drawing in its own size to bare pixels (four bytes each, blue, green, red, alpha,
-// colours multiplied by alpha), for drawings that take longer to render than a window to open:
-//   render_drawing DRAWING.svg PIXELS
+// Renders a drawing to bare pixels (four bytes each, blue, green, red, alpha, colours multiplied by
+// alpha), for drawings that take longer to render than a window to open:
+//   render_drawing DRAWING.svg PIXELS [SIDE]
+// in its own size, or in a square of SIDE pixels.
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
@@ -12,8 +13,8 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication application(argc, argv);
   const QStringList arguments = QGuiApplication::arguments();
-  if (arguments.size() != 3) {
-    std::fprintf(stderr, "usage: render_drawing DRAWING.svg PIXELS\n");
+  if (arguments.size() != 3 && arguments.size() != 4) {
+    std::fprintf(stderr, "usage: render_drawing DRAWING.svg PIXELS [SIDE]\n");
     return 2;
   }
   QSvgRenderer drawing(arguments[1]);
@@ -21,7 +22,9 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "%s: no drawing\n", argv[1]);
     return 1;
   }
-  QImage image(drawing.defaultSize(), QImage::Format_ARGB32_Premultiplied);
+  const int side = arguments.value(3).toInt();
+  const QSize size = side > 0 ? QSize(side, side) : drawing.defaultSize();
+  QImage image(size, QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   QPainter painter(&image);
   drawing.render(&painter);

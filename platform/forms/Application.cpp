@@ -1,7 +1,10 @@
 #include "platform/forms/Application.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QIcon>
 #include <QProxyStyle>
+#include <QResource>
 
 #include "platform/forms/Focus.h"
 #include "platform/forms/Later.h"
@@ -31,6 +34,19 @@ class Desktop_Style : public QProxyStyle {
   }
 };
 
+// Each file of the folder is the icon in one size. A drawing would be rendered at every start.
+QIcon Icon_Of_The_Program() {
+  QIcon icon;
+  for (const QString& name : QDir(":/icon").entryList()) {
+    const QResource pixels(":/icon/" + name);
+    const int side = name.toInt();
+    if (pixels.size() != qint64{4} * side * side) continue;
+    icon.addPixmap(QPixmap::fromImage(
+        QImage(pixels.data(), side, side, 4 * side, QImage::Format_ARGB32_Premultiplied)));
+  }
+  return icon;
+}
+
 void Settle() {
   Settle_Screens();
   Focus_Watch::The().Settle();
@@ -50,6 +66,7 @@ Application::Application(int& argc, char** argv) : data_(std::make_unique<Data>(
   QApplication::setOrganizationDomain("winecellar.org");
   QApplication::setApplicationName("wine-cellar");
   QApplication::setDesktopFileName("org.winecellar.Wine_Cellar");
+  QApplication::setWindowIcon(Icon_Of_The_Program());
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setStyle(data_->style);
   Focus_Watch::The().Begin();

@@ -11,7 +11,8 @@ namespace Forms {
 class Application {
  public:
   /// Opens the toolkit and sets the guard's hooks for showing a failure and for the end of each
-  /// outermost handler.
+  /// outermost handler. The windows' icon is what the resource folder :/icon holds: a file for
+  /// each size, named after the side in pixels, of bare pixels as tools/render_drawing makes them.
   Application(int& argc, char** argv);
   ~Application();
   Application(const Application&) = delete;

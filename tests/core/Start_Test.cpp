@@ -1,6 +1,8 @@
 // Start-up: languages, versions, what cannot be started on.
 #include <gmock/gmock.h>
 
+#include <QIcon>
+#include <QImage>
 #include <QWidget>
 #include <filesystem>
 #include <fstream>
@@ -60,6 +62,20 @@ TEST_F(Start_Up, The_main_window_is_in_front_in_every_language) {
                                    std::to_string(language),
                                1)
                             .at(0)));
+  }
+}
+
+TEST_F(Start_Up, The_window_has_the_icon_of_the_program_in_several_sizes) {
+  Start();
+  const QIcon icon = Find("Wine_Cellar_Form").windowIcon();
+  ASSERT_GE(icon.availableSizes().size(), 3);
+  for (const QSize size : icon.availableSizes()) {
+    const QImage image = icon.pixmap(size).toImage();
+    EXPECT_EQ(image.size(), size);
+    // Transparent beside the arch of the cellar, dark red below the glass.
+    EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
+    const QColor room = image.pixelColor(size.width() / 4, size.height() * 3 / 4);
+    EXPECT_TRUE(room.alpha() == 255 && room.red() > room.green()) << size.width();
   }
 }
 

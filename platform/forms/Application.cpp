@@ -40,9 +40,10 @@ QIcon Icon_Of_The_Program() {
   for (const QString& name : QDir(":/icon").entryList()) {
     const QResource pixels(":/icon/" + name);
     const int side = name.toInt();
-    if (pixels.size() != qint64{4} * side * side) continue;
+    const qsizetype line = qsizetype{4} * side;
+    if (pixels.size() != line * side) continue;
     icon.addPixmap(QPixmap::fromImage(
-        QImage(pixels.data(), side, side, 4 * side, QImage::Format_ARGB32_Premultiplied)));
+        QImage(pixels.data(), side, side, line, QImage::Format_ARGB32_Premultiplied)));
   }
   return icon;
 }

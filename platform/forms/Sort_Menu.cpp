@@ -3,6 +3,7 @@
 #include <QActionGroup>
 #include <QMenu>
 #include <QTreeView>
+#include <algorithm>
 
 #include "platform/forms/List_View.h"
 #include "platform/forms/Mnemonics.h"
@@ -20,11 +21,21 @@ std::vector<int> Columns_To_Choose(const QTreeView& view, const List_View& list)
   return columns;
 }
 
-void Connect(QAction& entry, QActionGroup& one_of_them, List_View& list, int column) {
-  one_of_them.addAction(&entry);
-  entry.setCheckable(list.Sorted());
-  entry.setChecked(list.Sorted() && list.SortKey() == column - 1);
-  QObject::connect(&entry, &QAction::triggered, [&list, column] { list.Header_Clicked(column); });
+void Fill(QMenu& menu, List_View& list, const std::vector<int>& columns) {
+  std::vector<std::string> captions(columns.size());
+  std::ranges::transform(columns, captions.begin(),
+                         [&list](int column) { return list.Header_Text(column); });
+  std::set<QChar> used;
+  const std::vector<QString> texts = With_Mnemonics(captions, used);
+  auto* one_of_them = new QActionGroup(&menu);
+  QObject::connect(one_of_them, &QActionGroup::triggered,
+                   [&list](const QAction* entry) { list.Header_Clicked(entry->data().toInt()); });
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    QAction* entry = one_of_them->addAction(menu.addAction(texts[i]));
+    entry->setData(columns[i]);
+    entry->setCheckable(list.Sorted());
+    entry->setChecked(list.Sorted() && list.SortKey() == columns[i] - 1);
+  }
 }
 
 }  // namespace
@@ -36,14 +47,7 @@ void Open_Sort_Menu(QTreeView& view, List_View& list, QPoint place) {
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->setObjectName(view.objectName() + "_Columns");
   menu->setAccessibleName(view.accessibleName());
-  std::vector<std::string> captions;
-  for (const int column : columns) captions.push_back(list.Header_Text(column));
-  std::set<QChar> used;
-  const std::vector<QString> texts = With_Mnemonics(captions, used);
-  auto* one_of_them = new QActionGroup(menu);
-  for (std::size_t i = 0; i < columns.size(); ++i) {
-    Connect(*menu->addAction(texts[i]), *one_of_them, list, columns[i]);
-  }
+  Fill(*menu, list, columns);
   menu->popup(place);
   menu->setActiveAction(menu->actions().front());
 }

@@ -1,7 +1,10 @@
 #include "platform/forms/Message_Box.h"
 
 #include <QApplication>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QMessageBox>
+#include <QSpacerItem>
 
 #include "platform/forms/Qt_Text.h"
 #include "platform/run_time/Guard.h"
@@ -19,6 +22,16 @@ Watcher& The_Watcher() {
 
 int boxes_shown = 0;
 
+// The frame would cut a title that is wider than the text.
+void Make_Room_For_Title(QMessageBox& dialog) {
+  constexpr int frame_buttons = 110;
+  auto* grid = qobject_cast<QGridLayout*>(dialog.layout());
+  if (grid == nullptr) return;
+  const QFontMetrics metrics(QApplication::font("QMdiSubWindowTitleBar"));
+  auto* room = new QSpacerItem(metrics.horizontalAdvance(dialog.windowTitle()) + frame_buttons, 0);
+  grid->addItem(room, grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 bool Ask(const Box& box) {
   QMessageBox dialog(QMessageBox::NoIcon, To_Qt(box.title), To_Show(box.text),
                      QMessageBox::NoButton, QApplication::activeWindow());
@@ -35,6 +48,7 @@ bool Ask(const Box& box) {
     dialog.setStandardButtons(QMessageBox::Ok);
     dialog.setEscapeButton(QMessageBox::Ok);
   }
+  Make_Room_For_Title(dialog);
   return dialog.exec() != QMessageBox::No;
 }
 

@@ -16,16 +16,15 @@ using testing::ElementsAre;
 
 class Program : public testing::Test {
  protected:
-  std::vector<std::string> Stored_Cellars() {
+  std::vector<std::string> Stored(const char* table, const char* field) {
     const auto file = Record_Store::OpenDatabase(program.Data_File(), false, false,
                                                  Connect_Text(program.Data_File()));
-    Record_Store::Recordset cellars = file->OpenRecordset("Cellars");
-    std::vector<std::string> names;
-    for (; !cellars.Eof(); cellars.MoveNext()) {
-      names.push_back(cellars.Fields("Cellar_Name").As_Text());
-    }
-    return names;
+    Record_Store::Recordset rows = file->OpenRecordset(table);
+    std::vector<std::string> values;
+    for (; !rows.Eof(); rows.MoveNext()) values.push_back(rows.Fields(field).As_Text());
+    return values;
   }
+  std::vector<std::string> Stored_Cellars() { return Stored("Cellars", "Cellar_Name"); }
 
   void Name_Cellars_Up_To_The_Message() {
     program.Start();
@@ -53,6 +52,40 @@ TEST_F(Program, Names_the_cellars_by_keyboard_and_finds_them_after_a_restart) {
   program.Start();
   EXPECT_TRUE(program.Sees_Window("My Current Cellar: Home"));
   EXPECT_THAT(Stored_Cellars(), ElementsAre("Home", "Office"));
+}
+
+TEST_F(Program, A_wine_is_entered_by_keyboard_and_can_be_uncorked_after_a_restart) {
+  Name_Cellars_Up_To_The_Message();
+  program.Press({"Return"});
+  ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
+  program.Press({"alt+w", "h", "a"});
+  ASSERT_TRUE(program.Sees_Window("Add New Wine to the Cellar"));
+  program.Type("France");
+  program.Press({"alt+w"});
+  program.Type("Bollinger");
+  program.Press({"alt+l", "Down", "alt+g", "Down", "space", "alt+o", "Down", "alt+b", "Down"});
+  program.Press({"alt+t", "6", "alt+f", "Down", "alt+s"});
+  ASSERT_TRUE(program.Sees_Window("WINE ADDITION SUCCESSFULLY"));
+  program.Press({"Return"});
+  ASSERT_TRUE(program.Window_Has_Gone("WINE ADDITION SUCCESSFULLY"));
+  // What a window manager does after a box has gone.
+  display.Run("xdotool",
+              {"search", "--onlyvisible", "--name", "^Add New Wine", "windowfocus", "--sync"});
+  program.Press({"alt+e"});
+  ASSERT_TRUE(program.Window_Has_Gone("Add New Wine to the Cellar"));
+  ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
+  program.Press({"alt+x"});
+  EXPECT_EQ(program.Wait_For_End(), 0);
+  EXPECT_THAT(Stored("Wines", "Color"), ElementsAre("White"));
+  EXPECT_THAT(Stored("Wines", "Total_Bottles"), ElementsAre("6"));
+  program.Start();
+  ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
+  program.Press({"alt+w", "h", "u"});
+  ASSERT_TRUE(program.Sees_Window("Select Wine to Uncork"));
+  program.Press({"space", "alt+u"});
+  ASSERT_TRUE(program.Sees_Window("WINE UNCORKED"));
+  program.Kill();
+  EXPECT_THAT(Stored("Wines", "Total_Bottles"), ElementsAre("5"));
 }
 
 TEST_F(Program, What_a_message_says_was_saved_survives_a_kill) {

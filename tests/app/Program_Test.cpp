@@ -44,7 +44,7 @@ class Program : public testing::Test {
 
 TEST_F(Program, Names_the_cellars_by_keyboard_and_finds_them_after_a_restart) {
   Name_Cellars_Up_To_The_Message();
-  program.Press({"Return"});
+  ASSERT_TRUE(program.Answer_Box("CELLAR NAMES SAVED"));
   ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
   EXPECT_TRUE(program.Window_Has_Gone("Cellar Names Information"));
   program.Press({"alt+x"});
@@ -56,7 +56,7 @@ TEST_F(Program, Names_the_cellars_by_keyboard_and_finds_them_after_a_restart) {
 
 TEST_F(Program, A_wine_is_entered_by_keyboard_and_can_be_uncorked_after_a_restart) {
   Name_Cellars_Up_To_The_Message();
-  program.Press({"Return"});
+  ASSERT_TRUE(program.Answer_Box("CELLAR NAMES SAVED"));
   ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
   program.Press({"alt+w", "h", "a"});
   ASSERT_TRUE(program.Sees_Window("Add New Wine to the Cellar"));
@@ -65,9 +65,7 @@ TEST_F(Program, A_wine_is_entered_by_keyboard_and_can_be_uncorked_after_a_restar
   program.Type("Bollinger");
   program.Press({"alt+l", "Down", "alt+g", "Down", "space", "alt+o", "Down", "alt+b", "Down"});
   program.Press({"alt+t", "6", "alt+f", "Down", "alt+s"});
-  ASSERT_TRUE(program.Sees_Window("WINE ADDITION SUCCESSFULLY"));
-  program.Press({"Return"});
-  ASSERT_TRUE(program.Window_Has_Gone("WINE ADDITION SUCCESSFULLY"));
+  ASSERT_TRUE(program.Answer_Box("WINE ADDITION SUCCESSFULLY"));
   // What a window manager does after a box has gone.
   display.Run("xdotool",
               {"search", "--onlyvisible", "--name", "^Add New Wine", "windowfocus", "--sync"});

@@ -99,18 +99,26 @@ int Program::Wait_For_End() {
 
 bool Program::Is_Running() const { return process_ && process_->state() == QProcess::Running; }
 
-bool Program::Sees_Window(const QString& title) const {
+QString Program::Window_Of(const QString& title) const {
   const QString exactly = "^" + QRegularExpression::escape(title) + "$";
-  return Comes_True([&] {
-    return !display_.Run("xdotool", {"search", "--onlyvisible", "--name", exactly}).isEmpty();
-  });
+  return display_.Run("xdotool", {"search", "--onlyvisible", "--name", exactly});
+}
+
+bool Program::Sees_Window(const QString& title) const {
+  return Comes_True([&] { return !Window_Of(title).isEmpty(); });
 }
 
 bool Program::Window_Has_Gone(const QString& title) const {
-  const QString exactly = "^" + QRegularExpression::escape(title) + "$";
-  return Comes_True([&] {
-    return display_.Run("xdotool", {"search", "--onlyvisible", "--name", exactly}).isEmpty();
-  });
+  return Comes_True([&] { return Window_Of(title).isEmpty(); });
+}
+
+bool Program::Answer_Box(const QString& title) const {
+  return Sees_Window(title) && Comes_True([&] {
+           const QString window = Window_Of(title);
+           if (window.isEmpty()) return true;
+           display_.Run("xdotool", {"windowfocus", "--sync", window, "key", "Return"});
+           return false;
+         });
 }
 
 void Program::Press(const QStringList& keys) const {

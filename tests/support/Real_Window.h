@@ -46,12 +46,16 @@ class Program {
   bool Sees_Window(const QString& title) const;
   /// Waits until no window has this title.
   bool Window_Has_Gone(const QString& title) const;
+  /// Presses Return in the message box of this title until it has gone; False after ten seconds.
+  bool Answer_Box(const QString& title) const;
   /// Presses keys one after the other, by their X names: "alt+m", "Down", "Return".
   void Press(const QStringList& keys) const;
   void Type(const QString& text) const;
   void Take_Picture(const QString& file) const;
 
  private:
+  QString Window_Of(const QString& title) const;
+
   const Display& display_;
   QTemporaryDir folder_;
   std::unique_ptr<QProcess> process_;

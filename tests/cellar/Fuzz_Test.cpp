@@ -193,6 +193,8 @@ class Cellar_Walk : public Cellar_Program {
       Click("Exit_Command");
     } else if (choice < 5 && Current_Command != "WineAdd") {
       Use(Find("Wine_Cellar_ListView"));
+    } else if (choice < 6) {
+      Use(Find(One_of(Lines{"Total_Bottles_Text", "Price_Text", "Alcohol_Text"})));
     } else {
       Use(*One_of(Usable_Controls()));
     }
@@ -202,7 +204,7 @@ class Cellar_Walk : public Cellar_Program {
   void Begin() {
     Pick(One_of(Lines{"Wine_Add", "Wine_Mod", "Wine_Mod", "Wine_Mod", "Wine_Uncork", "Wine_Del",
                       "Cellar1_View", "Cellar2_View"}));
-    if (Current_Command != "WineAdd") return;
+    if (Current_Command != "WineAdd" || !Is_Seen("Wine_Form")) return;
     const int winery = Random(2);
     const Text& label = Sample(winery).label;
     Fill_Add({One_of(Lines{"No Label", label, label, label}),

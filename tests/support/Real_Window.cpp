@@ -105,7 +105,10 @@ QString Program::Window_Of(const QString& title) const {
 }
 
 bool Program::Sees_Window(const QString& title) const {
-  return Comes_True([&] { return !Window_Of(title).isEmpty(); });
+  QString window;
+  if (!Comes_True([&] { return !(window = Window_Of(title)).isEmpty(); })) return false;
+  Focus(window);
+  return true;
 }
 
 bool Program::Window_Has_Gone(const QString& title) const {
@@ -116,9 +119,15 @@ bool Program::Answer_Box(const QString& title) const {
   return Sees_Window(title) && Comes_True([&] {
            const QString window = Window_Of(title);
            if (window.isEmpty()) return true;
-           display_.Run("xdotool", {"windowfocus", "--sync", window, "key", "Return"});
+           Focus(window);
+           Press({"Return"});
            return false;
          });
+}
+
+// There is no window manager to do it.
+void Program::Focus(const QString& window) const {
+  display_.Run("xdotool", {"windowfocus", window});
 }
 
 void Program::Press(const QStringList& keys) const {

@@ -42,7 +42,8 @@ class Program {
   std::string Folder() const { return folder_.path().toStdString(); }
   std::string Data_File() const { return Folder() + "/dbase/Wine_Cellar.mdb"; }
 
-  /// Waits until a window with exactly this title is shown; False after ten seconds.
+  /// Waits until a window with exactly this title is shown, and gives it the keys; False after ten
+  /// seconds.
   bool Sees_Window(const QString& title) const;
   /// Waits until no window has this title.
   bool Window_Has_Gone(const QString& title) const;
@@ -55,6 +56,7 @@ class Program {
 
  private:
   QString Window_Of(const QString& title) const;
+  void Focus(const QString& window) const;
 
   const Display& display_;
   QTemporaryDir folder_;

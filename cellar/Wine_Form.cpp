@@ -153,7 +153,6 @@ void Wine_Form::Load_for_General_List(const char* caption) {
 void Wine_Form::Wait_for_Country() {
   Lock_Top_Window();
   Checks_Locked = true;
-  Boxes.Clear();
   Country_Combo.Set_Locked(false);
   Country_Combo.Set_BackColor(Forms::Required_Color);
   Winery_Add_Command.Set_Enabled(true);
@@ -167,7 +166,6 @@ void Wine_Form::Wait_for_Country() {
 void Wine_Form::Wait_for_Pick() {
   Lock_Top_Window();
   Checks_Locked = true;
-  Boxes.Clear();
   Disable_Add_Buttons();
   Pairings_Add_Command.Set_Enabled(true);
   Multi_Functional_Command.Set_Caption("SAVE");

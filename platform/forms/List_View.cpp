@@ -221,6 +221,8 @@ void List_View::Picked(int place, bool by_arrow) {
   if (by_arrow) Focus_Watch::The().Give_Back(*this);
 }
 
+bool List_View::Was_Picked_From() const { return show_->current >= 0; }
+
 void List_View::Header_Clicked(int column) {
   Raise(*this, ColumnClick, Column_Header{column, Header_Text(column)});
 }

@@ -132,6 +132,8 @@ class List_View : public Placed_Control {
   /// Brings what is shown up to date, which otherwise happens at the end of the handler.
   void Refresh();
   void Picked(int place, bool by_arrow);
+  /// Whether a row was picked or selected since the list was filled.
+  bool Was_Picked_From() const;
   void Header_Clicked(int column);
 
  private:

@@ -183,8 +183,16 @@ void Row_View::keyPressEvent(QKeyEvent* event) {
     Pick_By_Key();
     return;
   }
-  const int before = currentIndex().row();
-  QTreeView::keyPressEvent(event);
+  // The first step goes onto the row that the focus stands on, which nobody picked yet.
+  const bool first_step = !list_.Was_Picked_From() && currentIndex().isValid() &&
+                          (key == Qt::Key_Down || key == Qt::Key_Up);
+  const int before = first_step ? -1 : currentIndex().row();
+  if (first_step) {
+    selectionModel()->select(currentIndex(),
+                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  } else {
+    QTreeView::keyPressEvent(event);
+  }
   const int now = currentIndex().row();
   if (now >= 0 && now != before) list_.Picked(now, true);
 }

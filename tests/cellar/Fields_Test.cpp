@@ -90,6 +90,20 @@ TEST_F(Fields, Country_and_winery_bring_what_belongs_to_them) {
   }
 }
 
+TEST_F(Fields, A_country_of_which_nothing_is_known_lets_a_winery_be_added) {
+  Start_With("Wine_Add");
+  Choose_Winery();
+  EXPECT_FALSE(Is_Usable("Winery_Add_Command"));
+  Choose("Country_Combo", List_of({},
+                                  "Long_Name FROM World_Contries WHERE Short_Name NOT IN "
+                                  "(SELECT Country FROM Regions) ORDER BY Long_Name")
+                              .front());
+  EXPECT_THAT(Shown_Rows("Winery_Combo"), ElementsAre("New Winery"));
+  EXPECT_THAT(Shown_Rows("Region_Combo"), ElementsAre());
+  EXPECT_THAT(Shown_Rows("Label_Combo"), ElementsAre("New Label"));
+  EXPECT_TRUE(Is_Usable("Winery_Add_Command"));
+}
+
 TEST_F(Fields, A_label_sets_its_color_and_neither_the_boxes_nor_the_gate) {
   Start_With("Wine_Add");
   Choose_Winery();

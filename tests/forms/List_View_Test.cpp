@@ -238,6 +238,15 @@ TEST_F(List_View_Test, Mouse_and_keys_pick_a_row) {
   EXPECT_EQ(Taken(), Log({"Rioja"}));
 }
 
+TEST_F(List_View_Test, The_first_arrow_key_picks_the_row_that_the_focus_stands_on) {
+  list.SetFocus();
+  Taken();
+  form.deselects = true;
+  Press("Down");
+  Press("Down");
+  EXPECT_EQ(Taken(), Log({"Rioja", "alsace"}));
+}
+
 TEST_F(List_View_Test, Browsing_goes_on_though_the_handler_moves_the_focus_or_deselects) {
   Click_Row("Regions_ListView", 0);
   Taken();

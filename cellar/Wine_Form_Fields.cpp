@@ -10,7 +10,6 @@
 #include "platform/run_time/Conversions.h"
 
 using Forms::Locked_Color;
-using Forms::Required_Color;
 using Forms::Window_Color;
 
 namespace {

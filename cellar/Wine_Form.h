@@ -10,7 +10,6 @@
 // _Show a stored wine on the fields, _List the cellar's list, _Commit the writes.
 #pragma once
 
-#include <array>
 #include <functional>
 #include <initializer_list>
 #include <optional>

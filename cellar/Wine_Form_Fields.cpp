@@ -181,9 +181,8 @@ void Wine_Form::Variety_Combo_ItemCheck(int item) {
 }
 
 void Wine_Form::Color_Combo_Click() {
-  constexpr std::array english_colors{"Red", "White", "Rosé", "Sparkling", "Fortified"};
   Fill_In(Color_Combo);
-  Boxes.Offer(english_colors.at(static_cast<std::size_t>(Color_Combo.ListIndex())));
+  Boxes.Offer(English_Color(Color_Combo.ListIndex()));
 }
 
 void Wine_Form::Bottle_Size_Combo_Click() { Fill_In(Bottle_Size_Combo); }

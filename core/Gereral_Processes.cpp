@@ -1,5 +1,6 @@
 #include "core/Gereral_Processes.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/Globals.h"
@@ -36,6 +37,8 @@ Text Country_By(const char* index, Keys key, const char* wanted) {
   return name;
 }
 
+constexpr std::array<std::string_view, 5> english_colors{"Red", "White", "Rosé", "Sparkling",
+                                                         "Fortified"};
 constexpr std::array wine_type_codes{"VA", "LE", "AP"};
 
 }  // namespace
@@ -126,12 +129,13 @@ int Country_Name_Column() {
 }
 
 Integer Color_Index(std::string_view color) {
-  constexpr std::array<std::string_view, 5> colors{"Red", "White", "Rosé", "Sparkling",
-                                                   "Fortified"};
-  for (Integer index = 0; index < 5; ++index) {
-    if (colors[static_cast<std::size_t>(index)] == color) return index;
-  }
-  return 0;
+  const auto* found = std::ranges::find(english_colors, color);
+  return found == english_colors.end() ? Integer{0}
+                                       : static_cast<Integer>(found - english_colors.begin());
+}
+
+std::string_view English_Color(int index) {
+  return english_colors.at(static_cast<std::size_t>(index));
 }
 
 Text Replace_Key(std::string_view foreign) {

@@ -77,6 +77,8 @@ int Country_Name_Column();
 /// 0 to 4 for "Red", "White", "Rosé", "Sparkling", "Fortified", exactly so written; 0 for any
 /// other.
 Integer Color_Index(std::string_view color);
+/// The way back: the English word of a colour, 0 to 4.
+std::string_view English_Color(int index);
 /// The English word for a foreign one; one blank for a word that `ReplaceKeys` does not hold.
 Text Replace_Key(std::string_view foreign);
 /// The program's folder less its last part; "" where the path has no parts.

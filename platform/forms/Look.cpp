@@ -83,17 +83,16 @@ QString Sheet(const QWidget* widget, Color back, Color fore) {
   if (back.of_the_theme) return QString("%1 { color: %2; }").arg(self, Css(fore));
   const Color ink = fore.of_the_theme ? Readable_On(back) : fore;
   QString sheet = QString("%1 { background-color: %2; color: %3;").arg(self, Css(back), Css(ink));
+  const bool tick_box = qobject_cast<const QCheckBox*>(widget) != nullptr;
   if (qobject_cast<const QAbstractItemView*>(widget) != nullptr) {
     sheet += QString(" alternate-background-color: %1; border: %2;").arg(Css(back), Border(back));
-  } else if (qobject_cast<const QCheckBox*>(widget) != nullptr) {
+  } else if (tick_box) {
     sheet += " border-radius: 3px; padding: 1px 4px;";
   } else if (widget->focusPolicy() != Qt::NoFocus) {
     sheet += QString(" border: %1; border-radius: 3px; padding: 1px 4px;").arg(Border(back));
   }
   sheet += QString(" } %1:disabled { color: %2; }").arg(self, Css(Mixed(ink, back)));
-  if (qobject_cast<const QCheckBox*>(widget) == nullptr) {
-    sheet += QString(" %1:focus { border: 2px solid palette(highlight); }").arg(self);
-  }
+  if (!tick_box) sheet += QString(" %1:focus { border: 2px solid palette(highlight); }").arg(self);
   return sheet;
 }
 

@@ -13,16 +13,6 @@ namespace {
 
 const Forms::Screen screen("Wine_Form");
 
-void Name_Cellars(Record_Store::Database& file) {
-  Record_Store::Recordset cellars = file.OpenRecordset("Cellars");
-  cellars.Edit();
-  cellars.Fields("Cellar_Name") = "Home";
-  cellars.Update();
-  cellars.AddNew();
-  cellars.Fields("Cellar_Name") = "Office";
-  cellars.Update();
-}
-
 std::vector<Text> Cut(const Text& line) {
   std::vector<Text> parts(1);
   for (const char letter : line) {
@@ -53,7 +43,7 @@ Cellar_Program::Cellar_Program() {
   Set_Locale("en_US");
   Set_Clock_For_Tests(&now_);
   QApplication::setDoubleClickInterval(20);  // for how long a list takes no click once it is open
-  Change(Name_Cellars);
+  Name_Cellars_In_File();
 }
 
 Cellar_Program::~Cellar_Program() {

@@ -89,15 +89,7 @@ class Menu : public Program_Folder {
  protected:
   // With named cellars nearly every entry can be chosen.
   void SetUp() override {
-    Change([](Record_Store::Database& file) {
-      Record_Store::Recordset cellars = file.OpenRecordset("Cellars");
-      cellars.Edit();
-      cellars.Fields("Cellar_Name") = "Home";
-      cellars.Update();
-      cellars.AddNew();
-      cellars.Fields("Cellar_Name") = "Office";
-      cellars.Update();
-    });
+    Name_Cellars_In_File();
     Start();
   }
   // The registry keeps what it was told; the next test is to find the screens absent again.

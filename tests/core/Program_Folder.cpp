@@ -69,3 +69,15 @@ void Program_Folder::Set_Language(Integer number) const {
     system.Update();
   });
 }
+
+void Program_Folder::Name_Cellars_In_File() const {
+  Change([](Record_Store::Database& file) {
+    Record_Store::Recordset cellars = file.OpenRecordset("Cellars");
+    cellars.Edit();
+    cellars.Fields("Cellar_Name") = "Home";
+    cellars.Update();
+    cellars.AddNew();
+    cellars.Fields("Cellar_Name") = "Office";
+    cellars.Update();
+  });
+}

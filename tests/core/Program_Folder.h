@@ -30,6 +30,8 @@ class Program_Folder : public testing::Test {
   /// Changes the data file from outside, before a start.
   void Change(const std::function<void(Record_Store::Database&)>& change) const;
   void Set_Language(Integer number) const;
+  /// "Home" and "Office".
+  void Name_Cellars_In_File() const;
 
  private:
   Temporary_Folder folder_;

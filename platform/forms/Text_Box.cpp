@@ -23,7 +23,11 @@ Text_Box::Text_Box(Form& form, std::string_view name, Lines lines)
   sheet->setTabChangesFocus(true);
   // The raw text: the plain one makes ordinary blanks of those that keep words together.
   QObject::connect(sheet, &QPlainTextEdit::textChanged, [this, sheet] {
-    Take_Over(From_Qt(sheet->document()->toRawText().replace(QChar::ParagraphSeparator, "\r\n")));
+    QString text = sheet->document()->toRawText();
+    for (const auto line_break : {QChar::ParagraphSeparator, QChar::LineSeparator}) {
+      text.replace(line_break, "\r\n");
+    }
+    Take_Over(From_Qt(text));
   });
   Set_Widget(sheet);
 }

@@ -101,6 +101,8 @@ TEST_F(Controls_Test, A_text_changes_by_keys_and_by_code_but_not_to_what_it_is) 
   Press("Return");
   Type("x");
   EXPECT_EQ(form.Notes_Text.Text(), "one\r\ntwo\r\nx");
+  Press("Shift+Return");
+  EXPECT_EQ(form.Notes_Text.Text(), "one\r\ntwo\r\nx\r\n");
   Press("Tab");
   EXPECT_EQ(Focused(), "Taste_Check_0");
 }

@@ -3,6 +3,7 @@
 #include "cellar/Wine_Form.h"
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
+#include "core/Link_Decoders.h"
 #include "core/Varieties_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"

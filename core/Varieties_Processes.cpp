@@ -1,51 +1,40 @@
 #include "core/Varieties_Processes.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <utility>
 
-#include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "core/Globals.h"
 #include "platform/run_time/Conversions.h"
 
 namespace {
 
-constexpr Long subgroups_of_a_group = 10;
+constexpr std::size_t subgroups_of_a_group = 10;
+constexpr std::size_t first_language = 3;
 
-// Lands on the first variety of the group. False where the group has none.
-bool Seek_Group(Long group) {
-  Varieties_Recordset.Seek("=", group);
-  if (Varieties_Recordset.NoMatch()) return false;
-  Read_Varieties_Record();
-  return true;
-}
-
-// Looks for a subgroup from the current row of `Varieties` on.
-bool Find_Subgroup(Long subgroup) {
-  for (int row = 0; row < subgroups_of_a_group; ++row) {
-    if (Varieties.Variety_SubGr == subgroup) return true;
-    Varieties_Recordset.MoveNext();
-    if (Varieties_Recordset.Eof()) return false;
-    Read_Varieties_Record();
+// The place of the first group that is smaller than that of the first entry; 0 where there is none.
+int Smaller_than_First() {
+  for (int entry = 2; entry <= Sort_Count; ++entry) {
+    if (Selected_Groups[entry] < Selected_Groups[1]) return entry;
   }
-  return false;
-}
-
-// After each subgroup back to the group's first row, also behind the last one.
-void Decode_Varieties(Long group, Long mask) {
-  Decoded_Group = group;
-  Decoded_Mask = mask;
-  bool in_group = Seek_Group(group);
-  while (in_group && Decoded_Mask >= 1) {
-    if (Find_Subgroup(Next_Subgroup_of_Mask(Decoded_Mask))) {
-      Decoded_Items[++Decoded_Count] = {Varieties.Variety_ID, Varieties.Variety_Name,
-                                        Varieties.Variety_Color};
-    }
-    in_group = Seek_Group(group);
-  }
+  return 0;
 }
 
 }  // namespace
+
+void Kept_Selection::Restore() const {
+  Selected_Count = Count;
+  Selected_Names = Names;
+  Selected_IDs = IDs;
+}
+
+const Text& Decoded_Maridage::Name_in_Language() const {
+  using M = Decoded_Maridage;
+  constexpr std::array names{&M::English, &M::Spanish,  &M::French,    &M::German,
+                             &M::Italian, &M::Japanese, &M::Portuguese};
+  return this->*names.at(static_cast<std::size_t>(System_Language) - first_language);
+}
 
 Long Subgroup_Mask(Long subgroup) {
   return To_Long(std::pow(10.0, static_cast<double>(subgroup - 1)));
@@ -62,22 +51,23 @@ Long Next_Subgroup_of_Mask(Long& mask) {
   }
   digits[first] = '0';
   mask = To_Long(digits);
-  return subgroups_of_a_group - static_cast<Long>(first);
+  return static_cast<Long>(subgroups_of_a_group - first);
 }
 
-void Load_Varieties_of_Region() {
-  Decoded_Count = 0;
-  Open_Table(Varieties_Recordset, "Varieties");
-  Varieties_Recordset.Index("Variety_GROUP");
-  Open_Table(Varieties_Per_Region_Recordset, "Varieties_Per_Region");
-  Varieties_Per_Region_Recordset.Index("Region_ID");
-  Varieties_Per_Region_Recordset.Seek("=", Regions.Region_ID);
-  for (; !Varieties_Per_Region_Recordset.NoMatch() && !Varieties_Per_Region_Recordset.Eof();
-       Varieties_Per_Region_Recordset.MoveNext()) {
-    Read_Varieties_Per_Region_Record();
-    if (Varieties_Per_Region.Region_ID != Regions.Region_ID) break;
-    Decode_Varieties(Varieties_Per_Region.GROUP / 10, Varieties_Per_Region.SUBCATEGO);
+void Merge_Selected_Groups() {
+  while (const int smaller = Smaller_than_First()) {
+    std::swap(Selected_Groups[1], Selected_Groups[smaller]);
+    std::swap(Selected_Masks[1], Selected_Masks[smaller]);
   }
-  Close_Table(Varieties_Per_Region_Recordset);
-  Close_Table(Varieties_Recordset);
+  Group_Count = 0;
+  for (int entry = 1; entry <= Sort_Count; ++entry) {
+    if (entry > 1 && Selected_Groups[entry] == Selected_Groups[entry - 1]) {
+      Long& mask = Group_Masks[Group_Count];
+      mask = To_Long(static_cast<double>(mask) + static_cast<double>(Selected_Masks[entry]));
+    } else {
+      ++Group_Count;
+      Group_Keys[Group_Count] = Selected_Groups[entry];
+      Group_Masks[Group_Count] = Selected_Masks[entry];
+    }
+  }
 }

@@ -1,20 +1,64 @@
-// The links between wines, varieties, regions and pairings: a selection of theirs as rows of a link
-// table, and such rows as a list again.
+// The links between wines, varieties, regions, cheeses and pairings: what they have in common.
 //
-// A group link row holds a group (times ten) and a decimal mask: its digit n, from the right, is 1
-// for subgroup n of the group, up to ten of them.
+// A group link row holds an owner, a group (times ten) and a decimal mask: its digit n, from the
+// right, is 1 for subgroup n of the group, up to ten of them. Selections become such rows in
+// Link_Store.h, rows become lists again in Link_Decoders.h, and Link_Search.h finds the owners that
+// a selection has something in common with. They hand over through the arrays below, all of which
+// count from 1, hold 100 entries (a 101st is failure 9) and are never cleared.
 #pragma once
 
 #include "platform/run_time/Bounded_Array.h"
 #include "platform/run_time/Values.h"
 
-// ---- the pairings chosen on a screen, from entry 1; a 101st is failure 9 ----
+// ---- what was chosen on a screen; lives from one screen to the next ----
 
 inline Integer Selected_Count = 0;
 inline Bounded_Array<Text, 100> Selected_Names;
 inline Bounded_Array<Text, 100> Selected_IDs;  ///< their keys, as text
 
-// ---- what the decoders found, from entry 1; a 101st is failure 9 ----
+/// What was chosen, kept aside.
+struct Kept_Selection {
+  Integer Count = Selected_Count;
+  Bounded_Array<Text, 100> Names = Selected_Names;
+  Bounded_Array<Text, 100> IDs = Selected_IDs;
+
+  void Restore() const;
+};
+
+/// Set by a picker that hands a selection back; cleared by the screen that takes it over.
+inline bool Variety_Pairings_Changed = false;
+inline bool Cheese_Wines_Changed = false;
+inline bool Cheese_Foods_Changed = false;
+inline bool Varieties_Changed_Flag = false;  ///< the varieties of a region
+
+// ---- the same as addresses: a group and a mask of one digit for each, filled by the builds ----
+
+inline Bounded_Array<Long, 100> Selected_Groups;
+inline Bounded_Array<Long, 100> Selected_Masks;
+inline Long Sort_Count = 0;  ///< how many of them are to be merged
+
+// ---- the merged addresses: what the group link rows of the selection hold ----
+
+inline Integer Group_Count = 0;
+inline Bounded_Array<Long, 100> Group_Keys;
+inline Bounded_Array<Long, 100> Group_Masks;
+
+// ---- what the decoders found ----
+
+/// A pairing, with its name in each language.
+struct Decoded_Maridage {
+  Long Maridage_ID{};
+  Text Maridage_Name;
+  Text English;
+  Text Spanish;
+  Text French;
+  Text German;
+  Text Italian;
+  Text Japanese;
+  Text Portuguese;
+
+  const Text& Name_in_Language() const;  ///< the one in force
+};
 
 struct Decoded_Item {
   Long ID{};
@@ -23,9 +67,16 @@ struct Decoded_Item {
 };
 
 inline Integer Decoded_Count = 0;
+inline Bounded_Array<Decoded_Maridage, 100> Decoded_Maridages;
+inline Bounded_Array<Decoded_Maridage, 100> Decoded_Cheese_Maridages;  ///< those of a cheese
 inline Bounded_Array<Decoded_Item, 100> Decoded_Items;
 inline Long Decoded_Group = 0;  ///< the group of the row being read
 inline Long Decoded_Mask = 0;   ///< its subgroups still to be read
+
+// ---- what a search found ----
+
+inline Integer Found_Count = 0;
+inline Bounded_Array<Text, 100> Found_IDs;  ///< keys, as text
 
 // ---- masks ----
 
@@ -36,10 +87,8 @@ Long Subgroup_Mask(Long subgroup);
 /// is negative; it is 0 then.
 Long Next_Subgroup_of_Mask(Long& mask);
 
-// ---- decoders ----
-
-/// The varieties of the region in the memory record of `Regions`, by their link rows, in each group
-/// from the highest subgroup down. A subgroup that does not stand among the first ten rows of its
-/// group is left out. The memory record of `Varieties` holds the row read last: the first one of
-/// the last link row's group.
-void Load_Varieties_of_Region();
+/// Merges the first `Sort_Count` addresses into `Group_Keys` and `Group_Masks`, one entry for each
+/// run of equal groups. Only the smallest group is brought to the front before; equal groups that
+/// do not stand side by side then stay apart, and whoever reads the entries can live with that. 6
+/// where a group's masks together are more than a Long holds.
+void Merge_Selected_Groups();

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <random>
 
+#include "core/Link_Decoders.h"
 #include "core/tables/Catalogue.h"
 #include "platform/run_time/Conversions.h"
 #include "tests/core/Program_Folder.h"

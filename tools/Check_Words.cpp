@@ -3,6 +3,7 @@
 #include <set>
 #include <span>
 
+#include "core/Screen_Words.h"
 #include "tools/Compile_Library.h"
 #include "tools/Vocabulary.h"
 
@@ -14,18 +15,21 @@ constexpr std::size_t Texts_Of_A_Form = 150;
 constexpr std::string_view Main_Form = "Wine_Cellar_Form";
 
 /// A key under which a screen asks for its texts, and how many it reads; 0 where it does not say.
+/// A screen that takes them by position has a table of its rows instead.
 struct Form {
   std::string_view key;
   std::size_t rows;
+  std::span<const Screen_Words::Row> table{};
 };
-constexpr std::array<Form, 8> Forms = {{{Main_Form, 0},
-                                        {"Wine_Form", 0},
-                                        {"Mobile_Wine_Form", 88},
-                                        {"Cate_Add_Form", 0},
-                                        {"Find_File_Form", 34},
-                                        {"Select_Mult_Varieties", 0},
-                                        {"Select_Mult_Cat", 22},
-                                        {"Initialize_Form", 0}}};
+constexpr std::array<Form, 8> Forms = {
+    {{Main_Form, 0},
+     {"Wine_Form", 0},
+     {"Mobile_Wine_Form", 88},
+     {"Cate_Add_Form", 0, Screen_Words::Cate_Add_Form},
+     {"Find_File_Form", 34},
+     {"Select_Mult_Varieties", 0, Screen_Words::Select_Mult_Varieties},
+     {"Select_Mult_Cat", 0, Screen_Words::Select_Mult_Cat},
+     {"Initialize_Form", 0}}};
 
 /// The main window reads what stands behind its "Frm" row by position: colours, types of cheese,
 /// milks, and eight words of its own.
@@ -43,6 +47,34 @@ Rows Rows_Of_Form(const Library& library, std::string_view form) {
   return rows;
 }
 
+bool Is_Row(const Words_Record& row, const Screen_Words::Row& expected) {
+  return row.Variable == expected.Variable && row.types_variable == expected.types_variable;
+}
+
+/// Tells the line that does not hold what the screen's table has there. What is missing at the end
+/// is told at the last row there is.
+void Report_Row(const Library& library, const Form& form, const Rows& rows, std::size_t at,
+                Problems& problems) {
+  const std::string where =
+      rows.empty() ? "words.tsv" : library.Where(*rows[std::min(at, rows.size() - 1)]);
+  const std::string place = "row " + std::to_string(at + 1) + " of " + std::string(form.key);
+  if (at >= form.table.size()) return problems.Report(where, place + " is one too many");
+  const auto& [variable, type] = form.table[at];
+  problems.Report(where, place + " must be '" + std::string(variable) + "' of type " +
+                             std::string(type) + (at < rows.size() ? "" : ", and is missing"));
+}
+
+/// The rows of a screen that takes them by position: all of its table, in its order. A row too many
+/// or too few moves all behind it, so only the first place is told then.
+void Check_Table(const Library& library, const Form& form, Problems& problems) {
+  const Rows rows = Rows_Of_Form(library, form.key);
+  for (std::size_t i = 0; i < std::max(rows.size(), form.table.size()); ++i) {
+    if (i < rows.size() && i < form.table.size() && Is_Row(*rows[i], form.table[i])) continue;
+    Report_Row(library, form, rows, i, problems);
+    if (rows.size() != form.table.size()) return;
+  }
+}
+
 void Check_Forms(const Library& library, Problems& problems) {
   for (const Words_Record& row : library.Of<Words_Record>()) {
     const auto known = [&](const Form& form) { return form.key == row.Program; };
@@ -58,6 +90,7 @@ void Check_Forms(const Library& library, Problems& problems) {
     if (form.rows != 0 && count != 0 && count != form.rows)
       problems.Report("words.tsv", name + " reads " + std::to_string(form.rows) + " texts, not " +
                                        std::to_string(count));
+    if (!form.table.empty()) Check_Table(library, form, problems);
   }
 }
 

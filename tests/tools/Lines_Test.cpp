@@ -1,6 +1,8 @@
 // Each fault that a line of the data can have, one at a time: it is found, and told with its place.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/tools/Small_Library.h"
 
 namespace {
@@ -142,6 +144,59 @@ TEST(Line_Reports, All_Faults_Are_Told_At_Once) {
   const std::string report = Text_Of(problems);
   for (const char* problem : {"'Mrlot'", "'Mlbec'", "labels.tsv:5: unknown region 'Nord (FRA)'"})
     EXPECT_NE(report.find(problem), std::string::npos) << report;
+}
+
+/// Where the first row of words.tsv that begins so stands, as a report says it.
+std::string Words_Line(const Small_Library& small, const std::string& row) {
+  const std::string text = Contents(small.Folder() + "/words.tsv");
+  const std::size_t at = text.find("\n" + row) + 1;
+  EXPECT_NE(at, 0U) << row;
+  const auto lines = std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), '\n');
+  return "words.tsv:" + std::to_string(lines + 1) + ": ";
+}
+
+/// Changes how the first such row of words.tsv begins.
+void Rename(const Small_Library& small, const std::string& from, const std::string& to) {
+  small.Replace("words.tsv", "\n" + from, "\n" + to);
+}
+
+std::string Report_Of(const Small_Library& small) {
+  Problems problems;
+  small.Compile(problems);
+  return Text_Of(problems);
+}
+
+// Rows whose place is their meaning: renamed, of another type, missing, swapped.
+TEST(Line_Reports, Rows_Of_Screens_That_Read_By_Position) {
+  const Small_Library small;
+  Rename(small, "Cate_Add_Form\tView_Caption", "Cate_Add_Form\tCaption");
+  Rename(small, "Cate_Add_Form\tAdd_Text\tHead", "Cate_Add_Form\tAdd_Text\tCap");
+  Rename(small, "Select_Mult_Cat\tLabel1", "# no row");
+  // The later one first: it is the first of its name only until the other one gets it.
+  Rename(small, "Select_Mult_Varieties\tCheese_Text", "Select_Mult_Varieties\tRegion_Text");
+  Rename(small, "Select_Mult_Varieties\tRegion_Text", "Select_Mult_Varieties\tCheese_Text");
+  EXPECT_EQ(Report_Of(small),
+            Words_Line(small, "Cate_Add_Form\tCaption") +
+                "row 5 of Cate_Add_Form must be 'View_Caption' of type Head\n" +
+                Words_Line(small, "Cate_Add_Form\tAdd_Text") +
+                "row 15 of Cate_Add_Form must be 'Add_Text' of type Head\n" +
+                Words_Line(small, "Select_Mult_Varieties\tCheese_Text") +
+                "row 19 of Select_Mult_Varieties must be 'Region_Text' of type Head\n" +
+                Words_Line(small, "Select_Mult_Varieties\tRegion_Text") +
+                "row 21 of Select_Mult_Varieties must be 'Cheese_Text' of type Head\n" +
+                Words_Line(small, "Select_Mult_Cat\tMSelectLab1") +
+                "row 2 of Select_Mult_Cat must be 'Label1' of type Cap\n");
+}
+
+TEST(Line_Reports, Too_Many_Or_Too_Few_Rows_At_The_End) {
+  const Small_Library small;
+  Rename(small, "Cate_Add_Form\tCate_Add_Form", "# no row");
+  small.Append("words.tsv", "Select_Mult_Cat\tMore\tHead\ta\tb\tc\td\te\tf\tg\n");
+  EXPECT_EQ(Report_Of(small),
+            Words_Line(small, "Cate_Add_Form\tAdd_Text") +
+                "row 16 of Cate_Add_Form must be 'Cate_Add_Form' of type Frm, and is missing\n" +
+                Words_Line(small, "Select_Mult_Cat\tMore") +
+                "row 23 of Select_Mult_Cat is one too many\n");
 }
 
 TEST(Line_Reports, Optional_Files_May_Be_Missing) {

@@ -16,25 +16,12 @@ constexpr const char* pick_first = "Please Select a Wine from the Cellar first";
 
 }  // namespace
 
-Wine_Form::Wine_Form()
-    : Form("Wine_Form", "Wine Information"),
-      Wine_Cellar_ListView(*this, "Wine_Cellar_ListView",
-                           {{"Vintage", 8},
-                            {"Winery", 30},
-                            {"Label", 28},
-                            {"Wine Region", 20},
-                            {"Grape Variety", 38},
-                            {"Color", 10},
-                            {"Merit", 7, false, true},
-                            {"Peak", 7, false, true},
-                            {"Stock", 7, false, true},
-                            {"ID", 8, false, true}}) {
+Wine_Form::Wine_Form() : Wine_Screen("Wine_Form", "Wine Information") {
   for (Forms::Placed_Control* field : Gate_Fields()) field->Set_Tag("0");
   for (Forms::Control* field : {static_cast<Forms::Control*>(&Country_Combo),
                                 static_cast<Forms::Control*>(&Region_Combo)}) {
     field->Set_Tag("0");
   }
-  Message_Label.Set_Visible(false);
   Lay_Out();
   Set_Up_Handlers();
 }

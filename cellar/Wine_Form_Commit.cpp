@@ -2,6 +2,7 @@
 // a failure stays written.
 #include "cellar/Wine_Form.h"
 #include "core/Globals.h"
+#include "core/Link_Store.h"
 #include "core/MultiLanguage_Processes.h"
 #include "core/Used_Counters.h"
 #include "core/tables/Catalogue.h"
@@ -60,6 +61,7 @@ void Wine_Form::Count_Wine_In() {
   }
   Store_Varieties();
   if (Variety_Combo.ListIndex() >= 1) Count_Variety(Varieties.Variety_ID, 1);
+  Store_Pairings();
 }
 
 // ---- MODIFY ----
@@ -74,6 +76,7 @@ void Wine_Form::Modify_Wine() {
   Boxes.Store_Marks_of(Wines.Wine_ID, true);
   Remove_Varieties();
   Store_Varieties();
+  Store_Pairings();
   Lock_Top_Window();
   Display_Current_Cellar();
   Multi_Functional_Command.Set_Enabled(false);
@@ -109,33 +112,6 @@ void Wine_Form::Remove_Varieties() {
   Close_Table(Varieties_of_Wines_Recordset);
 }
 
-// ---- UNCORK ----
-
-void Wine_Form::Uncork_Wine() {
-  Seek_Wine();
-  Wines.Total_Bottles = To_Integer(static_cast<double>(Wines.Total_Bottles - 1));
-  Wines.Last_Date_Uncorked = Now();
-  Wines_Recordset.Edit();
-  Write_Wines_Record();
-  Close_Table(Wines_Recordset);
-  Selected_Wine_ID = To_Integer(static_cast<double>(Wines.Wine_ID));
-  Forms::Message_Box("Your Wine Cellar was updated. This bottle of Wine was marked as Uncorked",
-                     "WINE UNCORKED");
-  Total_Bottles_Text.Set_Text(To_Text(Wines.Total_Bottles));
-  if (Wines.Total_Bottles == 0) {
-    Require(Total_Bottles_Text);
-    Multi_Functional_Command.Set_Enabled(false);
-  }
-  Last_Date_Uncorked_Text.Set_Text(To_Text(Wines.Last_Date_Uncorked));
-  Display_Current_Cellar();
-  if (std::optional<Forms::List_Item> item = Item_of_Wine(To_Text(Selected_Wine_ID))) {
-    item->Set_Selected(true);
-    item->EnsureVisible();
-  }
-  Wines.Wine_ID = Selected_Wine_ID;
-  Seek_Wine();
-}
-
 // ---- REMOVE ----
 
 void Wine_Form::Remove_Wine() {
@@ -165,14 +141,6 @@ void Wine_Form::Count_Wine_Out() {
 }
 
 // ---- what they share ----
-
-// Leaves `Wines` open on the row of the wine in the memory record. 3021 where it has gone.
-void Wine_Form::Seek_Wine() {
-  Open_Table(Wines_Recordset, "Wines");
-  Wines_Recordset.Index("Wine_ID");
-  Wines_Recordset.Seek("=", Wines.Wine_ID);
-  Read_Wines_Record();
-}
 
 void Wine_Form::From_Form_to_Memory() {
   const Text price = Trim(Price_Text.Text());
@@ -233,4 +201,9 @@ void Wine_Form::Store_Varieties() {
     Varieties_of_Wines_Recordset.Update();
   }
   Close_Table(Varieties_of_Wines_Recordset);
+}
+
+// Where the list is empty, the stored pairings stay.
+void Wine_Form::Store_Pairings() {
+  if (Pairing_List.ListCount() > 0) Store_Wine_Maridages();
 }

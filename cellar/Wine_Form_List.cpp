@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr int key_column = 9;
 constexpr int columns_known_by_header = 6;
 
 }  // namespace
@@ -25,30 +24,15 @@ void Wine_Form::Display_Current_Cellar() {
   }
   Open_Table(Wineries_Recordset, "Wineries");
   Wineries_Recordset.Index("Winery_ID");
-  Wine_Cellar_ListView.Clear();
-  Wine_Cellar_ListView.Set_Sorted(false);
-  Wine_Cellar_ListView.Set_SortKey(0);
-  Wine_Cellar_ListView.Set_SortOrder(0);
+  Clear_Wine_List();
   for (Wines_Recordset.MoveFirst(); !Wines_Recordset.Eof(); Wines_Recordset.MoveNext()) {
     Read_Wines_Record();
-    if (Wines.Cellar_ID == Current_Cellar_ID) Add_Current_Wine();
+    if (Wines.Cellar_ID != Current_Cellar_ID) continue;
+    Wineries_Recordset.Seek("=", Wines.Winery_ID);
+    Read_Wineries_Record();
+    Add_Wine_to_List();
   }
   Close_Table(Wines_Recordset);
-}
-
-void Wine_Form::Add_Current_Wine() {
-  Wineries_Recordset.Seek("=", Wines.Winery_ID);
-  Read_Wineries_Record();
-  Forms::List_Item item = Wine_Cellar_ListView.Add(To_Text(Wines.Vintage));
-  item.Set_SubItems(1, Wineries.Winery_Name);
-  if (Wines.Label != "x") item.Set_SubItems(2, Wines.Label);
-  item.Set_SubItems(3, Wineries.Region);
-  item.Set_SubItems(4, Wines.Variety);
-  item.Set_SubItems(5, Wines.Color);
-  if (Wines.Ranking != -1) item.Set_SubItems(6, To_Text(Wines.Ranking));
-  item.Set_SubItems(7, To_Text(Wines.Peak));
-  item.Set_SubItems(8, To_Text(Wines.Total_Bottles));
-  item.Set_SubItems(key_column, To_Text(Wines.Wine_ID));
 }
 
 // Sorts by text, numbers too. The column of the keys turns the order and keeps the column.
@@ -72,7 +56,7 @@ void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
     return;
   }
   Checks_Locked = false;
-  const Integer wine_id = To_Integer(item.SubItems(key_column));
+  const Integer wine_id = To_Integer(Wine_Key(item));
   Open_Table(Wines_Recordset, "Wines");
   Wines_Recordset.Index("WINE_ID");
   Wines_Recordset.Seek("=", wine_id);
@@ -135,12 +119,4 @@ void Wine_Form::Picked_for_Del() {
   Multi_Functional_Command.Set_Visible(true);
   Multi_Functional_Command.Set_Caption("REMOVE");
   Multi_Functional_Command.Set_Enabled(true);
-}
-
-std::optional<Forms::List_Item> Wine_Form::Item_of_Wine(const Text& wine_id) {
-  for (int place = 1; place <= Wine_Cellar_ListView.Count(); ++place) {
-    const Forms::List_Item item = Wine_Cellar_ListView.ListItems(place);
-    if (item.SubItems(key_column) == wine_id) return item;
-  }
-  return std::nullopt;
 }

@@ -68,10 +68,7 @@ void Wine_Form::Initialize_Own_Fields() {
   Boxes.Clear();
   Initialize_Bootle_Size();
   Initialize_Merit();
-  for (Forms::Text_Box* box : {&Total_Bottles_Text, &Price_Text, &Alcohol_Text, &Date_Added_Text,
-                               &Last_Date_Uncorked_Text, &Description_Text, &Comments_Text}) {
-    box->Set_Text("");
-  }
+  for (Forms::Text_Box* box : Text_Fields()) box->Set_Text("");
   Pairing_Lines.Clear();
   Checks_Locked = false;
 }
@@ -127,15 +124,6 @@ void Wine_Form::Load_Country(const Text& short_name) {
   if (place >= 0) Country_Combo.Set_ListIndex(place);
   Load_Regions_for_Country(short_name);
   Load_Classifications(short_name);
-}
-
-void Wine_Form::Load_Country_Unique(const Text& short_name) {
-  Open_Table(World_Contries_Recordset, "World_Contries");
-  World_Contries_Recordset.Index("Short_Name");
-  World_Contries_Recordset.Seek("=", short_name);
-  Country_Lines.Show_Alone(World_Contries_Recordset.Fields(Country_Name_Column()).As_Text(),
-                           World_Contries_Recordset.Fields("Short_Name").As_Text());
-  Close_Table(World_Contries_Recordset);
 }
 
 void Wine_Form::Load_Wineries_in_Country(const Text& short_name) {
@@ -236,16 +224,6 @@ void Wine_Form::Load_Varieties_for_Region(Long region_id) {
     Variety_Lines.Add(Decoded_Items[item].Name, To_Text(Decoded_Items[item].ID));
   }
   Variety_Combo.Set_ListIndex(0);
-}
-
-void Wine_Form::Load_Region_Unique() {
-  Open_Table(Wineries_Recordset, "Wineries");
-  Wineries_Recordset.Index("Winery_ID");
-  Wineries_Recordset.Seek("=", Wineries.Winery_ID);
-  Region_Lines.Show_Alone(Wineries_Recordset.Fields("Region").As_Text(),
-                          Wineries_Recordset.Fields("Region_ID").As_Text());
-  Close_Table(Wineries_Recordset);
-  Lock(Region_Combo);
 }
 
 // The peak years follow from the choice.

@@ -7,34 +7,9 @@ using Forms::Locked_Color;
 using Forms::Required_Color;
 using Forms::Window_Color;
 
-std::vector<Forms::Lockable_Control*> Wine_Form::Entry_Fields() {
-  return {&Winery_Combo,      &Label_Combo,          &Region_Combo,     &Country_Combo,
-          &Vintage_Combo,     &Peak_Year_Combo,      &Price_Text,       &Merit_Combo,
-          &Bottle_Size_Combo, &Total_Bottles_Text,   &Description_Text, &Color_Combo,
-          &Alcohol_Text,      &Classification_Combo, &Comments_Text,    &Last_Date_Uncorked_Text,
-          &Date_Added_Text};
-}
-
 Wine_Form::Controls Wine_Form::Gate_Fields() {
   return {&Bottle_Size_Combo, &Classification_Combo, &Color_Combo,  &Label_Combo,
           &Variety_Combo,     &Vintage_Combo,        &Winery_Combo, &Total_Bottles_Text};
-}
-
-void Wine_Form::Lock_Top_Window() {
-  for (Forms::Lockable_Control* field : Entry_Fields()) Lock(*field);
-  Pairing_List.Set_BackColor(Locked_Color);
-  Variety_Combo.Set_BackColor(Locked_Color);
-  Boxes.Show_Locked();
-}
-
-void Wine_Form::UnLock_Top_Window() {
-  for (Forms::Lockable_Control* field : Entry_Fields()) {
-    field->Set_Locked(false);
-    field->Set_BackColor(Window_Color);
-  }
-  Variety_Combo.Set_BackColor(Window_Color);
-  Pairing_List.Set_BackColor(Window_Color);
-  Boxes.Open(Forms::Open_Check_Color);
 }
 
 // The vintage shows as required though its first fill counts as a choice.
@@ -48,25 +23,6 @@ void Wine_Form::UnLock_for_Add() {
   }
   Vintage_Combo.Set_BackColor(Required_Color);
   Checks_Locked = false;
-}
-
-void Wine_Form::Lock(Forms::Lockable_Control& field) {
-  field.Set_Locked(true);
-  field.Set_BackColor(Locked_Color);
-}
-
-void Wine_Form::Require(Forms::Placed_Control& field) {
-  field.Set_BackColor(Required_Color);
-  field.Set_Tag("0");
-}
-
-void Wine_Form::Fill_In(Forms::Lockable_Control& field) {
-  Show_Lock(field);
-  field.Set_Tag("1");
-}
-
-void Wine_Form::Show_Lock(Forms::Lockable_Control& field) {
-  field.Set_BackColor(field.Locked() ? Locked_Color : Window_Color);
 }
 
 void Wine_Form::Setup_for_Message(const char* message) {
@@ -89,10 +45,7 @@ void Wine_Form::Top_Window_Clean() {
            &Merit_Combo, &Bottle_Size_Combo, &Color_Combo, &Classification_Combo, &Variety_Combo}) {
     if (list->ListCount() > 0) list->Set_ListIndex(0);
   }
-  for (Forms::Text_Box* box : {&Price_Text, &Alcohol_Text, &Total_Bottles_Text, &Description_Text,
-                               &Comments_Text, &Date_Added_Text, &Last_Date_Uncorked_Text}) {
-    box->Set_Text("");
-  }
+  for (Forms::Text_Box* box : Text_Fields()) box->Set_Text("");
   Boxes.Clear();
 }
 

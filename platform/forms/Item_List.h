@@ -39,6 +39,7 @@ class Item_List : public Lockable_Control {
 
   /// On each choice by the user, also of the entry already chosen, and by code.
   std::function<void()> Click;
+  /// The left button, twice; in a list on one and the same entry.
   std::function<void()> DblClick;
 
   /// For this room: the user chose.

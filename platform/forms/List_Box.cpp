@@ -1,9 +1,9 @@
 #include "platform/forms/List_Box.h"
 
 #include <QKeyEvent>
-#include <QListView>
 
 #include "platform/forms/Handlers.h"
+#include "platform/forms/List_Widget.h"
 #include "platform/forms/Plain_List.h"
 #include "platform/run_time/Run_Time_Error.h"
 
@@ -11,53 +11,40 @@ namespace Forms {
 
 namespace {
 
-class List_Widget : public QListView {
- public:
-  List_Widget(QWidget* parent, Item_List& list, Plain_List& entries)
-      : QListView(parent), list_(list) {
-    setModel(&entries);
-    setUniformItemSizes(true);
-    setSelectionMode(QAbstractItemView::SingleSelection);
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setTabKeyNavigation(false);
-    connect(this, &QListView::clicked,
-            [this](const QModelIndex& index) { list_.Chosen_By_User(index.row()); });
-    connect(this, &QListView::doubleClicked,
-            [this](const QModelIndex&) { Raise(list_, list_.DblClick); });
-  }
+bool Is_Enter(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
 
-  void Show_Index(int row) {
-    const QModelIndex index = model()->index(row, 0);
-    if (currentIndex() == index) return;
-    setCurrentIndex(index);
-    if (!index.isValid()) clearSelection();
-  }
+class List_Box_Widget : public List_Widget {
+ public:
+  List_Box_Widget(QWidget* parent, List_Box& list, Plain_List& entries)
+      : List_Widget(parent, list, entries), list_(list) {}
 
  protected:
-  // The toolkit does not choose an entry whose tick box is pressed.
-  void mousePressEvent(QMouseEvent* event) override {
-    QListView::mousePressEvent(event);
-    const QModelIndex index = indexAt(event->position().toPoint());
-    if (index.isValid()) setCurrentIndex(index);
-  }
-
-  // A drag does not choose: what was pressed is what is clicked.
-  void mouseMoveEvent(QMouseEvent*) override {}
-
   void keyPressEvent(QKeyEvent* event) override {
-    const int before = currentIndex().row();
-    QListView::keyPressEvent(event);
-    if (currentIndex().row() != before) list_.Chosen_By_User(currentIndex().row());
+    const std::function<void()>* handler = Handler_Of(*event);
+    if (handler == nullptr || !*handler || list_.ListIndex() < 0) {
+      List_Widget::keyPressEvent(event);
+    } else {
+      Raise(list_, *handler);
+    }
   }
 
  private:
-  Item_List& list_;
+  // A key held together with another one is a different command.
+  const std::function<void()>* Handler_Of(const QKeyEvent& event) const {
+    if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return nullptr;
+    if (Is_Enter(event)) return &list_.Enter_Pressed;
+    return event.key() == Qt::Key_Delete ? &list_.Delete_Pressed : nullptr;
+  }
+
+  List_Box& list_;
 };
 
 }  // namespace
 
 List_Box::List_Box(Form& form, std::string_view name) : Item_List(form, name) {
-  Set_Widget(new List_Widget(Widget_Parent(), *this, Entries()));
+  Set_Widget(new List_Box_Widget(Widget_Parent(), *this, Entries()));
 }
 
 List_Box::~List_Box() = default;

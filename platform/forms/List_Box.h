@@ -6,11 +6,21 @@
 namespace Forms {
 
 /// The user's choice raises Click: a click of the mouse, also on the chosen entry, a move by the
-/// arrow keys, and typing, which goes to the next entry that begins so.
+/// arrow keys, and typing, which goes to the next entry that begins so. Where nothing is chosen,
+/// the first arrow key chooses the entry that the focus stands on; after the chosen entry was
+/// removed that is the one that took its place.
+///
+/// A double click raises Click once and then DblClick, if the entry is still there and the chosen
+/// one. A handler may add and remove entries, clear the list and unload the form.
 class List_Box : public Item_List {
  public:
   List_Box(Form& form, std::string_view name);
   ~List_Box() override;
+
+  /// The user pressed Return or Enter, or Delete, by itself, while an entry was chosen; also again
+  /// and again while the key is held down. A key whose event is not set does nothing in the list.
+  std::function<void()> Enter_Pressed;
+  std::function<void()> Delete_Pressed;
 
  protected:
   void Show_List_Index() override;

@@ -1,0 +1,139 @@
+#include "platform/forms/List_Widget.h"
+
+#include <QKeyEvent>
+
+#include "platform/forms/Handlers.h"
+#include "platform/forms/Plain_List.h"
+
+namespace Forms {
+
+namespace {
+
+bool Is_Step(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
+}
+
+bool Is_Leap(const QKeyEvent& event) {
+  const int key = event.key();
+  return key == Qt::Key_Home || key == Qt::Key_End || key == Qt::Key_PageUp ||
+         key == Qt::Key_PageDown;
+}
+
+}  // namespace
+
+List_Widget::List_Widget(QWidget* parent, Item_List& list, Plain_List& entries)
+    : QListView(parent), list_(list) {
+  setModel(&entries);
+  setUniformItemSizes(true);
+  setSelectionMode(QAbstractItemView::SingleSelection);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setTabKeyNavigation(false);
+}
+
+void List_Widget::Show_Index(int row) {
+  if (row < 0) {
+    clearSelection();
+    return;
+  }
+  const QModelIndex index = model()->index(row, 0);
+  chosen_ = index;
+  if (currentIndex() != index || !Is_Shown_Chosen(index)) setCurrentIndex(index);
+}
+
+bool List_Widget::Is_Shown_Chosen(const QModelIndex& index) const {
+  return selectionModel()->isSelected(index);
+}
+
+// Where a handler only took the choice back, the next step goes on from there.
+bool List_Widget::Stands_On_Unchosen() const {
+  return list_.ListIndex() < 0 && currentIndex().isValid() && chosen_ != currentIndex();
+}
+
+// Ctrl does not take the choice back: nobody would be told of it. What was pressed stays chosen
+// wherever the button is let go.
+QItemSelectionModel::SelectionFlags List_Widget::selectionCommand(const QModelIndex& index,
+                                                                  const QEvent* event) const {
+  const bool release = event != nullptr && event->type() == QEvent::MouseButtonRelease;
+  if (!index.isValid() || release) return QItemSelectionModel::NoUpdate;
+  return QItemSelectionModel::ClearAndSelect;
+}
+
+// The toolkit does not choose an entry whose tick box is pressed. The other buttons choose nothing.
+void List_Widget::mousePressEvent(QMouseEvent* event) {
+  clicks_ = 0;
+  pressed_ = QModelIndex();
+  if (event->button() != Qt::LeftButton) return;
+  QListView::mousePressEvent(event);
+  pressed_ = indexAt(event->position().toPoint());
+  if (!pressed_.isValid()) return;
+  setCurrentIndex(pressed_);
+  clicks_ = 1;
+}
+
+// Two clicks on one place are one double click only if its entry is still the same.
+void List_Widget::mouseDoubleClickEvent(QMouseEvent* event) {
+  const bool left = event->button() == Qt::LeftButton;
+  if (!left || !pressed_.isValid() || pressed_ != indexAt(event->position().toPoint())) {
+    mousePressEvent(event);
+    return;
+  }
+  QListView::mouseDoubleClickEvent(event);
+  setCurrentIndex(pressed_);
+  clicks_ = 2;
+}
+
+void List_Widget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  QListView::mouseReleaseEvent(event);
+  Clicked(std::exchange(clicks_, 0));
+}
+
+// Not before the button's release, which otherwise would go to whatever a handler brings up. Each
+// handler may take the entry away.
+void List_Widget::Clicked(int clicks) {
+  if (clicks == 0 || !pressed_.isValid()) return;
+  if (clicks == 1 || list_.ListIndex() != pressed_.row()) Choose(pressed_.row());
+  const bool still_chosen = pressed_.isValid() && list_.ListIndex() == pressed_.row();
+  if (clicks == 2 && still_chosen) Raise(list_, list_.DblClick);
+}
+
+void List_Widget::Choose(int row) {
+  chosen_ = model()->index(row, 0);
+  list_.Chosen_By_User(row);
+}
+
+void List_Widget::Tell_If_Chosen() {
+  const QModelIndex current = currentIndex();
+  if (!current.isValid() || !Is_Shown_Chosen(current)) return;
+  if (current.row() != list_.ListIndex()) Choose(current.row());
+}
+
+// The first step goes onto the entry that the focus stands on, which nobody chose yet.
+void List_Widget::keyPressEvent(QKeyEvent* event) {
+  const bool unchosen = Stands_On_Unchosen();
+  if (!unchosen || !Is_Step(*event)) QListView::keyPressEvent(event);
+  if (unchosen && (Is_Step(*event) || Is_Leap(*event))) setCurrentIndex(currentIndex());
+  Tell_If_Chosen();
+}
+
+void List_Widget::inputMethodEvent(QInputMethodEvent* event) {
+  QListView::inputMethodEvent(event);
+  Tell_If_Chosen();
+}
+
+// The toolkit looks from the entry after the current one: an entry that only has the focus is to be
+// the first to be looked at, so the search starts from the one before it.
+void List_Widget::keyboardSearch(const QString& beginning) {
+  const QPersistentModelIndex place = currentIndex();
+  if (Stands_On_Unchosen()) {
+    const int count = model()->rowCount();
+    selectionModel()->setCurrentIndex(model()->index((place.row() + count - 1) % count, 0),
+                                      QItemSelectionModel::NoUpdate);
+  }
+  QListView::keyboardSearch(beginning);
+  if (currentIndex() != place && !Is_Shown_Chosen(currentIndex())) {
+    selectionModel()->setCurrentIndex(place, QItemSelectionModel::NoUpdate);
+  }
+}
+
+}  // namespace Forms

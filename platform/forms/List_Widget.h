@@ -1,0 +1,46 @@
+// The list that stands open, as the toolkit sees it. For the sources of this room only.
+#pragma once
+
+#include <QListView>
+#include <QPersistentModelIndex>
+
+#include "platform/forms/Item_List.h"
+
+namespace Forms {
+
+class Plain_List;
+
+/// The entry shown as chosen is the list's ListIndex: whatever the user does that changes the one
+/// tells the other. The focus stands on an entry that need not be chosen.
+class List_Widget : public QListView {
+ public:
+  List_Widget(QWidget* parent, Item_List& list, Plain_List& entries);
+
+  /// -1 shows none as chosen; the focus stays where it stands.
+  void Show_Index(int row);
+  void keyboardSearch(const QString& beginning) override;
+
+ protected:
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent*) override {}
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+
+ private:
+  void Clicked(int clicks);
+  void Choose(int row);
+  void Tell_If_Chosen();
+  bool Stands_On_Unchosen() const;
+  bool Is_Shown_Chosen(const QModelIndex& index) const;
+
+  Item_List& list_;
+  QPersistentModelIndex pressed_;
+  QPersistentModelIndex chosen_;  ///< the entry chosen last
+  int clicks_ = 0;                ///< how many the button's release ends
+};
+
+}  // namespace Forms

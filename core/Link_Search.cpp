@@ -83,7 +83,7 @@ void Search(const Searched& searched) {
   searched.rows.Index("GROUP");
   Found_Count = 0;
   for (int group = 1; group <= Group_Count; ++group) {
-    if (!Search_Group(searched, Group_Keys[group] * 10, Group_Masks[group])) break;
+    if (!Search_Group(searched, To_Long(Group_Keys[group] * 10.0), Group_Masks[group])) break;
   }
   if (Found_Count > 0) {
     Compact_Found_IDs();

@@ -148,7 +148,7 @@ void Add_Groups(const Links& links, Long owner, const Text& serial) {
   for (int group = 1; group <= Group_Count; ++group) {
     links.rows.AddNew();
     links.rows.Fields(links.owner) = owner;
-    links.rows.Fields("GROUP") = Group_Keys[group] * 10;
+    links.rows.Fields("GROUP") = To_Long(Group_Keys[group] * 10.0);
     links.rows.Fields("SUBCATEGO") = Group_Masks[group];
     if (!serial.empty()) links.rows.Fields("SERIAL_NUMBER") = serial;
     links.rows.Update();

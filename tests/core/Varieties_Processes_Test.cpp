@@ -1,9 +1,10 @@
-// The masks of group link rows, and the grapes of a region as its link rows tell them.
+// Masks and merged addresses of group link rows, and the grapes of a region as its rows tell them.
 #include "core/Varieties_Processes.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <map>
 #include <random>
 
 #include "core/Link_Decoders.h"
@@ -40,6 +41,57 @@ TEST(Subgroup_Masks, A_mask_gives_its_subgroups_back_from_the_highest_down) {
   EXPECT_EQ(mask, 101);
   EXPECT_EQ(Subgroup_Mask(10), 1000000000);
   EXPECT_FAILURE(6, Subgroup_Mask(11));
+}
+
+using Addresses = std::vector<std::pair<Long, Long>>;
+
+Addresses Merged(const Addresses& selected) {
+  Sort_Count = 0;
+  for (const auto& [group, mask] : selected) {
+    Selected_Groups[++Sort_Count] = group;
+    Selected_Masks[Sort_Count] = mask;
+  }
+  Merge_Selected_Groups();
+  Addresses merged;
+  for (int entry = 1; entry <= Group_Count; ++entry) {
+    merged.emplace_back(Group_Keys[entry], Group_Masks[entry]);
+  }
+  return merged;
+}
+
+TEST(Merge, The_smallest_group_comes_first_and_neighbours_become_one) {
+  EXPECT_EQ(Merged({{9, 1}, {2, 1}, {9, 10}}), (Addresses{{2, 1}, {9, 11}}));
+  EXPECT_EQ(Merged({{3, 1}, {5, 10}, {4, 1}, {5, 1}}),
+            (Addresses{{3, 1}, {5, 10}, {4, 1}, {5, 1}}));
+  // One after the other comes to the front, each to where the next one was.
+  EXPECT_EQ(Merged({{7, 1}, {4, 1}, {2, 1}, {7, 10}}),
+            (Addresses{{2, 1}, {7, 1}, {4, 1}, {7, 10}}));
+  EXPECT_EQ(Merged({{5, 100}, {5, 1}, {5, 1000000000}}), (Addresses{{5, 1000000101}}));
+  EXPECT_EQ(Merged({}), Addresses());
+  const Long ten = 1000000000;
+  EXPECT_FAILURE(6, Merged({{5, ten}, {5, ten}, {5, ten}}));
+}
+
+TEST(Merge, Whatever_is_selected_the_masks_of_a_group_add_up_and_neighbours_differ) {
+  std::mt19937 random(7);
+  for (int round = 0; round < 500; ++round) {
+    Addresses selected(1 + random() % 100);
+    std::map<Long, Long> sums;
+    for (auto& [group, mask] : selected) {
+      group = static_cast<Long>(random() % 12);
+      mask = Subgroup_Mask(static_cast<Long>(1 + random() % 6));
+      sums[group] += mask;
+    }
+    const Addresses merged = Merged(selected);
+    EXPECT_EQ(merged.front().first, sums.begin()->first) << round;
+    EXPECT_EQ(std::adjacent_find(
+                  merged.begin(), merged.end(),
+                  [](const auto& one, const auto& next) { return one.first == next.first; }),
+              merged.end());
+    std::map<Long, Long> merged_sums;
+    for (const auto& [group, mask] : merged) merged_sums[group] += mask;
+    EXPECT_EQ(merged_sums, sums) << round;
+  }
 }
 
 class Varieties_of_Region : public Program_Folder {
@@ -113,6 +165,7 @@ TEST_F(Varieties_of_Region, A_subgroup_that_no_row_holds_is_left_out_and_the_101
   });
   Start();
   EXPECT_EQ(Decode(20001).size(), 9 + in_last.size());
+  EXPECT_EQ(To_Text(Varieties.Variety_ID), in_last[0]);  // the group's first one is read last
   EXPECT_EQ(Decode(20002).size(), 100U);
   EXPECT_FAILURE(9, Decode(20003));
 }

@@ -1,11 +1,15 @@
 #include "cellar/Cellar_Screens.h"
 #include "core/Core_Screens.h"
+#include "pairing/Pairing_Screens.h"
 #include "platform/forms/Application.h"
 #include "platform/forms/Screens.h"
+#include "search/Search_Screens.h"
 
 int main(int argc, char** argv) {
   Forms::Application application(argc, argv);
   Register_Core_Screens();
   Register_Cellar_Screens();
+  Register_Pairing_Screens();
+  Register_Search_Screens();
   return application.Run([] { Forms::Screen("Wine_Cellar_Form").Open(); });
 }

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/Globals.h"
+#include "core/MultiLanguage_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Mobile_Wines_DB.h"
@@ -40,6 +41,51 @@ Text Country_By(const char* index, Keys key, const char* wanted) {
 constexpr std::array<std::string_view, 5> english_colors{"Red", "White", "Rosé", "Sparkling",
                                                          "Fortified"};
 constexpr std::array wine_type_codes{"VA", "LE", "AP"};
+
+// ---- a new pairing; `Maridages` is open ----
+
+struct Pairing_Address {
+  Long group;
+  Long subgroup;
+};
+
+// The highest group, where it is the user's own and has room, or the one behind it.
+Pairing_Address Next_Address_of_User() {
+  constexpr Long first_group = 1000000;
+  constexpr Long subgroups = 10;
+  Maridages_Recordset.Index("Maridage_Group");
+  if (Maridages_Recordset.Eof()) return {first_group, 1};
+  Maridages_Recordset.MoveLast();
+  const Long group = Maridages_Recordset.Fields("Maridage_Group").As_Long();
+  if (group < first_group) return {first_group, 1};
+  Long highest = 0;
+  for (; !Maridages_Recordset.Bof(); Maridages_Recordset.MovePrevious()) {
+    if (Maridages_Recordset.Fields("Maridage_Group").As_Long() != group) break;
+    highest = std::max(highest, Maridages_Recordset.Fields("Maridage_SubGr").As_Long());
+  }
+  return highest >= subgroups ? Pairing_Address{group + 1, 1} : Pairing_Address{group, highest + 1};
+}
+
+// The two names are written into the row once it is there and the last one.
+void Store_New_Maridage(const Pairing_Address& address) {
+  constexpr Long longest_name = 100;
+  constexpr Integer for_every_use = 3;
+  Maridages_Recordset.AddNew();
+  Init_Maridages_Record();
+  Maridages.Maridage_Name = Left(New_Maridage_Text, longest_name);
+  Maridages.Maridage_Group = address.group;
+  Maridages.Maridage_SubGr = address.subgroup;
+  Maridages.SERIAL_NUMBER = "CUS" + Trim(Wine_System.Installation_ID) + "-" + Format_Date(Now());
+  Maridages.Used = 0;
+  Maridages.Multiuse = for_every_use;
+  Write_Maridages_Record();
+  Maridages_Recordset.Index("Maridage_ID");
+  Maridages_Recordset.MoveLast();
+  Maridages_Recordset.Edit();
+  Maridages_Recordset.Fields(System_Language + 2) = New_Maridage_Text;
+  Maridages_Recordset.Fields(Other_Language() + 2) = New_Maridage_Other_Text;
+  Maridages_Recordset.Update();
+}
 
 }  // namespace
 
@@ -171,6 +217,17 @@ bool Valid_E_Mail(const Text& address) {
 }
 
 Integer Other_Language() { return System_Language == 3 ? 4 : 3; }
+
+bool Add_New_Maridage() {
+  Open_Table(Maridages_Recordset, "Maridages");
+  const Pairing_Address address = Next_Address_of_User();
+  Maridages_Recordset.Index(Language_Name_From_Number(System_Language));
+  Maridages_Recordset.Seek("=", New_Maridage_Text);
+  const bool is_new = Maridages_Recordset.NoMatch();
+  if (is_new) Store_New_Maridage(address);
+  Close_Table(Maridages_Recordset);
+  return is_new;
+}
 
 void Open_Query(Record_Store::Recordset& query, std::string_view statement) {
   if (!Wine_Cellar_DB) Fail(Failure::Object_Variable_Not_Set);

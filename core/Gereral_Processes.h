@@ -88,8 +88,18 @@ Text Wine_Type_Word(std::string_view code);
 Text Wine_Type_Code(std::string_view word);
 /// Whether a "." stands behind the "@" (or "%40") with at least one character after it.
 bool Valid_E_Mail(const Text& address);
+
+// ---- the catalogue of pairings ----
+
 /// The language in which a pairing's second name is kept: English, or Spanish under English.
 Integer Other_Language();
+/// The names of a pairing to be added, in the language in force and in the other one.
+inline Text New_Maridage_Text;
+inline Text New_Maridage_Other_Text;
+/// Adds it at the user's next free address: groups from 1,000,000 on, ten to a group. False, and
+/// nothing is added, where the language in force has a pairing of this name, whatever its case. A
+/// new row stores what the memory record of `Maridages` holds for `Cheese_ID` and `CAT_ID`.
+bool Add_New_Maridage();
 
 /// Replaces what `query` holds by the rows of `statement`, in its order. 3075 where the statement
 /// is broken, for instance by a quote in a value.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string_view>
 
 namespace Screen_Words {
@@ -68,10 +69,11 @@ inline constexpr std::array<Row, 22> Select_Mult_Varieties{
      {"Cheese_Text", "Head"},         {"Cheese_Title", "Head"}}};
 
 /// The place of a row in its table, from 1; 0 where the table has no such row.
-template <std::size_t Count>
-constexpr int Place_of(const std::array<Row, Count>& rows, std::string_view variable) {
-  for (std::size_t row = 0; row < Count; ++row) {
-    if (rows[row].Variable == variable) return static_cast<int>(row) + 1;
+constexpr int Place_of(std::span<const Row> rows, std::string_view variable) {
+  int place = 0;
+  for (const Row& row : rows) {
+    ++place;
+    if (row.Variable == variable) return place;
   }
   return 0;
 }

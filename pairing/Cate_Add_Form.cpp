@@ -1,0 +1,233 @@
+#include "pairing/Cate_Add_Form.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "core/Gereral_Processes.h"
+#include "core/Globals.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "platform/run_time/Conversions.h"
+
+using Forms::Locked_Color;
+using Forms::Required_Color;
+using Forms::Window_Color;
+
+namespace {
+
+constexpr Integer english = 3;
+constexpr Integer spanish = 4;
+constexpr int key_column = 2;
+constexpr Long longest_change = 60;
+
+/// The places of the words that are told or shown under one command alone.
+constexpr int double_line_1 = 1;
+constexpr int double_line_2 = 2;
+constexpr int double_title = 3;
+constexpr int prompt_for_change = 6;
+constexpr int button_for_change = 7;
+
+void Seek_Maridage(const Text& key) {
+  Open_Table(Maridages_Recordset, "Maridages");
+  Maridages_Recordset.Index("Maridage_ID");
+  Maridages_Recordset.Seek("=", key);
+}
+
+}  // namespace
+
+Cate_Add_Form::Cate_Add_Form()
+    : Form("Cate_Add_Form", "Add New Categories or Menu Themes"), command_(Current_Command) {
+  Lay_Out();
+  CatText.Change = [this] { CatText_Change(); };
+  Maridages_ListView.ColumnClick = [this](const Forms::Column_Header& header) {
+    Maridages_ListView_ColumnClick(header);
+  };
+  Maridages_ListView.ItemClick = [this](Forms::List_Item item) {
+    Maridages_ListView_ItemClick(item);
+  };
+  Cat_Add_Now.Click = [this] { Cat_Add_Now_Click(); };
+  Cat_Add_Cancel.Click = [this] { Cat_Add_Cancel_Click(); };
+}
+
+// The label about the system's own pairings belongs to a rule that does not hold: every listed
+// pairing can be changed. It has no place.
+void Cate_Add_Form::Lay_Out() {
+  using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  constexpr int list_height = 20;
+  constexpr int text_width = 44;
+  Current_Maridages_Label.Set_Buddy(Maridages_ListView);
+  Set_Content(
+      Column({Current_Maridages_Label, Place(Maridages_ListView).High(list_height).Grow(), CatLabel,
+              Fields({{Cat_Language1_Label, Place(CatText).Wide(text_width)},
+                      {Cat_Language2_Label, CAT_Other_Language_Text}}),
+              Buttons({Cat_Add_Now, Cat_Add_Cancel})}));
+  Set_Exit(Cat_Add_Cancel);
+}
+
+// ---- loading ----
+
+void Cate_Add_Form::Form_Load() {
+  Cate_Add_Form_Language_Initialize();
+  Load_Current_Maridages();
+  Define_Other_Language();
+  Cat_Add_Now.Set_Enabled(false);
+  if (command_ == "MaridageAdd") Load_for_Add();
+  if (command_ == "MaridageView") Load_for_View();
+  if (command_ == "MaridageMod") Load_for_Mod();
+}
+
+void Cate_Add_Form::Cate_Add_Form_Language_Initialize() {
+  Words.Read();
+  Words.Caption(*this);
+}
+
+// The list names what is stored in English, and beside it what is stored in the user's language.
+void Cate_Add_Form::Load_Current_Maridages() {
+  Maridages_ListView.Clear();
+  Open_Table(Maridages_Recordset, "Maridages");
+  const int beside = System_Language <= spanish ? spanish + 2 : System_Language + 2;
+  for (; !Maridages_Recordset.Eof(); Maridages_Recordset.MoveNext()) {
+    Read_Maridages_Record();
+    if (Maridages.Maridage_Name == "x" || Maridages.Multiuse < 2) continue;
+    Forms::List_Item item = Maridages_ListView.Add(Maridages.English);
+    item.Set_SubItems(1, Maridages_Recordset.Fields(beside).As_Text());
+    item.Set_SubItems(key_column, To_Text(Maridages.Maridage_ID));
+  }
+  Close_Table(Maridages_Recordset);
+}
+
+// A new pairing is the last one read.
+void Cate_Add_Form::Show_Row_of(const Text& key) {
+  for (int place = Maridages_ListView.Count(); place >= 1; --place) {
+    Forms::List_Item item = Maridages_ListView.ListItems(place);
+    if (item.SubItems(key_column) != key) continue;
+    item.EnsureVisible();
+    return;
+  }
+}
+
+// The words name English first.
+void Cate_Add_Form::Define_Other_Language() {
+  if (System_Language == english) return;
+  const Text first = Cat_Language1_Label.Caption();
+  Cat_Language1_Label.Set_Caption(Cat_Language2_Label.Caption());
+  Cat_Language2_Label.Set_Caption(first);
+}
+
+void Cate_Add_Form::Load_for_Add() {
+  Maridages_ListView.Set_BackColor(Locked_Color);
+  CatText.Set_BackColor(Required_Color);
+  CatText.SetFocus();
+}
+
+void Cate_Add_Form::Load_for_View() {
+  Maridages_ListView.Set_BackColor(Locked_Color);
+  for (Forms::Text_Box* box : {&CatText, &CAT_Other_Language_Text}) {
+    box->Set_Locked(true);
+    box->Set_BackColor(Locked_Color);
+  }
+  Cat_Add_Now.Set_Visible(false);
+  CatLabel.Set_Visible(false);
+  Set_Caption("List of Current Available Pairings");
+  Maridages_ListView.SetFocus();
+}
+
+void Cate_Add_Form::Load_for_Mod() {
+  CatLabel.Set_Caption(Words.At(prompt_for_change, CatLabel.Caption()));
+  Cat_Add_Now.Set_Caption(Words.At(button_for_change, "MODIFY"));
+  CatText.Set_Text("");
+  CAT_Other_Language_Text.Set_Text("");
+  Cat_Add_Now.Set_Enabled(false);
+  Open_Table(Maridages_Recordset, "Maridages");
+  Maridages_ListView.SetFocus();
+}
+
+// ---- the fields and the list ----
+
+void Cate_Add_Form::CatText_Change() {
+  const bool empty = CatText.Text().empty();
+  Cat_Add_Now.Set_Enabled(!empty);
+  CatText.Set_BackColor(empty ? Required_Color : Window_Color);
+  if (CatText.Locked()) CatText.Set_BackColor(Locked_Color);
+}
+
+// English and Spanish alone, whatever the language.
+void Cate_Add_Form::Show_Boxes() {
+  const bool spanish_first = System_Language == spanish;
+  CatText.Set_Text(spanish_first ? Maridages.Spanish : Maridages.English);
+  CAT_Other_Language_Text.Set_Text(spanish_first ? Maridages.English : Maridages.Spanish);
+}
+
+void Cate_Add_Form::Maridages_ListView_ColumnClick(const Forms::Column_Header& header) {
+  constexpr std::array<std::string_view, 3> headers{"English", "Spanish", "Maridage_ID"};
+  Maridages_ListView.Set_SortOrder(Maridages_ListView.SortOrder() == 0 ? 1 : 0);
+  Maridages_ListView.Set_Sorted(true);
+  const auto* found = std::ranges::find(headers, header.Text);
+  if (found != headers.end()) {
+    Maridages_ListView.Set_SortKey(static_cast<int>(found - headers.begin()));
+  }
+}
+
+void Cate_Add_Form::Maridages_ListView_ItemClick(Forms::List_Item item) {
+  const Text key = item.SubItems(key_column);
+  Seek_Maridage(key);
+  Read_Maridages_Record();
+  item.Set_Selected(true);
+  Close_Table(Maridages_Recordset);
+  if (command_ == "MaridageView") Show_Boxes();
+  if (command_ == "MaridageMod") {
+    picked_ = key;
+    Show_Boxes();
+    Cat_Add_Now.Set_Enabled(true);
+  }
+}
+
+// ---- the writes ----
+
+void Cate_Add_Form::Cat_Add_Now_Click() {
+  if (command_ == "MaridageAdd") Add_Maridage();
+  if (command_ == "MaridageMod") Modify_Maridage();
+}
+
+// The answer about a double changes nothing: the user goes on typing in either case.
+void Cate_Add_Form::Add_Maridage() {
+  New_Maridage_Text = CatText.Text();
+  if (Trim(CAT_Other_Language_Text.Text()).empty()) {
+    Forms::Message_Box(
+        "Since you did not input the other language information , the main language information"
+        "will be used also as the other language input.",
+        "PAIRING LANGUAGE ASSUMPTION");
+    CAT_Other_Language_Text.Set_Text(CatText.Text());
+  }
+  New_Maridage_Other_Text = CAT_Other_Language_Text.Text();
+  if (Add_New_Maridage()) {
+    Forms::Message_Box("New Pairing was added to the currently available list",
+                       "NEW PAIRING ADDED SUCCESSFULLY");
+    Load_Current_Maridages();
+    Show_Row_of(To_Text(Maridages.Maridage_ID));
+  } else {
+    Forms::Ask_Yes_No(Words.At(double_line_1) + "\r" + Words.At(double_line_2),
+                      Words.At(double_title));
+  }
+}
+
+// 3021 where nothing was picked, or what was picked has gone.
+void Cate_Add_Form::Modify_Maridage() {
+  Seek_Maridage(picked_);
+  Maridages_Recordset.Edit();
+  Maridages_Recordset.Fields(System_Language + 2) = Left(CatText.Text(), longest_change);
+  Maridages_Recordset.Fields(Other_Language() + 2) =
+      Left(CAT_Other_Language_Text.Text(), longest_change);
+  Maridages_Recordset.Update();
+  Close_Table(Maridages_Recordset);
+  Forms::Message_Box("Pairing was MODIFIED in the currently available list", "PAIRING MODIFY");
+  Load_Current_Maridages();
+  Show_Row_of(picked_);
+}
+
+void Cate_Add_Form::Cat_Add_Cancel_Click() {
+  Unload();
+  Forms::Screen("Wine_Cellar_Form").Show();
+}

@@ -1,0 +1,91 @@
+#include "pairing/Select_Mult_Varieties_Form.h"
+
+#include "core/Gereral_Processes.h"
+#include "core/Link_Decoders.h"
+#include "core/Link_Search.h"
+#include "core/Link_Store.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "platform/run_time/Conversions.h"
+
+using Forms::Screen;
+
+Select_Mult_Varieties_Form::Select_Mult_Varieties_Form()
+    : Select_Mult_Form("Select_Mult_Varieties_Form", "Select Region's Grape Varieties",
+                       {"Select_Mult_Varieties", Screen_Words::Select_Mult_Varieties}) {
+  MSelectLab1.Set_Caption("Available Grape Varieties");
+  Label1.Set_Caption("Selected Grape Varieties");
+  MSelectLab3.Set_Caption("Region:");
+}
+
+void Select_Mult_Varieties_Form::Form_Load() {
+  Initialize_Select_Mult_Varieties_Language();
+  Hide_All_Visible();
+  Load_Varieties();
+  Show_Whose_List();
+  Clear_Chosen();
+  if (command_ == "VarietiesAddRegion") Load_Varieties_of_this_Region();
+  Turn_Boxes_On();
+  Cat_List.SetFocus();
+}
+
+void Select_Mult_Varieties_Form::Initialize_Select_Mult_Varieties_Language() {
+  Initialize_Language();
+}
+
+void Select_Mult_Varieties_Form::Load_Varieties() {
+  Candidate_Lines.Clear();
+  Open_Table(Varieties_Recordset, "Varieties");
+  Varieties_Recordset.Index("Variety_Name");
+  Candidate_Lines.Add_Rows(Varieties_Recordset, "Variety_Name", "Variety_ID");
+  Close_Table(Varieties_Recordset);
+  Show_Candidates();
+}
+
+void Select_Mult_Varieties_Form::Show_Whose_List() {
+  if (command_.starts_with("Cheese")) {
+    Show_Owner(Words.Of("Cheese_Word", "Cheese: "), Cheeses.Cheese_Name);
+  } else if (command_ == "VarietiesAddRegion") {
+    Show_Owner(Country_Long_Name(Regions.Country) + " - " + Regions.Region_Name);
+  }
+}
+
+void Select_Mult_Varieties_Form::Load_Varieties_of_this_Region() {
+  Load_Varieties_of_Region();
+  for (int item = 1; item <= Decoded_Count; ++item) {
+    Choose({Decoded_Items[item].Name, To_Text(Decoded_Items[item].ID)});
+  }
+}
+
+void Select_Mult_Varieties_Form::Proceed() {
+  if (command_ == "WineSearch") {
+    Search_Regions_for_Varieties();
+    return;
+  }
+  if (command_ == "VarietiesAddRegion") Store_for_Region();
+  if (command_ == "CheeseAdd") Store_for_Cheese();
+  if (Command_Is({"WineAdd", "WineMod"})) Tag_Varieties_of_Wine();
+  Leave_to(Caller());
+}
+
+void Select_Mult_Varieties_Form::Store_for_Region() {
+  Remove_Region_Varieties();
+  Store_Region_Varieties();
+  Varieties_Changed_Flag = true;
+  Forms::Message_Box(Words.Of("Region_Text", "Vaieties were added to the selected Region."),
+                     Words.Of("Region_Title", "VARIETIES MATCHED TO REGION"));
+}
+
+void Select_Mult_Varieties_Form::Store_for_Cheese() {
+  Remove_Cheese_Varieties();
+  Store_Cheese_Varieties();
+  Forms::Message_Box(Words.Of("Cheese_Text", "Vaieties were added to the selected Cheese."),
+                     Words.Of("Cheese_Title", "VARIETIES MATCHED TO CHEESE"));
+}
+
+void Select_Mult_Varieties_Form::Tag_Varieties_of_Wine() {
+  if (!Screen("Wine_Form").Is_Loaded()) return;
+  Screen("Wine_Form").Control("Variety_Combo").Set_Tag("1");
+  Screen("Wine_Form").Control("Variety_Add_Command").Set_Tag("1");
+}

@@ -1,0 +1,139 @@
+#include "search/Search_General_Pairings_Form.h"
+
+#include <limits>
+
+#include "core/Globals.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "platform/run_time/Conversions.h"
+
+namespace {
+
+constexpr int variety_key_column = 2;
+
+void Open_by(Record_Store::Recordset& rows, const char* table, const char* index) {
+  Open_Table(rows, table);
+  rows.Index(index);
+}
+
+}  // namespace
+
+Search_General_Pairings_Form::Search_General_Pairings_Form()
+    : List_Picker_Form("Search_General_Pairings_Form", "General Pairings") {
+  Lay_Out();
+  Variety_Name_ListView.ItemClick = [this](const Forms::List_Item& item) {
+    Variety_Name_ListView_ItemClick(item);
+  };
+}
+
+void Search_General_Pairings_Form::Lay_Out() {
+  using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  constexpr int list_height = 10;
+  Variety_Name_List_Label.Set_Buddy(Variety_Name_ListView);
+  Regions_List_Label.Set_Buddy(Regions_ListView);
+  Set_Content(Column(
+      {Row({Under_Heading(MSelectLab1, Cat_Number, Cat_List).Grow(), Moves_Place(),
+            Under_Heading(Label1, Selected_Number, SelectList).Grow()})
+           .Grow(),
+       Row({Column({Variety_Name_List_Label, Place(Variety_Name_ListView).High(list_height).Grow()})
+                .Grow(),
+            Column({Row({Regions_List_Label, Stretch(), Recipe_Name}),
+                    Place(Regions_ListView).High(list_height).Grow()})
+                .Grow()})
+           .Grow(),
+       Ways_Out_Place()}));
+}
+
+void Search_General_Pairings_Form::Form_Load() {
+  Load_Pairings(std::numeric_limits<Integer>::max());
+  Clear_Chosen();
+  Cat_List.SetFocus();
+}
+
+void Search_General_Pairings_Form::Proceed() {
+  if (command_ == "GeneralPairings") Show_Varieties();
+  if (command_ == "WineSearch") Show_Found_Wines();
+}
+
+// ---- from pairings to varieties ----
+
+void Search_General_Pairings_Form::Show_Varieties() {
+  Variety_Name_ListView.Clear();
+  Regions_ListView.Clear();
+  Recipe_Name.Set_Caption("");
+  Open_by(Varieties_Per_Maridage_Recordset, "Varieties_Per_Maridage", "Maridage_ID");
+  Open_by(Maridages_Recordset, "Maridages", "Maridage_ID");
+  Open_by(Varieties_Recordset, "Varieties", "Variety_ID");
+  for (int item = 1; item <= Selected_Count; ++item) {
+    Maridages_Recordset.Seek("=", Selected_IDs[item]);
+    if (Maridages_Recordset.NoMatch()) continue;
+    Add_Varieties_of_Pairing(Maridages_Recordset.Fields("Maridage_ID").As_Long());
+  }
+  Close_Table(Varieties_Per_Maridage_Recordset);
+  Close_Table(Maridages_Recordset);
+  Close_Table(Varieties_Recordset);
+  Load_Regions_of_all_Varieties();
+}
+
+void Search_General_Pairings_Form::Add_Varieties_of_Pairing(Long maridage_id) {
+  auto& pairs = Varieties_Per_Maridage_Recordset;
+  pairs.Seek("=", maridage_id);
+  for (; !pairs.NoMatch() && !pairs.Eof(); pairs.MoveNext()) {
+    if (pairs.Fields("Maridage_ID").As_Long() != maridage_id) break;
+    Varieties_Recordset.Seek("=", pairs.Fields("Variety_ID").As_Long());
+    if (!Varieties_Recordset.NoMatch()) Add_Variety();
+  }
+}
+
+void Search_General_Pairings_Form::Add_Variety() {
+  Read_Varieties_Record();
+  if (Variety_Name_ListView.FindItem(Varieties.Variety_Name)) return;
+  Forms::List_Item item = Variety_Name_ListView.Add(Varieties.Variety_Name);
+  item.Set_SubItems(1, Varieties.Variety_Color);
+  item.Set_SubItems(variety_key_column, To_Text(Varieties.Variety_ID));
+}
+
+// ---- from varieties to regions ----
+
+void Search_General_Pairings_Form::Variety_Name_ListView_ItemClick(const Forms::List_Item& item) {
+  Recipe_Name.Set_Caption(item.Text());
+  Open_by(Varieties_Recordset, "Varieties", "Variety_ID");
+  Varieties_Recordset.Seek("=", item.SubItems(variety_key_column));
+  Read_Varieties_Record();
+  Close_Table(Varieties_Recordset);
+  Load_Varieties_Regions();
+}
+
+void Search_General_Pairings_Form::Load_Varieties_Regions() {
+  Regions_ListView.Clear();
+  Add_Regions_of_Variety(Varieties.Variety_ID, Same_Name::Is_Listed);
+}
+
+void Search_General_Pairings_Form::Load_Regions_of_all_Varieties() {
+  Regions_ListView.Clear();
+  for (int place = 1; place <= Variety_Name_ListView.Count(); ++place) {
+    const Forms::List_Item variety = Variety_Name_ListView.ListItems(place);
+    Add_Regions_of_Variety(To_Long(variety.SubItems(variety_key_column)),
+                           Same_Name::Is_Passed_Over);
+  }
+}
+
+void Search_General_Pairings_Form::Add_Regions_of_Variety(Long variety_id, Same_Name same_name) {
+  auto& pairs = Regions_Per_Variety_Recordset;
+  Open_by(Regions_Recordset, "Regions", "Region_ID");
+  Open_by(pairs, "Regions_Per_Variety", "Variety_ID");
+  pairs.Seek("=", variety_id);
+  for (; !pairs.NoMatch() && !pairs.Eof(); pairs.MoveNext()) {
+    if (pairs.Fields("Variety_ID").As_Long() != variety_id) break;
+    Regions_Recordset.Seek("=", pairs.Fields("Region_ID").As_Long());
+    if (Regions_Recordset.NoMatch()) continue;
+    const Text name = Regions_Recordset.Fields("Region_Name").As_Text();
+    if (same_name == Same_Name::Is_Passed_Over && Regions_ListView.FindItem(name)) continue;
+    Forms::List_Item item = Regions_ListView.Add(name);
+    item.Set_SubItems(1, Regions_Recordset.Fields("Country").As_Text());
+    item.Set_SubItems(2, Regions_Recordset.Fields("Region_ID").As_Text());
+  }
+  Close_Table(Regions_Recordset);
+  Close_Table(pairs);
+}

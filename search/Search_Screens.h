@@ -1,0 +1,4 @@
+// The screens of this room, made known to the registry.
+#pragma once
+
+void Register_Search_Screens();

@@ -1,0 +1,156 @@
+#include "search/Wine_Search_Results_Form.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "core/Globals.h"
+#include "core/Link_Search.h"
+#include "core/Varieties_Processes.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "platform/run_time/Conversions.h"
+
+namespace {
+
+// Leaves the former one in the memory record where the winery of the wine has gone.
+void Read_Winery_of_Wine() {
+  Wineries_Recordset.Seek("=", Wines.Winery_ID);
+  if (!Wineries_Recordset.NoMatch()) Read_Wineries_Record();
+}
+
+void Open_Wineries_by_Key() {
+  Open_Table(Wineries_Recordset, "Wineries");
+  Wineries_Recordset.Index("Winery_ID");
+}
+
+}  // namespace
+
+Wine_Search_Results_Form::Wine_Search_Results_Form()
+    : Wine_Screen("Wine_Search_Results_Form", "Wine Information"), command_(Current_Command) {
+  Lay_Out();
+  Wine_Cellar_ListView.ItemClick = [this](Forms::List_Item item) {
+    Wine_Cellar_ListView_ItemClick(item);
+  };
+  Wine_Cellar_ListView.ColumnClick = [this](const Forms::Column_Header& header) {
+    Wine_Cellar_ListView_ColumnClick(header);
+  };
+  Multi_Functional_Command.Click = [this] { Multi_Functional_Command_Click(); };
+  Exit_Command.Click = [this] { Exit_Command_Click(); };
+}
+
+void Wine_Search_Results_Form::Lay_Out() {
+  using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  constexpr int opening_width = 1264;
+  constexpr int list_height = 14;
+  constexpr int requested_width = 26;
+  Requested_Pairings_Label.Set_Buddy(Requested_Pairings_List);
+  const Place found = Column({Row({Current_Cellar_Label, Stretch(), Wines_Number}),
+                              Place(Wine_Cellar_ListView).High(list_height).Grow()});
+  const Place requested = Column(
+      {Requested_Pairings_Label, Place(Requested_Pairings_List).Wide(requested_width).Grow()});
+  Set_Content(Column({Above_Below(Row({found.Grow(), requested}).Grow(), Fields_Place({})).Grow(),
+                      Buttons({Multi_Functional_Command, Exit_Command})}));
+  Set_Exit(Exit_Command);
+  Set_Width(opening_width);
+}
+
+// ---- loading ----
+
+void Wine_Search_Results_Form::Form_Load() {
+  Initialize_Form_Data();
+  if (command_ != "WineSearch") return;
+  Lock_Top_Window();
+  Checks_Locked = true;
+  Set_Caption("Results of Pairings with Wine in your " + Current_Cellar_Name + " Cellar");
+  Multi_Functional_Command.Set_Enabled(false);
+  Multi_Functional_Command.Set_Caption("UNCORK");
+  Current_Cellar_Label.Set_Caption("Wines Matching the Request");
+  Get_WineResults_Records();
+  Load_Requested_Pairings();
+  Wine_Cellar_ListView.SetFocus();
+}
+
+// Nothing stands in the fields before a wine is clicked.
+void Wine_Search_Results_Form::Initialize_Form_Data() {
+  const Ignoring_Events ignoring;
+  for (const Keyed_List& lines : {Winery_Lines, Label_Lines, Variety_Lines, Region_Lines,
+                                  Country_Lines, Classification_Lines, Pairing_Lines}) {
+    lines.Clear();
+  }
+  for (Forms::Combo_Box* combo :
+       {&Vintage_Combo, &Color_Combo, &Merit_Combo, &Bottle_Size_Combo, &Peak_Year_Combo}) {
+    combo->Clear();
+  }
+  for (Forms::Text_Box* box : Text_Fields()) box->Set_Text("");
+  Boxes.Clear();
+}
+
+void Wine_Search_Results_Form::Load_Requested_Pairings() {
+  Requested_Pairings_List.Clear();
+  for (int pairing = 1; pairing <= Selected_Count; ++pairing) {
+    Requested_Pairings_List.AddItem(Selected_Names[pairing]);
+  }
+}
+
+// ---- the list ----
+
+// A wine that was removed may still have link rows: it is left out, and so is an entry without a
+// key.
+void Wine_Search_Results_Form::Get_WineResults_Records() {
+  Search_Wines_for_Maridages();
+  Open_Wineries_by_Key();
+  Open_Table(Wines_Recordset, "Wines");
+  Wines_Recordset.Index("Wine_ID");
+  Clear_Wine_List();
+  for (int found = 1; found <= Found_Count; ++found) {
+    Wines_Recordset.Seek("=", Found_IDs[found]);
+    if (Wines_Recordset.NoMatch()) continue;
+    Read_Wines_Record();
+    Read_Winery_of_Wine();
+    Add_Wine_to_List();
+  }
+  Close_Table(Wineries_Recordset);
+  Close_Table(Wines_Recordset);
+  Wines_Number.Set_Caption(To_Text(Wine_Cellar_ListView.Count()));
+}
+
+// Two of the headers read otherwise than the words they are compared with: they turn the order and
+// keep the column.
+void Wine_Search_Results_Form::Wine_Cellar_ListView_ColumnClick(
+    const Forms::Column_Header& header) {
+  constexpr std::array<std::string_view, 9> headers{
+      "Vintage", "Winery", "Label", "Region", "Variety", "Color", "Merit", "Peak", "Stock"};
+  Wine_Cellar_ListView.Set_SortOrder(Wine_Cellar_ListView.SortOrder() == 0 ? 1 : 0);
+  Wine_Cellar_ListView.Set_Sorted(true);
+  const auto* found = std::ranges::find(headers, header.Text);
+  if (found != headers.end()) {
+    Wine_Cellar_ListView.Set_SortKey(static_cast<int>(found - headers.begin()));
+  }
+}
+
+// The focus goes back to the list, for the next wine.
+void Wine_Search_Results_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
+  Checks_Locked = false;
+  Wines.Wine_ID = To_Long(Wine_Key(item));
+  Seek_Wine();
+  Open_Wineries_by_Key();
+  Read_Winery_of_Wine();
+  Close_Table(Wineries_Recordset);
+  Memory_to_Form_Unique();
+  item.Set_Selected(true);
+  Close_Table(Wines_Recordset);
+  Wine_Cellar_ListView.SetFocus();
+  if (command_ != "WineSearch") return;
+  Checks_Locked = true;
+  Multi_Functional_Command.Set_Enabled(Wines.Total_Bottles > 0);
+}
+
+void Wine_Search_Results_Form::Multi_Functional_Command_Click() { Uncork_Wine(); }
+
+void Wine_Search_Results_Form::Exit_Command_Click() {
+  Unload();
+  Forms::Screen(command_ == "WineSearch" ? "Select_Mult_Maridages_Form" : "Wine_Cellar_Form")
+      .Show();
+}

@@ -1,0 +1,34 @@
+// The wines of the cellar that a search by pairings found: a list above, the wine that was clicked
+// below, to be looked at and uncorked.
+//
+// The list is what the search finds with the selection of the moment. A click on a wine makes that
+// wine's pairings the selection: what is listed after an uncorking goes by these.
+#pragma once
+
+#include "core/Wine_Screen.h"
+
+class Wine_Search_Results_Form : public Wine_Screen {
+ public:
+  Wine_Search_Results_Form();
+
+ protected:
+  void Form_Load() override;
+  void Fill_Wine_List() override { Get_WineResults_Records(); }
+
+ private:
+  void Lay_Out();
+  void Initialize_Form_Data();
+  void Load_Requested_Pairings();
+  void Get_WineResults_Records();
+  void Wine_Cellar_ListView_ColumnClick(const Forms::Column_Header& header);
+  void Wine_Cellar_ListView_ItemClick(Forms::List_Item item);
+  void Multi_Functional_Command_Click();
+  void Exit_Command_Click();
+
+  /// The command under which the screen was loaded.
+  Text command_;
+
+  Forms::Label Wines_Number{*this, "Wines_Number"};
+  Forms::Label Requested_Pairings_Label{*this, "Requested_Pairings_Label", "Requested Pairings"};
+  Forms::List_Box Requested_Pairings_List{*this, "Requested_Pairings_List"};
+};

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/forms/Focus.h"
+#include "platform/forms/Form_Data.h"
 #include "platform/forms/Handlers.h"
 #include "platform/forms/Later.h"
 #include "platform/forms/List_Rows.h"
@@ -116,6 +117,7 @@ void List_View::Clear() {
   show_->selected.clear();
   show_->current = -1;
   show_->to_the_top = true;
+  ++show_->fill;
   order_is_old_ = false;
   Changed(false);
 }
@@ -219,6 +221,20 @@ void List_View::Picked(int place, bool by_arrow) {
   if (by_arrow && !arrow_keys_pick_) return;
   Raise(*this, ItemClick, List_Item(*this, show_->current));
   if (by_arrow) Focus_Watch::The().Give_Back(*this);
+}
+
+void List_View::Picked_Twice(int place) {
+  if (place >= Count()) return;
+  const Identity item = Identity_At(place);
+  Picked(place, false);
+  const bool in_use = Owner().Visible() && Owner().Data().waiting_for == 0;
+  const bool is_there = item.fill == show_->fill && rows_->Place_Of(item.row) >= 0;
+  if (in_use && is_there) Raise(*this, DblClick, List_Item(*this, item.row));
+}
+
+List_View::Identity List_View::Identity_At(int place) const {
+  if (place < 0 || place >= Count()) return {};
+  return {show_->fill, rows_->Row_At(place)};
 }
 
 bool List_View::Was_Picked_From() const { return show_->current >= 0; }

@@ -117,12 +117,17 @@ class List_View : public Placed_Control {
 
   /// Several rows can be selected, with Ctrl.
   void Set_MultiSelect(bool several);
-  /// False where a pick asks a question or leaves the screen: the arrow keys only move then, and
-  /// Enter or Space picks.
+  /// False where a pick asks a question or leaves the screen: the arrow keys and typing only move
+  /// then, and Enter or Space picks.
   void Set_Arrow_Keys_Pick(bool pick) { arrow_keys_pick_ = pick; }
 
-  /// The user picked a row, by mouse (the selected one too), Enter, Space or the arrow keys.
+  /// The user picked a row, by mouse (the selected one too), Enter, Space, the arrow keys, or
+  /// typing, which goes to the next row whose text begins so and is a move like that of an arrow.
   std::function<void(List_Item item)> ItemClick;
+  /// The user wants what the row is for: a double click on it, or Enter. Comes after the ItemClick
+  /// of the same click or key, and only if that left the row in the list and the form in use. Space
+  /// only picks.
+  std::function<void(List_Item item)> DblClick;
   /// The user clicked a header, or chose it in the menu of the columns, which opens by the right
   /// button, the menu key and Shift+F10 where this is set.
   std::function<void(const Column_Header& header)> ColumnClick;
@@ -132,6 +137,15 @@ class List_View : public Placed_Control {
   /// Brings what is shown up to date, which otherwise happens at the end of the handler.
   void Refresh();
   void Picked(int place, bool by_arrow);
+  /// ItemClick, then DblClick.
+  void Picked_Twice(int place);
+  /// Tells a row from all others of this list, past ones too; outside the list it is nobody's.
+  struct Identity {
+    int fill = -1;
+    int row = -1;
+    bool operator==(const Identity&) const = default;
+  };
+  Identity Identity_At(int place) const;
   /// Whether a row was picked or selected since the list was filled.
   bool Was_Picked_From() const;
   void Header_Clicked(int column);

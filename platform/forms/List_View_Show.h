@@ -18,6 +18,7 @@ struct List_View::Show {
   std::set<int> selected;  ///< rows
   int current = -1;        ///< the row picked last
   bool to_the_top = false;
+  int fill = 0;         ///< counts how often the list was cleared: rows are numbered anew
   bool is_old = false;  ///< the view waits for Refresh
 };
 

@@ -121,19 +121,9 @@ void List_Widget::inputMethodEvent(QInputMethodEvent* event) {
   Tell_If_Chosen();
 }
 
-// The toolkit looks from the entry after the current one: an entry that only has the focus is to be
-// the first to be looked at, so the search starts from the one before it.
-void List_Widget::keyboardSearch(const QString& beginning) {
-  const QPersistentModelIndex place = currentIndex();
-  if (Stands_On_Unchosen()) {
-    const int count = model()->rowCount();
-    selectionModel()->setCurrentIndex(model()->index((place.row() + count - 1) % count, 0),
-                                      QItemSelectionModel::NoUpdate);
-  }
-  QListView::keyboardSearch(beginning);
-  if (currentIndex() != place && !Is_Shown_Chosen(currentIndex())) {
-    selectionModel()->setCurrentIndex(place, QItemSelectionModel::NoUpdate);
-  }
+void List_Widget::keyboardSearch(const QString& typed) {
+  const int row = search_.Find(typed, *model(), currentIndex().row(), Stands_On_Unchosen());
+  if (row >= 0) setCurrentIndex(model()->index(row, 0));
 }
 
 }  // namespace Forms

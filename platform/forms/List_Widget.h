@@ -5,6 +5,7 @@
 #include <QPersistentModelIndex>
 
 #include "platform/forms/Item_List.h"
+#include "platform/forms/Typed_Search.h"
 
 namespace Forms {
 
@@ -18,7 +19,7 @@ class List_Widget : public QListView {
 
   /// -1 shows none as chosen; the focus stays where it stands.
   void Show_Index(int row);
-  void keyboardSearch(const QString& beginning) override;
+  void keyboardSearch(const QString& typed) override;
 
  protected:
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
@@ -40,7 +41,8 @@ class List_Widget : public QListView {
   Item_List& list_;
   QPersistentModelIndex pressed_;
   QPersistentModelIndex chosen_;  ///< the entry chosen last
-  int clicks_ = 0;                ///< how many the button's release ends
+  Typed_Search search_;
+  int clicks_ = 0;  ///< how many the button's release ends
 };
 
 }  // namespace Forms

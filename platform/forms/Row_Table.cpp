@@ -133,12 +133,20 @@ QItemSelectionModel::SelectionFlags Row_View::selectionCommand(const QModelIndex
 // The other buttons choose no row: nobody would be told of it.
 void Row_View::mousePressEvent(QMouseEvent* event) {
   pressed_ = -1;
+  pressed_row_ = {};
+  second_click_ = false;
   if (event->button() != Qt::LeftButton) return;
   QTreeView::mousePressEvent(event);
   pressed_ = indexAt(event->position().toPoint()).row();
+  pressed_row_ = list_.Identity_At(pressed_);
 }
 
-void Row_View::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+// Two clicks on one place are one double click only if its row is still the same.
+void Row_View::mouseDoubleClickEvent(QMouseEvent* event) {
+  const List_View::Identity before = pressed_row_;
+  mousePressEvent(event);
+  second_click_ = pressed_ >= 0 && pressed_row_ == before;
+}
 
 // In a list of single selection a drag does not choose: the row that was pressed is the one picked.
 void Row_View::mouseMoveEvent(QMouseEvent* event) {
@@ -148,7 +156,8 @@ void Row_View::mouseMoveEvent(QMouseEvent* event) {
 void Row_View::mouseReleaseEvent(QMouseEvent* event) {
   QTreeView::mouseReleaseEvent(event);
   const int place = std::exchange(pressed_, -1);
-  if (event->button() == Qt::LeftButton && place >= 0) list_.Picked(place, false);
+  if (event->button() != Qt::LeftButton || place < 0) return;
+  second_click_ ? list_.Picked_Twice(place) : list_.Picked(place, false);
 }
 
 void Row_View::contextMenuEvent(QContextMenuEvent* event) {
@@ -174,37 +183,58 @@ bool Row_View::Is_Menu_Key(const QKeyEvent& event) {
 }
 
 void Row_View::keyPressEvent(QKeyEvent* event) {
-  const int key = event->key();
   if (Is_Menu_Key(*event)) {
     Offer_Columns(Below_Header());
     return;
   }
-  if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
-    Pick_By_Key();
-    return;
-  }
-  // The first step goes onto the row that the focus stands on, which nobody picked yet.
-  const bool first_step = !list_.Was_Picked_From() && currentIndex().isValid() &&
-                          (key == Qt::Key_Down || key == Qt::Key_Up);
+  if (Pick_By_Key(*event)) return;
+  const bool first_step = Step_Onto_Current(*event);
   const int before = first_step ? -1 : currentIndex().row();
-  if (first_step) {
-    selectionModel()->select(currentIndex(),
-                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-  } else {
-    QTreeView::keyPressEvent(event);
-  }
-  const int now = currentIndex().row();
-  if (now >= 0 && now != before) list_.Picked(now, true);
+  if (!first_step) QTreeView::keyPressEvent(event);
+  Tell_If_Moved(before);
 }
 
-void Row_View::Pick_By_Key() {
+void Row_View::inputMethodEvent(QInputMethodEvent* event) {
+  const int before = currentIndex().row();
+  QTreeView::inputMethodEvent(event);
+  Tell_If_Moved(before);
+}
+
+void Row_View::Tell_If_Moved(int before) {
+  const int now = currentIndex().row();
+  const bool found = std::exchange(found_, false);
+  if (now >= 0 && (found || now != before)) list_.Picked(now, true);
+}
+
+// The first step goes onto the row that the focus stands on, which nobody picked yet.
+bool Row_View::Step_Onto_Current(const QKeyEvent& event) {
+  const bool step = event.key() == Qt::Key_Down || event.key() == Qt::Key_Up;
+  if (!step || list_.Was_Picked_From() || !currentIndex().isValid()) return false;
+  selectionModel()->select(currentIndex(),
+                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  return true;
+}
+
+void Row_View::keyboardSearch(const QString& typed) {
+  const bool picked = list_.Was_Picked_From();
+  const int place = search_.Find(typed, *model(), currentIndex().row(), !picked);
+  if (place < 0) return;
+  found_ = !picked;
+  setCurrentIndex(model()->index(place, 0));
+}
+
+// A blank inside a word that is being typed belongs to it.
+bool Row_View::Pick_By_Key(const QKeyEvent& event) {
+  const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  const bool space = event.key() == Qt::Key_Space && !search_.Goes_On_With(" ", *model());
+  if (!enter && !space) return false;
   const QModelIndex current = currentIndex();
-  if (!current.isValid()) return;
-  const bool several = Takes_Several();
-  selectionModel()->select(
-      current, (several ? QItemSelectionModel::Select : QItemSelectionModel::ClearAndSelect) |
-                   QItemSelectionModel::Rows);
-  list_.Picked(current.row(), false);
+  if (!current.isValid()) return true;
+  const auto command =
+      Takes_Several() ? QItemSelectionModel::Select : QItemSelectionModel::ClearAndSelect;
+  selectionModel()->select(current, command | QItemSelectionModel::Rows);
+  enter ? list_.Picked_Twice(current.row()) : list_.Picked(current.row(), false);
+  return true;
 }
 
 }  // namespace Forms

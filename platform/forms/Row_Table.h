@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/forms/List_View.h"
+#include "platform/forms/Typed_Search.h"
 
 namespace Forms {
 
@@ -48,6 +49,7 @@ class Row_View : public QTreeView {
 
   void dataChanged(const QModelIndex& first, const QModelIndex& last,
                    const QList<int>& roles = {}) override;
+  void keyboardSearch(const QString& typed) override;
 
  protected:
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
@@ -57,17 +59,24 @@ class Row_View : public QTreeView {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   static bool Is_Menu_Key(const QKeyEvent& event);
   QPoint Below_Header() const;
   void Offer_Columns(QPoint place);
-  void Pick_By_Key();
+  bool Pick_By_Key(const QKeyEvent& event);
+  bool Step_Onto_Current(const QKeyEvent& event);
+  void Tell_If_Moved(int before);
   bool Takes_Several() const { return selectionMode() == ExtendedSelection; }
 
   List_View& list_;
+  Typed_Search search_;
+  bool found_ = false;  ///< typing led to the row on which the focus stood, which nobody picked yet
   int pressed_ = -1;
+  List_View::Identity pressed_row_;
+  bool second_click_ = false;  ///< the button that is down is to end a double click
   bool selecting_ = false;
 };
 

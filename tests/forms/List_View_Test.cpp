@@ -10,6 +10,7 @@
 #include "platform/forms/Forms.h"
 #include "platform/record_store/Text_Order.h"
 #include "platform/run_time/Guard.h"
+#include "tests/forms/Row_Clicks.h"
 #include "tests/support/Drive.h"
 #include "tests/support/Expect_Failure.h"
 
@@ -26,7 +27,9 @@ class Regions_Form : public Forms::Form {
       log.push_back(item.Text());
       if (takes_focus) Name_Text.SetFocus();
       if (deselects) List.SelectedItem().Set_Selected(false);
+      if (on_click) on_click();
     };
+    List.DblClick = [](List_Item item) { log.push_back("DblClick " + item.Text()); };
     List.ColumnClick = [](const Forms::Column_Header& header) {
       log.push_back(std::to_string(header.Index) + " " + header.Text);
     };
@@ -54,6 +57,7 @@ class Regions_Form : public Forms::Form {
   static inline Log log;
   bool takes_focus = false;
   bool deselects = false;
+  std::function<void()> on_click;
   Forms::Text_Box Name_Text{*this, "Name_Text"};
   List_View List{*this,
                  "Regions_ListView",
@@ -229,7 +233,7 @@ TEST_F(List_View_Test, Mouse_and_keys_pick_a_row) {
   EXPECT_EQ(Taken(), Log({"LostFocus", "alsace", "alsace", "alsace"}));
   EXPECT_TRUE(list.ListItems(2).Selected());
   for (const char* key : {"Down", "Return", "Space", "End", "Up"}) Press(key);
-  EXPECT_EQ(Taken(), Log({"Éclair", "Éclair", "Éclair", "Zitsa", "Loire"}));
+  EXPECT_EQ(Taken(), Log({"Éclair", "Éclair", "DblClick Éclair", "Éclair", "Zitsa", "Loire"}));
   list.Set_Arrow_Keys_Pick(false);
   Press("Home");
   EXPECT_EQ(Taken(), Log());
@@ -260,6 +264,72 @@ TEST_F(List_View_Test, Browsing_goes_on_though_the_handler_moves_the_focus_or_de
   Press("Up");
   EXPECT_EQ(Taken(), Log({"Éclair", "alsace"}));
   EXPECT_FALSE(list.Has_Selection());
+}
+
+TEST_F(List_View_Test, A_double_click_and_enter_come_after_the_pick_of_the_row) {
+  Double_Click_Row("Regions_ListView", 1);
+  EXPECT_EQ(Taken(), Log({"LostFocus", "alsace", "alsace", "DblClick alsace"}));
+  Double_Click_Row("Regions_ListView", 99);
+  list.ColumnClick = {};
+  Double_Click_Row("Regions_ListView", 2, Qt::RightButton);
+  EXPECT_EQ(Taken(), Log());
+  list.Set_Arrow_Keys_Pick(false);
+  for (const char* key : {"Down", "Space", "Enter"}) Press(key);
+  EXPECT_EQ(Taken(), Log({"Éclair", "Éclair", "DblClick Éclair"}));
+}
+
+TEST_F(List_View_Test, Nothing_follows_a_pick_that_took_the_row_or_the_screen_away) {
+  const auto both = [&](int row) {
+    Double_Click_Row("Regions_ListView", row);
+    Press("Return");
+    return Taken();
+  };
+  list.SetFocus();
+  Taken();
+  form.on_click = [&] { list.Remove(list.SelectedItem().Index()); };
+  EXPECT_EQ(both(0), Log({"Rioja", "alsace"}));
+  form.on_click = [&] { form.Fill(); };
+  EXPECT_EQ(both(1), Log({"Loire", "alsace"}));
+  Click_Row("Regions_ListView", 4);
+  list.SetFocus();
+  Press("Down");
+  Press("Return");
+  EXPECT_EQ(Taken(), Log({"Zitsa", "Rioja"}));
+  form.on_click = [&] { list.Clear(); };
+  EXPECT_EQ(both(2), Log({"Éclair"}));
+  form.Fill();
+  Settle_Events();
+  form.on_click = {};
+  Click_Row("Regions_ListView", 3);
+  form.on_click = [&] { form.Hide(); };
+  Press("Return");
+  EXPECT_EQ(Taken(), Log({"Loire", "Loire"}));
+}
+
+TEST_F(List_View_Test, Typing_goes_to_a_row_as_an_arrow_key_does) {
+  list.Add("Saint Émilion");
+  list.Add("Saint Julien");
+  list.Add("日本 一");
+  list.SetFocus();
+  Taken();
+  const auto typed = [](const char* word) {
+    Type_Anew(word);
+    return Taken();
+  };
+  EXPECT_EQ(typed("r"), Log({"Rioja"}));
+  EXPECT_EQ(typed("ri"), Log());
+  EXPECT_EQ(typed("e"), Log({"Éclair"}));
+  EXPECT_EQ(typed("ж"), Log());
+  Compose_Anew("Regions_ListView", "日本");
+  EXPECT_EQ(Taken(), Log({"日本 一"}));
+  list.Set_Arrow_Keys_Pick(false);
+  EXPECT_EQ(typed("saint"), Log());
+  Press("Space");
+  EXPECT_EQ(Taken(), Log());
+  Type("j");
+  EXPECT_EQ(list.SelectedItem().Text(), "Saint Julien");
+  Press("Space");
+  EXPECT_EQ(Taken(), Log({"Saint Julien"}));
 }
 
 TEST_F(List_View_Test, A_menu_of_the_columns_is_a_click_on_a_header) {

@@ -6,6 +6,7 @@
 
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Guard.h"
+#include "tests/forms/Row_Clicks.h"
 #include "tests/support/Drive.h"
 #include "tests/support/Expect_Failure.h"
 
@@ -18,14 +19,22 @@ class Lists_Form : public Forms::Form {
   Lists_Form() : Form("Lists_Form", "Lists") {
     Country_Combo.Click = [this] { log.push_back("Combo " + Country_Combo.Text()); };
     Country_Combo.DblClick = [this] { log.push_back("Combo DblClick"); };
-    Cat_List.Click = [this] { log.push_back("List " + Cat_List.Text()); };
+    Cat_List.Click = [this] { Note("List " + Cat_List.Text(), on_click); };
+    Cat_List.DblClick = [this] { Note("DblClick " + Cat_List.Text(), on_second); };
     Variety_Combo.Click = [this] { log.push_back("Checks " + Variety_Combo.Text()); };
     Variety_Combo.ItemCheck = [this](int item) {
       log.push_back("ItemCheck " + std::to_string(item));
       if (undo_ticks && Variety_Combo.Selected(item)) Variety_Combo.Set_Selected(item, false);
     };
+    Exit_Command.Click = [] { log.push_back("Exit"); };
+    Set_Exit(Exit_Command);
     Set_Content(Forms::Column({Country_Combo, Forms::Place(Cat_List).High(8),
-                               Forms::Place(Variety_Combo).High(8), Other_Text}));
+                               Forms::Place(Variety_Combo).High(8), Other_Text, Exit_Command}));
+  }
+
+  static void Note(const std::string& event, const std::function<void()>& then) {
+    log.push_back(event);
+    if (then) then();
   }
 
   void Fill(Forms::Item_List& list) {
@@ -40,10 +49,13 @@ class Lists_Form : public Forms::Form {
 
   static inline Log log;
   bool undo_ticks = false;
+  std::function<void()> on_click;
+  std::function<void()> on_second;
   Forms::Combo_Box Country_Combo{*this, "Country_Combo"};
   Forms::List_Box Cat_List{*this, "Cat_List"};
   Forms::Check_List Variety_Combo{*this, "Variety_Combo"};
   Forms::Text_Box Other_Text{*this, "Other_Text"};
+  Forms::Command_Button Exit_Command{*this, "Exit_Command", "EXIT"};
 };
 
 class Lists_Test : public testing::Test {
@@ -145,6 +157,160 @@ TEST_F(Lists_Test, The_user_chooses_in_a_list) {
   Type("s");
   EXPECT_EQ(Taken(), Log({"List France", "List France", "List Greece", "List Spain"}));
   EXPECT_EQ(Shown().Cat_List.ListIndex(), 3);
+}
+
+TEST_F(Lists_Test, Enter_and_delete_are_events_of_a_list_in_which_an_entry_is_chosen) {
+  Forms::List_Box& list = Shown().Cat_List;
+  list.SetFocus();
+  const auto press_all = [] {
+    for (const char* key : {"Return", "Enter", "Delete", "Shift+Delete", "Ctrl+Return"}) Press(key);
+  };
+  list.Set_ListIndex(1);
+  Taken();
+  press_all();
+  EXPECT_EQ(Taken(), Log());
+  list.Enter_Pressed = [&] { Lists_Form::log.push_back("Enter " + list.Text()); };
+  list.Delete_Pressed = [&] { Lists_Form::log.push_back("Delete " + list.Text()); };
+  press_all();
+  EXPECT_EQ(Taken(), Log({"Enter France", "Enter France", "Delete France"}));
+  Press("Down");
+  Press("Return");
+  EXPECT_EQ(Taken(), Log({"List Greece", "Enter Greece"}));
+  list.Set_ListIndex(-1);
+  press_all();
+  Click("Other_Text");
+  list.Set_ListIndex(0);
+  press_all();
+  EXPECT_EQ(Taken(), Log({"List Chile"}));
+  list.SetFocus();
+  Press("Esc");
+  EXPECT_EQ(Taken(), Log({"Exit"}));
+}
+
+TEST_F(Lists_Test, A_double_click_comes_after_its_click_and_only_on_one_entry) {
+  Double_Click_Row("Cat_List", 2);
+  EXPECT_EQ(Taken(), Log({"List Greece", "DblClick Greece"}));
+  Double_Click_Row("Cat_List", 99);
+  Double_Click_Row("Cat_List", 1, Qt::RightButton);
+  EXPECT_EQ(Taken(), Log());
+  EXPECT_EQ(Chosen_Row("Cat_List"), 2);
+  Double_Click_Row("Cat_List", 2, Qt::LeftButton, Qt::ControlModifier);
+  EXPECT_EQ(Taken(), Log({"List Greece", "DblClick Greece"}));
+  EXPECT_EQ(Chosen_Row("Cat_List"), 2);
+  Drag_Row("Cat_List", 1, 3);
+  EXPECT_EQ(Taken(), Log({"List France"}));
+  EXPECT_EQ(Chosen_Row("Cat_List"), 1);
+}
+
+TEST_F(Lists_Test, A_handler_may_take_the_entries_away) {
+  Lists_Form& form = Shown();
+  Forms::List_Box& list = form.Cat_List;
+  form.on_click = [&] { list.RemoveItem(list.ListIndex()); };
+  Double_Click_Row("Cat_List", 0);
+  EXPECT_EQ(Taken(), Log({"List Chile", "List France"}));
+  form.on_click = [&] {
+    list.Clear();
+    list.AddItem("Italy");
+  };
+  Double_Click_Row("Cat_List", 0);
+  EXPECT_EQ(Taken(), Log({"List Greece", "List Italy"}));
+  EXPECT_EQ(list.ListIndex(), -1);
+  form.on_click = {};
+  form.on_second = [&] { list.Clear(); };
+  Double_Click_Row("Cat_List", 0);
+  EXPECT_EQ(Taken(), Log({"List Italy", "DblClick Italy"}));
+  form.Fill(list);
+  list.Set_ListIndex(3);
+  list.Enter_Pressed = [&] { list.Clear(); };
+  list.Delete_Pressed = [&] { list.RemoveItem(list.ListIndex()); };
+  Press("Delete");
+  EXPECT_EQ(list.ListCount(), 3);
+  list.Set_ListIndex(2);
+  Press("Return");
+  Press("Return");
+  EXPECT_EQ(list.ListCount(), 0);
+  for (const char* key : {"Down", "End", "Space", "Delete", "x"}) Press(key);
+  EXPECT_EQ(Taken(), Log({"List Spain", "List Greece"}));
+  form.Fill(list);
+  form.on_second = [&] { form.Unload(); };
+  Double_Click_Row("Cat_List", 1);
+  EXPECT_EQ(Taken(), Log({"List France", "DblClick France"}));
+}
+
+TEST_F(Lists_Test, Keys_go_on_where_the_chosen_entry_was_removed) {
+  Forms::List_Box& list = Shown().Cat_List;
+  list.SetFocus();
+  list.AddItem("Sweden");
+  const auto remove = [&](int index) {
+    list.Set_ListIndex(index);
+    list.RemoveItem(index);
+    EXPECT_EQ(list.ListIndex(), -1);
+    EXPECT_EQ(Chosen_Row("Cat_List"), -1);
+    Taken();
+  };
+  remove(2);
+  Press("Down");
+  Press("Down");
+  EXPECT_EQ(Taken(), Log({"List Spain", "List Sweden"}));
+  remove(3);
+  Type("s");
+  EXPECT_EQ(Taken(), Log({"List Spain"}));
+  EXPECT_EQ(Chosen_Row("Cat_List"), 2);
+  remove(1);
+  list.Set_ListIndex(1);
+  EXPECT_EQ(Chosen_Row("Cat_List"), 1);
+  Press("Up");
+  EXPECT_EQ(Taken(), Log({"List Spain", "List Chile"}));
+  remove(0);
+  Type("s");
+  EXPECT_EQ(Taken(), Log({"List Spain"}));
+  remove(0);
+  list.AddItem("Italy");
+  Press("Down");
+  EXPECT_EQ(Taken(), Log({"List Italy"}));
+}
+
+TEST_F(Lists_Test, The_first_key_chooses_what_the_focus_stands_on) {
+  Forms::List_Box& list = Shown().Cat_List;
+  list.SetFocus();
+  Press("Shift+F5");
+  EXPECT_EQ(Taken(), Log());
+  Press("Down");
+  list.Set_ListIndex(-1);
+  Press("Down");
+  EXPECT_EQ(Taken(), Log({"List Chile", "List France"}));
+  for (const char* key : {"Home", "PgUp", "Space", "c"}) {
+    list.Clear();
+    Shown().Fill(list);
+    Click("Other_Text");
+    list.SetFocus();
+    Press(key);
+    EXPECT_EQ(Taken(), Log({"List Chile"})) << key;
+    EXPECT_EQ(Chosen_Row("Cat_List"), 0) << key;
+  }
+}
+
+TEST_F(Lists_Test, Typing_finds_entries_in_every_script) {
+  Forms::List_Box& list = Shown().Cat_List;
+  for (const char* entry : {"São Tomé", "South Africa", "Éire", "日本", "日本酒", "𠮷野"}) {
+    list.AddItem(entry);
+  }
+  list.SetFocus();
+  const auto typed = [](const char* word) {
+    Type_Anew(word);
+    return Taken();
+  };
+  EXPECT_EQ(typed("s"), Log({"List Spain"}));
+  EXPECT_EQ(typed("s"), Log({"List São Tomé"}));
+  EXPECT_EQ(typed("sss"), Log({"List South Africa", "List Spain", "List São Tomé"}));
+  EXPECT_EQ(typed("SOUTH A"), Log({"List South Africa"}));
+  EXPECT_EQ(typed("sao t"), Log({"List Spain", "List São Tomé"}));
+  EXPECT_EQ(typed("é"), Log({"List Éire"}));
+  EXPECT_EQ(typed("日本酒"), Log({"List 日本", "List 日本酒"}));
+  EXPECT_EQ(typed("ж"), Log());
+  Compose_Anew("Cat_List", "𠮷");
+  Compose_Anew("Cat_List", "日本酒");
+  EXPECT_EQ(Taken(), Log({"List 𠮷野", "List 日本酒"}));
 }
 
 TEST_F(Lists_Test, Ticks_raise_item_check_by_the_user_and_by_code_that_changes_one) {

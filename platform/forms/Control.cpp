@@ -1,6 +1,7 @@
 #include "platform/forms/Control.h"
 
 #include <QLayout>
+#include <QTextDocument>
 #include <QWidget>
 
 #include "platform/forms/Focus.h"
@@ -91,22 +92,32 @@ void Placed_Control::Set_ForeColor(Color color) {
   Show_Look();
 }
 
-void Placed_Control::Show_Look() {
-  Show_Later(this, [this] { Dress(widget_, back_color_, fore_color_); });
-  if (back_color_ == Required_Color) {
-    Show_State(State_Words().required);
-  } else if (back_color_ == Locked_Color || Is_Locked()) {
-    Show_State(State_Words().locked);
-  } else if (back_color_ == Active_List_Color) {
-    Show_State(State_Words().to_click_next);
-  } else {
-    Show_State({});
-  }
+void Placed_Control::Set_Tool_Tip(std::string_view text) {
+  tool_tip_ = text;
+  Show_State();
 }
 
-void Placed_Control::Show_State(std::string_view words) {
-  widget_->setAccessibleDescription(To_Qt(words));
-  widget_->setToolTip(To_Qt(words));
+void Placed_Control::Show_Look() {
+  Show_Later(this, [this] { Dress(widget_, back_color_, fore_color_); });
+  Show_State();
+}
+
+std::string_view Placed_Control::State() const {
+  if (back_color_ == Required_Color) return State_Words().required;
+  if (back_color_ == Locked_Color || Is_Locked()) return State_Words().locked;
+  if (back_color_ == Active_List_Color) return State_Words().to_click_next;
+  return {};
+}
+
+// The toolkit takes a tip that looks like marked-up text for such a one.
+void Placed_Control::Show_State() {
+  QStringList lines;
+  for (const std::string_view part : {std::string_view(tool_tip_), State()}) {
+    if (!part.empty()) lines.append(To_Show(part));
+  }
+  const QString text = lines.join('\n');
+  widget_->setAccessibleDescription(text);
+  widget_->setToolTip(Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
 }
 
 void Placed_Control::Set_Accessible_Name(std::string_view name) {

@@ -76,6 +76,10 @@ class Placed_Control : public Control {
   Color ForeColor() const { return fore_color_; }
   void Set_ForeColor(Color color);
 
+  /// What the program has to say about the control, as plain text. The words of its state, if any,
+  /// stand below it.
+  void Set_Tool_Tip(std::string_view text);
+
   /// The width of its place, in pixels of an unscaled desktop; without one the layout decides.
   void Set_Width(int pixels);
 
@@ -113,12 +117,14 @@ class Placed_Control : public Control {
 
  private:
   void Show_Accessible_Name();
-  void Show_State(std::string_view words);
+  std::string_view State() const;
+  void Show_State();
 
   QWidget* widget_ = nullptr;
   bool placed_ = false;
   Color back_color_ = Window_Color;
   Color fore_color_ = Window_Color;
+  std::string tool_tip_;
   std::string accessible_name_;
   std::string label_caption_;
 };

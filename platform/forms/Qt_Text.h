@@ -13,8 +13,11 @@ inline QString To_Qt(std::string_view text) {
 
 inline std::string From_Qt(const QString& text) { return text.toStdString(); }
 
-/// A text to be shown: the program's line break is two characters, the toolkit's is one.
-inline QString To_Show(std::string_view text) { return To_Qt(text).replace("\r\n", "\n"); }
+/// A text to be shown: the program's line break is two characters or the first of them, the
+/// toolkit's is the second.
+inline QString To_Show(std::string_view text) {
+  return To_Qt(text).replace("\r\n", "\n").replace('\r', '\n');
+}
 
 /// A caption as the toolkit shows it without a mnemonic: each ampersand stands for itself.
 inline QString Escaped(std::string_view caption) { return To_Show(caption).replace("&", "&&"); }

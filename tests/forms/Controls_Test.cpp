@@ -5,9 +5,13 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
+#include <QHelpEvent>
 #include <QImage>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QTextDocumentFragment>
 #include <QTimer>
 #include <QWidget>
 
@@ -39,7 +43,8 @@ class Controls_Form : public Forms::Form {
          Forms::One_Place(
              {Forms::Group(Wine_Taste_Frame, Forms::Grid(2, {Taste_Check[0], Taste_Check[1]})),
               Forms::Place(Message_Label).Centred()}),
-         Forms::Place(Region_Image).High(5)}));
+         Forms::Place(Region_Image).High(5), Forms::Place(Open_List).High(2)}));
+    Open_List.AddItem("Entry");
   }
 
   static inline Log log;
@@ -57,6 +62,7 @@ class Controls_Form : public Forms::Form {
   Forms::Control_Array<Forms::Check_Box> Taste_Check{*this, "Taste_Check", 0, 1, "Fruity"};
   Forms::Label Message_Label{*this, "Message_Label", "No taste is known"};
   Forms::Picture Region_Image{*this, "Region_Image"};
+  Forms::List_Box Open_List{*this, "Open_List"};
   Forms::List_Box Unseen_List{*this, "Unseen_List"};
 };
 
@@ -240,6 +246,63 @@ TEST_F(Controls_Test, Message_boxes_are_modal_and_esc_is_no_or_ok) {
   Hooks().commit = [] {};
   EXPECT_EQ(commits, 3);
   EXPECT_EQ(Taken(), Log());
+}
+
+TEST_F(Controls_Test, Each_line_break_of_the_program_is_one_that_is_seen) {
+  const char* const text = "Your cellar\rhas\r\nno wine.\r\r<b>None</b>";
+  const std::string lines = "Your cellar\nhas\nno wine.\n\n<b>None</b>";
+  std::string shown;
+  QTimer::singleShot(0, [&] {
+    const auto is_up = [] {
+      const QWidget* box = QApplication::activeModalWidget();
+      return box != nullptr && QApplication::focusWindow() == box->windowHandle();
+    };
+    ASSERT_TRUE(Wait_Until(is_up));
+    shown = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget()).text().toStdString();
+    Press("Return");
+  });
+  Forms::Message_Box(text, "EMPTY");
+  EXPECT_EQ(shown, lines);
+  form.Message_Label.Set_Caption(text);
+  EXPECT_EQ(Shown_Text("Message_Label"), lines);
+  form.Name_Label.Set_Caption("one\rtwo");
+  EXPECT_EQ(Shown_Text("Name_Label"), "one\ntwo");
+}
+
+// What the user reads when the mouse rests on the control.
+std::string Tip_Of(const char* name) {
+  QWidget& widget = Find(name);
+  QTest::mouseMove(&widget, widget.rect().center());
+  const QPoint place = widget.rect().center();
+  QWidget* inside = widget.childAt(place);
+  QWidget& target = inside == nullptr ? widget : *inside;
+  QHelpEvent rest(QEvent::ToolTip, target.mapFrom(&widget, place), widget.mapToGlobal(place));
+  QApplication::sendEvent(&target, &rest);
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    auto* tip = qobject_cast<QLabel*>(window);
+    if (tip == nullptr || !tip->isVisible() || !tip->windowFlags().testFlag(Qt::ToolTip)) continue;
+    QString text = tip->text();
+    if (Qt::mightBeRichText(text)) text = QTextDocumentFragment::fromHtml(text).toPlainText();
+    return text.toStdString();
+  }
+  return {};
+}
+
+TEST_F(Controls_Test, A_tool_tip_is_plain_text_with_the_state_below_it) {
+  EXPECT_EQ(Tip_Of("Name_Text"), "");
+  form.Name_Text.Set_Tool_Tip("A <b>name</b> & more\rof   it");
+  const std::string own = "A <b>name</b> & more\nof   it";
+  EXPECT_EQ(Tip_Of("Name_Text"), own);
+  form.Name_Text.Set_Locked(true);
+  EXPECT_EQ(Tip_Of("Name_Text"), own + "\n" + Forms::State_Words().locked);
+  EXPECT_EQ(Find("Name_Text").accessibleDescription().toStdString(),
+            own + "\n" + Forms::State_Words().locked);
+  form.Name_Text.Set_Tool_Tip("");
+  EXPECT_EQ(Tip_Of("Name_Text"), Forms::State_Words().locked);
+  form.Region_Image.Set_Tool_Tip("A map");
+  EXPECT_EQ(Tip_Of("Region_Image"), "A map");
+  form.Open_List.Set_Tool_Tip("A list");
+  EXPECT_EQ(Tip_Of("Open_List"), "A list");
 }
 
 TEST_F(Controls_Test, Colours_are_exact_and_tell_their_state_in_words_too) {

@@ -20,8 +20,12 @@ QString Without_Accents(const QString& text) {
   return letters;
 }
 
+// Most texts begin with a plain letter, which decides at once.
 bool Begins_With(const QString& text, const QString& word) {
   const QString folded = Folded(text);
+  if (folded.isEmpty() || (folded.front() < QChar(0x80) && folded.front() != word.front())) {
+    return false;
+  }
   return folded.startsWith(word) || Without_Accents(folded).startsWith(word);
 }
 

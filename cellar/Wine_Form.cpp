@@ -16,7 +16,8 @@ constexpr const char* pick_first = "Please Select a Wine from the Cellar first";
 
 }  // namespace
 
-Wine_Form::Wine_Form() : Wine_Screen("Wine_Form", "Wine Information") {
+Wine_Form::Wine_Form()
+    : Wine_Screen("Wine_Form", "Wine Information", {8, 30, 28, 20, 38, 10, 7, 7, 7}) {
   for (Forms::Placed_Control* field : Gate_Fields()) field->Set_Tag("0");
   for (Forms::Control* field : {static_cast<Forms::Control*>(&Country_Combo),
                                 static_cast<Forms::Control*>(&Region_Combo)}) {

@@ -9,7 +9,7 @@ void Wine_Form::Lay_Out() {
       {&Winery_Combo, Place(Winery_Add_Command).Wide(add_width)},
       {&Label_Combo, Place(Label_Add_Command).Wide(add_width)},
       {&Variety_Combo, Place(Variety_Add_Command).Wide(add_width)},
-      {&Pairing_List, Place(Pairings_Add_Command)},
+      {&Pairing_List, Place(Pairings_Add_Command).At_Right()},
       {&Classification_Combo, Place(Classification_Add_Command).Wide(add_width)}};
   Set_Content(
       Column({Above_Below(Fields_Place(add_buttons),

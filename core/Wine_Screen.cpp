@@ -14,22 +14,23 @@ using Forms::Window_Color;
 namespace {
 
 constexpr int key_column = 9;
+constexpr int key_width = 8;
 
 }  // namespace
 
-Wine_Screen::Wine_Screen(std::string_view name, std::string_view caption)
+Wine_Screen::Wine_Screen(std::string_view name, std::string_view caption, const Widths& widths)
     : Form(name, caption),
       Wine_Cellar_ListView(*this, "Wine_Cellar_ListView",
-                           {{"Vintage", 8},
-                            {"Winery", 30},
-                            {"Label", 28},
-                            {"Wine Region", 20},
-                            {"Grape Variety", 38},
-                            {"Color", 10},
-                            {"Merit", 7, false, true},
-                            {"Peak", 7, false, true},
-                            {"Stock", 7, false, true},
-                            {"ID", 8, false, true}}) {
+                           {{"Vintage", widths[0]},
+                            {"Winery", widths[1]},
+                            {"Label", widths[2]},
+                            {"Wine Region", widths[3]},
+                            {"Grape Variety", widths[4]},
+                            {"Color", widths[5]},
+                            {"Merit", widths[6], false, true},
+                            {"Peak", widths[7], false, true},
+                            {"Stock", widths[8], false, true},
+                            {"ID", key_width, false, true}}) {
   Message_Label.Set_Visible(false);
 }
 
@@ -57,10 +58,13 @@ Forms::Place Wine_Screen::Fields_Place(const Beside& beside) {
                                {Alcohol_Label, Alcohol_Text},
                                {Price_Label, Price_Text},
                                {Peak_Year_Label, Peak_Year_Combo}});
+  const Place list = Place(Pairing_List).High(2).Grow();
+  const auto pairing_button = beside.find(&Pairing_List);
+  const Place pairings =
+      pairing_button == beside.end() ? list : Column({list, pairing_button->second});
   const Place notes =
       Fields({{Description_Label, Place(Description_Text).Wide(text_width).High(2).Grow()},
-              {Pairing_Label,
-               with_button(Pairing_List, Place(Pairing_List).Wide(12).High(2).Grow()).Grow()},
+              {Pairing_Label, pairings.Grow()},
               {Classification_Label,
                with_button(Classification_Combo, Place(Classification_Combo).Grow())},
               {Comments_Label, Place(Comments_Text).High(2).Grow()},

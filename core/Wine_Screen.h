@@ -2,6 +2,7 @@
 // how a stored wine shows in them, and the bottle that is uncorked.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <map>
 #include <optional>
@@ -15,14 +16,16 @@
 /// The memory records of `Wines` and `Wineries` hold the wine to show or to write, and its winery.
 class Wine_Screen : public Forms::Form {
  protected:
-  Wine_Screen(std::string_view name, std::string_view caption);
+  /// How wide the columns of the list begin, in characters.
+  using Widths = std::array<int, 9>;
+  Wine_Screen(std::string_view name, std::string_view caption, const Widths& widths);
 
   /// Fills the list anew. Called after a bottle was uncorked.
   virtual void Fill_Wine_List() = 0;
 
   // ---- places ----
 
-  /// What stands at the right of a field: its button.
+  /// What belongs to a field: its button, at the right of it; below a list of pairings.
   using Beside = std::map<const Forms::Placed_Control*, Forms::Place>;
   /// The fields in the order of reading: where the wine comes from, the bottle, the notes, the
   /// marks. The message shares the place of the aromas.

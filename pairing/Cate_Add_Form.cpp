@@ -56,13 +56,14 @@ Cate_Add_Form::Cate_Add_Form()
 void Cate_Add_Form::Lay_Out() {
   using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
   constexpr int list_height = 20;
+  constexpr int list_width = 82;
   constexpr int text_width = 44;
   Current_Maridages_Label.Set_Buddy(Maridages_ListView);
-  Set_Content(
-      Column({Current_Maridages_Label, Place(Maridages_ListView).High(list_height).Grow(), CatLabel,
-              Fields({{Cat_Language1_Label, Place(CatText).Wide(text_width)},
-                      {Cat_Language2_Label, CAT_Other_Language_Text}}),
-              Buttons({Cat_Add_Now, Cat_Add_Cancel})}));
+  Set_Content(Column({Current_Maridages_Label,
+                      Place(Maridages_ListView).Wide(list_width).High(list_height).Grow(), CatLabel,
+                      Fields({{Cat_Language1_Label, Place(CatText).Wide(text_width)},
+                              {Cat_Language2_Label, CAT_Other_Language_Text}}),
+                      Buttons({Cat_Add_Now, Cat_Add_Cancel})}));
   Set_Exit(Cat_Add_Cancel);
 }
 

@@ -28,7 +28,7 @@ Select_Maridages_for_Wines_Form::Select_Maridages_for_Wines_Form()
 // A choice of the first column shows at once: the button beside it has nothing to do, and no place.
 void Select_Maridages_for_Wines_Form::Lay_Out() {
   using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
-  constexpr int options_width = 26;
+  constexpr int options_width = 22;
   constexpr int name_width = 60;
   Selection_Label.Set_Buddy(Selection_Option_List);
   Wine_Name_Label.Set_Buddy(Wine_Name_Text);

@@ -28,7 +28,8 @@ void Open_Wineries_by_Key() {
 }  // namespace
 
 Wine_Search_Results_Form::Wine_Search_Results_Form()
-    : Wine_Screen("Wine_Search_Results_Form", "Wine Information"), command_(Current_Command) {
+    : Wine_Screen("Wine_Search_Results_Form", "Wine Information", {8, 24, 20, 16, 23, 9, 7, 7, 7}),
+      command_(Current_Command) {
   Lay_Out();
   Wine_Cellar_ListView.ItemClick = [this](Forms::List_Item item) {
     Wine_Cellar_ListView_ItemClick(item);
@@ -44,7 +45,7 @@ void Wine_Search_Results_Form::Lay_Out() {
   using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
   constexpr int opening_width = 1264;
   constexpr int list_height = 14;
-  constexpr int requested_width = 26;
+  constexpr int requested_width = 22;
   Requested_Pairings_Label.Set_Buddy(Requested_Pairings_List);
   const Place found = Column({Row({Current_Cellar_Label, Stretch(), Wines_Number}),
                               Place(Wine_Cellar_ListView).High(list_height).Grow()});

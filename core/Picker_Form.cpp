@@ -150,7 +150,7 @@ bool Picker_Form::Show_Found_Wines() {
 
 Forms::Place Picker_Form::Under_Heading(Forms::Label& heading, Forms::Label& number,
                                         Forms::Placed_Control& list) {
-  constexpr int list_width = 36;
+  constexpr int list_width = 44;
   constexpr int list_height = 22;
   heading.Set_Buddy(list);
   return Forms::Column({Forms::Row({heading, Forms::Stretch(), number}),

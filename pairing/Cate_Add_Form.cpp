@@ -56,7 +56,7 @@ Cate_Add_Form::Cate_Add_Form()
 void Cate_Add_Form::Lay_Out() {
   using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
   constexpr int list_height = 20;
-  constexpr int list_width = 82;
+  constexpr int list_width = 94;
   constexpr int text_width = 44;
   Current_Maridages_Label.Set_Buddy(Maridages_ListView);
   Set_Content(Column({Current_Maridages_Label,

@@ -42,7 +42,7 @@ class Cate_Add_Form : public Forms::Form {
   Forms::List_View Maridages_ListView{
       *this,
       "Maridages_ListView",
-      {{"English", 38}, {"Spanish", 38}, {"Maridage_ID", 8, true, true}}};
+      {{"English", 40}, {"Spanish", 40}, {"Maridage_ID", 8, true, true}}};
   Forms::Label CatLabel{*this, "CatLabel", "Please type the new Category"};
   Forms::Label Cat_Language1_Label{*this, "Cat_Language1_Label", "Category in English:"};
   Forms::Text_Box CatText{*this, "CatText"};

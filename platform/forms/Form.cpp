@@ -80,13 +80,15 @@ void Form::Show() {
   Load();
   if (data_->unloaded || Process_Has_Ended()) return;
   if (std::exchange(data_->hidden_while_loading, false)) return;
-  if (!data_->was_shown) {
-    data_->was_shown = true;
+  const bool first_time = !std::exchange(data_->was_shown, true);
+  if (first_time) {
     Assign_Mnemonics(*this);
     Fit_To_Desktop(*data_->window, data_->opening_width);
     Focus_First(*data_);
   }
   data_->window->show();
+  // How high a label is in another script shows only now.
+  if (first_time) Fit_To_Desktop(*data_->window, data_->opening_width);
   data_->window->raise();
   data_->window->activateWindow();
   Focus_Watch::The().Shown(*this);

@@ -35,6 +35,8 @@ Picker_Form::Picker_Form(std::string_view name, std::string_view caption,
   SelectList.Delete_Pressed = [this] { Remove_by_Key(); };
 }
 
+void Picker_Form::Form_Activate() { Current_Command = command_; }
+
 // ---- the chosen list ----
 
 void Picker_Form::Clear_Chosen() {

@@ -20,6 +20,9 @@ class Picker_Form : public Forms::Form {
   Picker_Form(std::string_view name, std::string_view caption,
               std::string_view cancel_name = "MultCancel");
 
+  /// The command is this screen's again, whatever was done on another one meanwhile.
+  void Form_Activate() override;
+
   // ---- what the pickers differ in ----
 
   struct Entry {

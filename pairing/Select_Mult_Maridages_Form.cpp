@@ -53,7 +53,10 @@ void Select_Mult_Maridages_Form::Load_Chosen() {
 }
 
 // The names may have changed on the screen that this one belongs to.
-void Select_Mult_Maridages_Form::Form_Activate() { Show_Whose_List(); }
+void Select_Mult_Maridages_Form::Form_Activate() {
+  Select_Mult_Form::Form_Activate();
+  Show_Whose_List();
+}
 
 void Select_Mult_Maridages_Form::Show_Whose_List() {
   MSelectLab3.Set_Visible(!Is_Search());

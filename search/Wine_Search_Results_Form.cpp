@@ -73,6 +73,8 @@ void Wine_Search_Results_Form::Form_Load() {
   Wine_Cellar_ListView.SetFocus();
 }
 
+void Wine_Search_Results_Form::Form_Activate() { Current_Command = command_; }
+
 // Nothing stands in the fields before a wine is clicked.
 void Wine_Search_Results_Form::Initialize_Form_Data() {
   const Ignoring_Events ignoring;

@@ -13,6 +13,7 @@ class Wine_Search_Results_Form : public Wine_Screen {
 
  protected:
   void Form_Load() override;
+  void Form_Activate() override;
   void Fill_Wine_List() override { Get_WineResults_Records(); }
 
  private:

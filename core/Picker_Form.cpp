@@ -151,12 +151,11 @@ bool Picker_Form::Show_Found_Wines() {
 // ---- places ----
 
 Forms::Place Picker_Form::Under_Heading(Forms::Label& heading, Forms::Label& number,
-                                        Forms::Placed_Control& list) {
-  constexpr int list_width = 44;
+                                        Forms::Placed_Control& list, int characters) {
   constexpr int list_height = 22;
   heading.Set_Buddy(list);
   return Forms::Column({Forms::Row({heading, Forms::Stretch(), number}),
-                        Forms::Place(list).Wide(list_width).High(list_height).Grow()});
+                        Forms::Place(list).Wide(characters).High(list_height).Grow()});
 }
 
 Forms::Place Picker_Form::Moves_Place() {

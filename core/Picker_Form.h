@@ -62,7 +62,7 @@ class Picker_Form : public Forms::Form {
 
   /// A list below its heading, with the number of its entries at the right.
   static Forms::Place Under_Heading(Forms::Label& heading, Forms::Label& number,
-                                    Forms::Placed_Control& list);
+                                    Forms::Placed_Control& list, int characters = 44);
   /// The two buttons that move entries, one above the other.
   Forms::Place Moves_Place();
   /// What the keys do, and the way out.

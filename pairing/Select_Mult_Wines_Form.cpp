@@ -36,15 +36,17 @@ Select_Mult_Wines_Form::Select_Mult_Wines_Form()
   Set_Up_Handlers();
 }
 
+// Nothing reads what would be typed to be searched for: the box has no place, and typing in the
+// list finds a wine.
 void Select_Mult_Wines_Form::Lay_Out() {
   using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  constexpr int wines_width = 92;
   Set_Content(Column(
       {Row({Below(Country_Label, Place(Country_Combo).Wide(24)),
             Below(Wine_Color_Label, Place(Wine_Color_Combo).Wide(14)),
-            Below(Grape_Variety_Label, Place(Grape_Variety_Combo).Wide(24)),
-            Below(Search_Label, Place(Search_Text).Wide(20)), Stretch()}),
-       Row({Under_Heading(Wines_Label, Wines_Number, Mobile_Wines_ListView).Grow(2), Moves_Place(),
-            Under_Heading(Selected_Label, Selected_Number, SelectList).Grow()})
+            Below(Grape_Variety_Label, Place(Grape_Variety_Combo).Wide(24)), Stretch()}),
+       Row({Under_Heading(Wines_Label, Wines_Number, Mobile_Wines_ListView, wines_width).Grow(2),
+            Moves_Place(), Under_Heading(Selected_Label, Selected_Number, SelectList).Grow()})
            .Grow(),
        Ways_Out_Place()}));
 }
@@ -196,7 +198,7 @@ void Select_Mult_Wines_Form::Display_Mobile_Wine_Listview(Text condition) {
   Close_Table(Mobile_Wines_Query);
   Close_Table(Varieties_Recordset);
   Wines_Number.Set_Caption(To_Text(Mobile_Wines_ListView.Count()));
-  Search_Text.SetFocus();
+  Mobile_Wines_ListView.SetFocus();
 }
 
 void Select_Mult_Wines_Form::Add_Wine() {

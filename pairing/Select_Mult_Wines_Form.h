@@ -48,7 +48,6 @@ class Select_Mult_Wines_Form : public Picker_Form {
   Forms::Label Grape_Variety_Label{*this, "Grape_Variety_Label", "Grape Variety"};
   Forms::Combo_Box Grape_Variety_Combo{*this, "Grape_Variety_Combo"};
   Forms::Combo_Box Grape_Variety_ID_Combo{*this, "Grape_Variety_ID_Combo"};
-  Forms::Label Search_Label{*this, "Search_Label", "Search"};
   Forms::Text_Box Search_Text{*this, "Search_Text"};
   Forms::Label Wines_Label{*this, "Wines_Label", "Wines"};
   Forms::Label Wines_Number{*this, "Wines_Number"};

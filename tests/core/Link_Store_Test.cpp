@@ -60,13 +60,7 @@ class Link_Store : public Linked_Rows {
   ~Link_Store() override { Set_Clock_For_Tests(nullptr); }
 
   static void Link(const Stored_Links& links, Long owner, Long group, Long mask) {
-    const bool with_serial = *links.serial != '\0';
-    if (with_serial) {
-      Add(links.table,
-          {{links.owner, owner}, {"GROUP", group}, {"SUBCATEGO", mask}, {"SERIAL_NUMBER", "SYS"}});
-    } else {
-      Add(links.table, {{links.owner, owner}, {"GROUP", group}, {"SUBCATEGO", mask}});
-    }
+    Add(links.table, {{links.owner, owner}, {"GROUP", group}, {"SUBCATEGO", mask}});
   }
   static Lines Links_Of(const Stored_Links& links, const Text& owners) {
     const Text serial = *links.serial == '\0' ? "" : ", SERIAL_NUMBER";
@@ -102,6 +96,7 @@ TEST_F(Link_Store, Every_store_replaces_the_rows_of_its_owner_and_counts_each_us
     Link(links, 30002, 30, 1);
     Link(links, 30001, 40, 1);
     const Lines others = Links_Of(links, "30000,30002");
+    for (const Stored_Links& others_too : all_stores) others_too.set_owner(30000);
     links.set_owner(30001);
     Select({first, second, third});
     const Text serial = *links.serial == '\0' ? "" : Text("|") + links.serial;

@@ -53,15 +53,19 @@ class Linked_Rows : public Program_Folder {
     rows.Update();
     return first;
   }
-  /// Names tell the address: "Food 7.2", and in English, Japanese and Portuguese "E 7.2" ...
+  /// Its names tell the address and the language: "Food 7.2"; "E 7.2" in English, "S 7.2" ...
   static Long Add_Pairing(Long group, Long subgroup, Long used = 0, Long cheese = -1) {
-    const Text address = To_Text(group) + "." + To_Text(subgroup);
-    return Add("Maridages", {{"Maridage_Name", "Food " + address},
+    const Text address = " " + To_Text(group) + "." + To_Text(subgroup);
+    return Add("Maridages", {{"Maridage_Name", "Food" + address},
                              {"Maridage_Group", group},
                              {"Maridage_SubGr", subgroup},
-                             {"English", "E " + address},
-                             {"Japanese", "J " + address},
-                             {"Portuguese", "P " + address},
+                             {"English", "E" + address},
+                             {"Spanish", "S" + address},
+                             {"French", "F" + address},
+                             {"German", "G" + address},
+                             {"Italian", "I" + address},
+                             {"Japanese", "J" + address},
+                             {"Portuguese", "P" + address},
                              {"Used", used},
                              {"Cheese_ID", cheese}});
   }

@@ -1,0 +1,250 @@
+// The picker of general wines: the three lists that narrow it down, and what it hands on.
+#include "core/Globals.h"
+#include "core/tables/Wine_Tables.h"
+#include "platform/run_time/Conversions.h"
+#include "tests/pairing/Pickers_Program.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* list = "Mobile_Wines_ListView";
+
+class Wines_Picker : public Pickers_Program {
+ protected:
+  /// Five wines alone; Alpha twice, of which one has all colours, and one wine of no grape.
+  void Put_Wines() {
+    Empty_Table("Mobile_Wines");
+    struct Wine {
+      const char *name, *country;
+      std::array<const char*, 3> colors;
+      const char* grape;
+    };
+    for (const Wine& wine : {Wine{"Alpha", "FRA", {"RED", "ROSE", "x"}, "Malbec"},
+                             {"Gamma", "ITA", {"RED", "x", "x"}, "Merlot"},
+                             {"Beta", "FRA", {"WHITE", "RED", "x"}, "Merlot"},
+                             {"Delta", "ALL", {"ROSE", "x", "RED"}, ""},
+                             {"Alpha", "ITA", {"FORTIFIED", "x", "x"}, "Malbec"}}) {
+      Put_Wine_Row(wine.name, wine.country, wine.colors, Grape(wine.grape));
+    }
+  }
+  void Put_Wine_Row(const char* name, const char* country, std::array<const char*, 3> colors,
+                    const Text& grape) const {
+    Change([&](Record_Store::Database& file) {
+      Record_Store::Recordset rows = file.OpenRecordset("Mobile_Wines");
+      rows.AddNew();
+      Mobile_Wines_Record wine;
+      Mobile_Wines_Description.Init(wine);
+      wine.Mobile_Wine_Name = name;
+      wine.Mobile_Wine_Country = country;
+      wine.Mobile_Wine_Color = colors[0];
+      wine.Mobile_Wine_Color_2 = colors[1];
+      wine.Mobile_Wine_Color_3 = colors[2];
+      wine.Mobile_Wine_Variety_ID = To_Long(grape);
+      Mobile_Wines_Description.Write(rows, wine);
+    });
+  }
+  Text Grape(const Text& name) const {
+    if (name.empty()) return "-1";
+    return Stored("SELECT Variety_ID FROM Varieties WHERE Variety_Name = '" + name + "'", 1)[0];
+  }
+  void Open(const char* command = "CheeseAdd") {
+    Start();
+    Cheese_Wines_Changed = false;
+    Open_Screen_Under(wines, command);
+  }
+  /// The rows without their keys.
+  static Texts Rows() {
+    Texts rows = Lines(list);
+    for (Text& row : rows) row.resize(row.rfind(" | "));
+    return rows;
+  }
+  /// Picks the first row that begins so.
+  static void Click_Wine(const Text& begin) {
+    const Texts rows = Rows();
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+      if (!rows[row].starts_with(begin)) continue;
+      Click_Row(list, static_cast<int>(row));
+      return;
+    }
+    ADD_FAILURE() << begin << " is not listed";
+  }
+};
+
+TEST_F(Wines_Picker, ALL_in_every_list_is_the_whole_general_list) {
+  const Texts all = Stored("SELECT Mobile_Wine_Name FROM Mobile_Wines ORDER BY Mobile_Wine_ID", 1);
+  Open();
+  Choose("Country_Combo", "Italy");
+  EXPECT_LT(Lines(list).size(), all.size());
+  Choose("Wine_Color_Combo", "WHITE");
+  Choose("Grape_Variety_Combo", Lines("Grape_Variety_Combo")[1]);
+  Choose("Grape_Variety_Combo", "ALL VARIETIES");
+  Choose("Wine_Color_Combo", "ALL");
+  Choose("Country_Combo", "ALL");
+  Texts names = Lines(list);
+  for (Text& name : names) name.resize(name.find(" | "));
+  EXPECT_EQ(names, all);
+  EXPECT_EQ(Shown_Text("Wines_Number"), std::to_string(all.size()));
+  EXPECT_EQ(Lines("Grape_Variety_Combo").size(),
+            1 + std::stoul(Stored("SELECT count(DISTINCT v.Variety_ID) FROM Varieties v JOIN "
+                                  "Mobile_Wines w ON w.Mobile_Wine_Variety_ID = v.Variety_ID",
+                                  1)[0]));
+}
+
+TEST_F(Wines_Picker, The_lists_as_they_open) {
+  Put_Wines();
+  for (const auto& [language, france, italy] :
+       {std::tuple{english, "France", "Italy"}, {german, "Frankreich", "Italien"}}) {
+    Set_Language(language);
+    Open();
+    EXPECT_EQ(Shown_Text(wines), "Select Multiple Wines");
+    EXPECT_THAT(Lines("Country_Combo"), ElementsAre("ALL", france, italy));
+    EXPECT_THAT(Lines("Wine_Color_Combo"),
+                ElementsAre("ALL", "RED", "WHITE", "ROSE", "FORTIFIED", "SPARKLING"));
+    EXPECT_THAT(Lines("Grape_Variety_Combo"), ElementsAre("ALL VARIETIES", "Malbec", "Merlot"));
+    for (const char* first : {"Country_Combo", "Wine_Color_Combo"}) {
+      EXPECT_EQ(Shown_Text(first), "ALL");
+    }
+    EXPECT_EQ(Shown_Text("Grape_Variety_Combo"), "ALL VARIETIES");
+    EXPECT_THAT(Rows(), ElementsAre("Alpha | FRA | RED | Malbec", "Gamma | ITA | RED | Merlot",
+                                    "Beta | FRA | WHITE | Merlot", "Delta | ALL | ROSE | ",
+                                    "Alpha | ITA | FORTIFIED | Malbec"));
+    EXPECT_EQ(Shown_Text("Wines_Number"), "5");
+    EXPECT_EQ(Focused(), list);
+    EXPECT_FALSE(Is_Seen("Search_Text"));
+    EXPECT_FALSE(Is_Usable("Add_Command") || Is_Usable("MultSelect"));
+    Stop();
+  }
+}
+
+TEST_F(Wines_Picker, A_colour_looks_at_all_three_a_country_at_the_first_alone) {
+  Put_Wines();
+  Open();
+  Choose("Wine_Color_Combo", "RED");
+  const auto all_red = ElementsAre("Alpha | FRA | RED | Malbec", "Gamma | ITA | RED | Merlot",
+                                   "Beta | FRA | RED | Merlot", "Delta | ALL | RED | ");
+  EXPECT_THAT(Rows(), all_red);
+  EXPECT_EQ(Shown_Text("Wines_Number"), "4");
+  EXPECT_EQ(Focused(), list);
+  Choose("Country_Combo", "France");
+  EXPECT_THAT(Rows(), ElementsAre("Alpha | FRA | RED | Malbec"));
+  EXPECT_THAT(Lines("Grape_Variety_Combo"), ElementsAre("ALL VARIETIES", "Malbec"));
+  Choose("Grape_Variety_Combo", "ALL VARIETIES");  // the grape: all three, though its list stays
+  EXPECT_THAT(Rows(), ElementsAre("Alpha | FRA | RED | Malbec", "Beta | FRA | RED | Merlot"));
+  EXPECT_THAT(Lines("Grape_Variety_Combo"), ElementsAre("ALL VARIETIES", "Malbec"));
+  Choose("Wine_Color_Combo", "RED");
+  EXPECT_THAT(Rows(), ElementsAre("Alpha | FRA | RED | Malbec", "Beta | FRA | RED | Merlot"));
+  Choose("Country_Combo", "ALL");
+  EXPECT_THAT(Rows(), ElementsAre("Alpha | FRA | RED | Malbec", "Gamma | ITA | RED | Merlot"));
+  Choose("Wine_Color_Combo", "ROSE");
+  EXPECT_THAT(Rows(), ElementsAre("Alpha | FRA | ROSE | Malbec", "Delta | ALL | ROSE | "));
+  Choose("Country_Combo", "France");
+  EXPECT_THAT(Rows(), IsEmpty());
+  EXPECT_EQ(Shown_Text("Wines_Number"), "0");
+  Choose("Wine_Color_Combo", "ALL");
+  EXPECT_THAT(Rows(), ElementsAre("Alpha | FRA | RED | Malbec", "Beta | FRA | WHITE | Merlot"));
+}
+
+TEST_F(Wines_Picker, A_chosen_grape_stays_where_it_is_still_offered) {
+  Put_Wines();
+  Open();
+  Choose("Grape_Variety_Combo", "Merlot");
+  EXPECT_THAT(Rows(), ElementsAre("Gamma | ITA | RED | Merlot", "Beta | FRA | WHITE | Merlot"));
+  Choose("Country_Combo", "Italy");
+  EXPECT_EQ(Shown_Text("Grape_Variety_Combo"), "Merlot");
+  EXPECT_THAT(Rows(), ElementsAre("Gamma | ITA | RED | Merlot"));
+  Choose("Wine_Color_Combo", "RED");
+  EXPECT_THAT(Rows(), ElementsAre("Gamma | ITA | RED | Merlot"));
+  Choose("Country_Combo", "France");
+  EXPECT_EQ(Shown_Text("Grape_Variety_Combo"), "ALL VARIETIES");
+  EXPECT_THAT(Rows(), ElementsAre("Alpha | FRA | RED | Malbec"));
+}
+
+TEST_F(Wines_Picker, A_wine_is_chosen_once_by_its_name) {
+  Put_Wines();
+  Open("CheeseMod");
+  const Box_Script boxes;
+  Click_Wine("Alpha | FRA");
+  EXPECT_EQ(Mobile_Wines.Mobile_Wine_Country, "FRA");
+  EXPECT_TRUE(Is_Usable("Add_Command"));
+  Click("Add_Command");
+  Click_Wine("Alpha | ITA");
+  Click("Add_Command");
+  Click_Wine("Gamma");
+  Press("Return");
+  Double_Click_Row(list, 2);
+  EXPECT_THAT(Lines("SelectList"), ElementsAre("Alpha", "Gamma", "Beta"));
+  EXPECT_EQ(Shown_Text("Selected_Number"), "3");
+  EXPECT_THAT(boxes.Boxes(), IsEmpty());
+  Choose("Wine_Color_Combo", "RED");
+  EXPECT_FALSE(Is_Usable("Add_Command"));
+  EXPECT_EQ(Lines("SelectList").size(), 3U);
+  Click_Line("SelectList", "Gamma");
+  Click("Remove_Command");
+  EXPECT_THAT(Lines("SelectList"), ElementsAre("Alpha", "Beta"));
+}
+
+TEST_F(Wines_Picker, Typing_finds_a_wine_and_a_header_turns_the_order) {
+  Put_Wines();
+  Open();
+  Type_Anew("bet");
+  Press("Return");
+  EXPECT_THAT(Lines("SelectList"), ElementsAre("Beta"));
+  Click_Header(list, 0);
+  EXPECT_EQ(Rows().front(), "Gamma | ITA | RED | Merlot");
+  Click_Header(list, 1);
+  EXPECT_EQ(Rows().front(), "Delta | ALL | ROSE | ");
+  Click_Header(list, 2);
+  EXPECT_EQ(Rows().front(), "Beta | FRA | WHITE | Merlot");
+  Click_Header(list, 3);
+  EXPECT_EQ(Rows().front(), "Delta | ALL | ROSE | ");
+  EXPECT_TRUE(Rows().back().ends_with("Merlot"));
+  Double_Click_Row(list, 0);
+  EXPECT_THAT(Lines("SelectList"), ElementsAre("Beta", "Delta"));
+}
+
+TEST_F(Wines_Picker, For_a_cheese_the_wines_are_handed_on) {
+  Put_Wines();
+  Stand_In("Cheeses_Form", {"Wine_Parings_List", "Wine_Parings_Index_List"});
+  const Texts keys = Stored("SELECT Mobile_Wine_ID FROM Mobile_Wines ORDER BY Mobile_Wine_ID", 1);
+  for (const bool change : {false, true}) {
+    Start();
+    Cheese_Wines_Changed = Cheese_Foods_Changed = false;
+    Give("Cheeses_Form", "Wine_Parings_List", "Wine_Parings_Index_List", "Old name", keys[2]);
+    Open_Screen_Under(wines, change ? "CheeseMod" : "CheeseAdd");
+    EXPECT_EQ(Lines("SelectList"), change ? Texts{"Old name"} : Texts{});
+    EXPECT_EQ(Is_Usable("MultSelect"), change);
+    for (const char* wine : {"Delta", "Beta"}) {
+      Click_Wine(wine);
+      Click("Add_Command");
+    }
+    Click("MultSelect");
+    Expect_Left(wines, "Cheeses_Form");
+    EXPECT_EQ(Handed_Over(), change ? (Texts{"Old name|" + keys[2], "Delta|" + keys[3]})
+                                    : (Texts{"Delta|" + keys[3], "Beta|" + keys[2]}));
+    EXPECT_TRUE(Cheese_Wines_Changed);
+    EXPECT_FALSE(Cheese_Foods_Changed);
+    Stop();
+  }
+}
+
+TEST_F(Wines_Picker, The_way_out_hands_nothing_on) {
+  Put_Wines();
+  for (const auto& [command, to] :
+       {std::pair{"CheeseAdd", "Wine_Cellar_Form"}, {"CheeseMod", "Cheeses_Form"}}) {
+    if (Text(to) == "Cheeses_Form") Stand_In(to, {"Wine_Parings_List", "Wine_Parings_Index_List"});
+    Open(command);
+    EXPECT_EQ(Shown_Text("Exit_Command"), "CANCEL");
+    Selected_Count = 0;
+    Click_Wine("Beta");
+    Click("Add_Command");
+    Click("Exit_Command");
+    Expect_Left(wines, to);
+    EXPECT_THAT(Handed_Over(), IsEmpty());
+    EXPECT_FALSE(Cheese_Wines_Changed);
+    Stop();
+  }
+}
+
+}  // namespace

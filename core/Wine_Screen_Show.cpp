@@ -50,12 +50,17 @@ void Wine_Screen::Show_Winery() {
   }
 }
 
+// A winery that was never read has no country, and shows none.
 void Wine_Screen::Load_Country_Unique(const Text& short_name) {
   Open_Table(World_Contries_Recordset, "World_Contries");
   World_Contries_Recordset.Index("Short_Name");
   World_Contries_Recordset.Seek("=", short_name);
-  Country_Lines.Show_Alone(World_Contries_Recordset.Fields(Country_Name_Column()).As_Text(),
-                           World_Contries_Recordset.Fields("Short_Name").As_Text());
+  if (World_Contries_Recordset.NoMatch()) {
+    Country_Lines.Show_Alone("", short_name);
+  } else {
+    Country_Lines.Show_Alone(World_Contries_Recordset.Fields(Country_Name_Column()).As_Text(),
+                             World_Contries_Recordset.Fields("Short_Name").As_Text());
+  }
   Close_Table(World_Contries_Recordset);
 }
 

@@ -37,6 +37,7 @@ Wine_Search_Results_Form::Wine_Search_Results_Form()
   Wine_Cellar_ListView.ColumnClick = [this](const Forms::Column_Header& header) {
     Wine_Cellar_ListView_ColumnClick(header);
   };
+  Variety_Combo.ItemCheck = [this](int item) { Variety_Combo_ItemCheck(item); };
   Multi_Functional_Command.Click = [this] { Multi_Functional_Command_Click(); };
   Exit_Command.Click = [this] { Exit_Command_Click(); };
 }
@@ -148,6 +149,13 @@ void Wine_Search_Results_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item i
   if (command_ != "WineSearch") return;
   Checks_Locked = true;
   Multi_Functional_Command.Set_Enabled(Wines.Total_Bottles > 0);
+}
+
+// The list of grapes has no lock: a click on a tick is undone.
+void Wine_Search_Results_Form::Variety_Combo_ItemCheck(int item) {
+  if (Ignore_Events) return;
+  const Ignoring_Events ignoring;
+  Variety_Combo.Set_Selected(item, !Variety_Combo.Selected(item));
 }
 
 void Wine_Search_Results_Form::Multi_Functional_Command_Click() { Uncork_Wine(); }

@@ -23,6 +23,7 @@ class Wine_Search_Results_Form : public Wine_Screen {
   void Get_WineResults_Records();
   void Wine_Cellar_ListView_ColumnClick(const Forms::Column_Header& header);
   void Wine_Cellar_ListView_ItemClick(Forms::List_Item item);
+  void Variety_Combo_ItemCheck(int item);
   void Multi_Functional_Command_Click();
   void Exit_Command_Click();
 

@@ -1,1 +1,212 @@
-#include <gtest/gtest.h>
+// From the menu to the wines that go with the foods asked for, and back to ask again; and from
+// foods to grapes and their regions.
+#include <gmock/gmock.h>
+
+#include <numeric>
+
+#include "tests/search/Search_Program.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* picker = "Select_Mult_Maridages_Form";
+constexpr const char* results = "Wine_Search_Results_Form";
+constexpr const char* general = "Search_General_Pairings_Form";
+const Text none_found = "There are NO wines with\rANY of the pairings selected !!!";
+
+using Pairing_Search = Search_Program;
+
+TEST_F(Pairing_Search, Finds_every_wine_that_goes_with_any_of_the_foods_once) {
+  const Sample_Pairing &low = Food_at(0, 2), &high = Food_at(1, 2);
+  Wines_Record other_cellar = Sample_Wine(1);
+  other_cellar.Cellar_ID = 2;
+  other_cellar.Total_Bottles = 0;
+  const Long with_high = Put_Wine_with({high});
+  Put_Wine_with({Food_at(0, 1), Food_at(1, 3), Food(2)});  // of the groups, not of the foods
+  const Long elsewhere = Put_Wine_with({low}, other_cellar);
+  Put_Pairing(4321, low);  // its wine was removed
+  const Long with_both = Put_Wine_with({high, low});
+  const int used = Used(low);
+  Start();
+  Search_for({high, low});
+  // By the groups, the smallest first; in a group by the rows of the link table.
+  EXPECT_THAT(Wines_Listed(), ElementsAre(elsewhere, with_both, with_high));
+  EXPECT_THAT(Lines("Requested_Pairings_List"), ElementsAre(high.name, low.name));
+  EXPECT_EQ(Shown_Text("Wines_Number"), "3");
+  EXPECT_EQ(Shown_Text(results), "Results of Pairings with Wine in your Home Cellar");
+  EXPECT_EQ(Shown_Text("Current_Cellar_Label"), "Wines Matching the Request");
+  EXPECT_FALSE(Is_Seen(picker));
+  EXPECT_FALSE(Is_Seen("Wine_Cellar_Form"));
+  EXPECT_EQ(Used(low), used + 2);  // to see whether there is one, and to show them
+}
+
+TEST_F(Pairing_Search, Exit_leads_back_to_what_was_chosen_and_the_next_results_begin_anew) {
+  const Long first = Put_Wine_with({Food(0), Food(1)});
+  const Long second = Put_Wine_with({Food(2)});
+  const Long third = Put_Wine_with({Food(3)});
+  Start();
+  Search_for({Food(0), Food(2)});
+  EXPECT_THAT(Wines_Listed(), ElementsAre(first, second));
+  Pick_Wine(first);
+  ASSERT_EQ(Selection(), Selection_of({Food(0), Food(1)}));
+  Click("Exit_Command");
+  EXPECT_FALSE(Is_There(results));
+  EXPECT_TRUE(Is_Seen(picker));
+  EXPECT_THAT(Lines("SelectList"), ElementsAre(Food(0).name, Food(2).name));
+  Double_Click_Line("SelectList", Food(0).name);
+  Add(Food(3).name);
+  Click("MultSelect");
+  EXPECT_THAT(Wines_Listed(), ElementsAre(second, third));
+  EXPECT_THAT(Lines("Requested_Pairings_List"), ElementsAre(Food(2).name, Food(3).name));
+  EXPECT_EQ(Shown_Text("Winery_Combo"), "");
+  EXPECT_THAT(Lines("Pairing_List"), IsEmpty());
+  EXPECT_FALSE(Is_Usable("Multi_Functional_Command"));
+  for (const auto& leave : {std::function<void()>([] { Press("Esc"); }),
+                            std::function<void()>([] { Close_Window(results); })}) {
+    leave();
+    EXPECT_THAT(Lines("SelectList"), ElementsAre(Food(2).name, Food(3).name));
+    Click("MultSelect");
+    ASSERT_TRUE(Is_Seen(results));
+  }
+  Click("Exit_Command");
+  Click("MultCancel");
+  EXPECT_FALSE(Is_There(picker));
+  Pick("Pairing_Search_Cellar");
+  EXPECT_THAT(Lines("SelectList"), IsEmpty());
+}
+
+TEST_F(Pairing_Search, Nothing_found_is_said_twice_and_the_picker_stays) {
+  Put_Wine_with({Food_at(0, 2)});
+  const int used = Used(Food(0));
+  Start();
+  {
+    const Box_Script boxes;
+    Search_for({Food(0)});
+    ASSERT_EQ(boxes.Boxes().size(), 2U);
+    EXPECT_EQ(boxes.Boxes()[0].title, "NO Wines found");
+    EXPECT_EQ(boxes.Boxes()[0].text, none_found);
+    EXPECT_EQ(boxes.Boxes()[1].title, "NO WINES PAIRINGS");
+    EXPECT_EQ(boxes.Boxes()[1].text, "Thera are NO wines matching any of your pairings.");
+  }
+  EXPECT_EQ(Used(Food(0)), used + 1);
+  EXPECT_TRUE(Is_Seen(picker));
+  EXPECT_FALSE(Is_There(results));
+  EXPECT_THAT(Lines("SelectList"), ElementsAre(Food(0).name));
+  Add(Food_at(0, 2).name);
+  Click("MultSelect");
+  EXPECT_THAT(Wines_Listed(), ElementsAre(1));
+}
+
+TEST_F(Pairing_Search, Stops_before_the_hundredth_wine) {
+  Put_Wines_with(Food(0), 120);
+  Start();
+  Search_for({Food(0)});
+  std::vector<Long> first_ninety_nine(99);
+  std::iota(first_ninety_nine.begin(), first_ninety_nine.end(), 1);
+  EXPECT_EQ(Wines_Listed(), first_ninety_nine);
+  EXPECT_EQ(Shown_Text("Wines_Number"), "99");
+}
+
+// ---- from foods to grapes ----
+
+class Foods_to_Grapes : public Search_Program {
+ protected:
+  void Open_Under(const char* command) {
+    Start();
+    Open_Screen_Under(general, command);
+  }
+  Texts Grapes_of(const Text& ids) const {
+    return Stored(
+        "SELECT v.Variety_Name, v.Variety_Color, v.Variety_ID FROM "
+        "Varieties_Per_Maridage p JOIN Varieties v ON v.Variety_ID = p.Variety_ID "
+        "WHERE p.Maridage_ID IN (" +
+            ids + ")",
+        3);
+  }
+  Texts Regions_of(const Text& variety_ids) const {
+    return Column(
+        "SELECT DISTINCT r.Region_Name FROM Regions_Per_Variety p JOIN Regions r ON "
+        "r.Region_ID = p.Region_ID WHERE p.Variety_ID IN (" +
+        variety_ids + ")");
+  }
+  static Texts Rows(const char* name) {
+    Texts rows = Shown_Rows(name);
+    for (Text& row : rows) {
+      for (std::size_t at = 0; (at = row.find(" | ", at)) != Text::npos;) row.replace(at, 3, "|");
+    }
+    return rows;
+  }
+  static Texts Without_Doubles(Texts texts) {
+    std::ranges::sort(texts);
+    texts.erase(std::unique(texts.begin(), texts.end()), texts.end());
+    return texts;
+  }
+  static Texts Names(const Texts& rows) {
+    Texts names;
+    for (const Text& row : rows) names.push_back(row.substr(0, row.find('|')));
+    return names;
+  }
+};
+
+TEST_F(Foods_to_Grapes, Foods_lead_to_grapes_and_a_grape_to_its_regions) {
+  // Two foods that share a grape.
+  const Texts shared = Stored(
+      "SELECT a.Maridage_ID, b.Maridage_ID FROM Varieties_Per_Maridage a JOIN "
+      "Varieties_Per_Maridage b ON a.Variety_ID = b.Variety_ID AND a.Maridage_ID < b.Maridage_ID "
+      "ORDER BY 1, 2",
+      2);
+  const Text one = shared.at(0).substr(0, shared[0].find('|'));
+  const Text other = shared[0].substr(shared[0].find('|') + 1);
+  const auto name_of = [this](const Text& id) {
+    return Column("SELECT English FROM Maridages WHERE Maridage_ID = " + id).at(0);
+  };
+  Open_Under("GeneralPairings");
+  EXPECT_EQ(Shown_Text(general), "General Pairings");
+  EXPECT_EQ(Lines("Cat_List"),
+            Column("SELECT English FROM Maridages WHERE Multiuse >= 2 ORDER BY English"));
+  Add(name_of(one));
+  Click("MultSelect");
+  EXPECT_EQ(Rows("Variety_Name_ListView"), Grapes_of(one));
+  Add(name_of(other));
+  Click("MultSelect");
+  const Texts grapes = Rows("Variety_Name_ListView");
+  const Texts both = Grapes_of(one + "," + other);
+  EXPECT_LT(grapes.size(), both.size());
+  EXPECT_EQ(Without_Doubles(grapes), Without_Doubles(both));
+  EXPECT_EQ(grapes.size(), Without_Doubles(grapes).size());
+  Text ids = "-1";
+  for (const Text& grape : grapes) ids += "," + grape.substr(grape.rfind('|') + 1);
+  const Texts regions = Names(Rows("Regions_ListView"));
+  EXPECT_EQ(regions.size(), Without_Doubles(regions).size());
+  EXPECT_EQ(Without_Doubles(regions), Without_Doubles(Regions_of(ids)));
+  Click_Row("Variety_Name_ListView", 1);
+  EXPECT_EQ(Shown_Text("Recipe_Name"), Names(grapes).at(1));
+  EXPECT_EQ(Rows("Regions_ListView"),
+            Stored("SELECT r.Region_Name, r.Country, r.Region_ID FROM Regions_Per_Variety p JOIN "
+                   "Regions r ON r.Region_ID = p.Region_ID WHERE p.Variety_ID = " +
+                       grapes[1].substr(grapes[1].rfind('|') + 1) + " ORDER BY p.rowid",
+                   3));
+  Click("MultCancel");
+  EXPECT_TRUE(Is_Seen("Wine_Cellar_Form"));
+}
+
+TEST_F(Foods_to_Grapes, Under_the_search_they_lead_to_the_wines_of_the_cellar) {
+  const Long wine = Put_Wine_with({Food(1)});
+  Open_Under("WineSearch");
+  Add(Food(0).name);
+  {
+    const Box_Script boxes;
+    Click("MultSelect");
+    EXPECT_THAT(boxes.Texts(), ElementsAre(none_found));
+  }
+  EXPECT_TRUE(Is_Seen(general));
+  EXPECT_FALSE(Is_There(results));
+  Add(Food(1).name);
+  Click("MultSelect");
+  EXPECT_THAT(Wines_Listed(), ElementsAre(wine));
+  EXPECT_THAT(Lines("Variety_Name_ListView"), IsEmpty());
+}
+
+}  // namespace

@@ -1,1 +1,324 @@
-#include <gtest/gtest.h>
+// The wines that a search found: their list, the wine that was clicked, and the bottle uncorked.
+#include <gmock/gmock.h>
+
+#include "tests/search/Search_Program.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+constexpr const char* results = "Wine_Search_Results_Form";
+constexpr const char* list = "Wine_Cellar_ListView";
+constexpr const char* button = "Multi_Functional_Command";
+
+class Search_Results : public Search_Program {
+ protected:
+  void Start_With_Found(const std::vector<Sample_Pairing>& pairings) {
+    Start();
+    Search_for(pairings);
+  }
+  template <class Kind>
+  static Kind& Control(const Text& name) {
+    return Forms::Screen(results).Get<Kind>(name);
+  }
+  static Long Selected_Wine() {
+    auto& view = Control<Forms::List_View>(list);
+    return view.Has_Selection() ? To_Long(view.SelectedItem().SubItems(9)) : -1;
+  }
+  static bool Says_Required(const char* field) {
+    return Control<Forms::Placed_Control>(field).BackColor() == Forms::Required_Color;
+  }
+  static Texts Ticked() {
+    Texts ticked;
+    for (const auto& [kind, last] : {std::pair{"Taste_Check_", 5}, {"Aroma_Check_", 7}}) {
+      for (int box = 0; box <= last; ++box) {
+        const Text name = kind + std::to_string(box);
+        if (Control<Forms::Check_Box>(name).Value() == 1) ticked.push_back(name);
+      }
+    }
+    return ticked;
+  }
+  static Texts Ticked_Grapes() {
+    const auto& grapes = Control<Forms::Check_List>("Variety_Combo");
+    Texts ticked;
+    for (int row = 0; row < grapes.ListCount(); ++row) {
+      if (grapes.Selected(row)) ticked.push_back(grapes.List(row));
+    }
+    return ticked;
+  }
+  /// In English and Spanish.
+  Long Put_Texts(const char* english, const char* spanish) const {
+    const Long key = Put_Text(english);
+    Change([&](Record_Store::Database& file) {
+      Record_Store::Recordset texts = file.OpenRecordset("Words_for_Data");
+      texts.MoveLast();
+      texts.Edit();
+      texts.Fields("Spanish") = spanish;
+      texts.Update();
+    });
+    return key;
+  }
+  static void Uncork() {
+    const Box_Script boxes;
+    Click(button);
+    ASSERT_EQ(boxes.Boxes().size(), 1U);
+    EXPECT_EQ(boxes.Boxes()[0].title, "WINE UNCORKED");
+    EXPECT_EQ(boxes.Boxes()[0].text,
+              "Your Wine Cellar was updated. This bottle of Wine was marked as Uncorked");
+  }
+};
+
+// ---- the list ----
+
+TEST_F(Search_Results, A_row_tells_the_wine_and_leaves_blank_what_it_does_not_have) {
+  Wines_Record bare = Sample_Wine(1);
+  bare.Label = "x";
+  bare.Ranking = -1;
+  Put_Wine_with({Food(0)});
+  Put_Wine_with({Food(0)}, bare);
+  Start_With_Found({Food(0)});
+  const Text grape = Sample().varieties[0], other = Sample(1).varieties[0];
+  EXPECT_THAT(Shown_Rows(list),
+              ElementsAre("2016 | " + Sample().name + " | " + Sample().label + " | " +
+                              Sample().region + " | " + grape + " | Red | 90 | 2021 | 3 | 1",
+                          "2016 | " + Sample(1).name + " |  | " + Sample(1).region + " | " + other +
+                              " | Red |  | 2021 | 3 | 2"));
+  EXPECT_EQ(Selected_Wine(), -1);
+  EXPECT_EQ(Focused(), list);
+}
+
+TEST_F(Search_Results, Headers_sort_as_text_and_two_of_them_only_turn_the_order) {
+  struct Row {
+    int winery;
+    const char *label, *color;
+    Integer vintage, ranking, peak, bottles;
+  };
+  for (const Row& row : {Row{0, "Bravo", "Red", 2001, 90, 2009, 3},
+                         {1, "Alpha", "White", 1999, 9, 2010, 20},
+                         {0, "Charlie", "Pink", 2003, 100, 2005, 1}}) {
+    Wines_Record wine = Sample_Wine(row.winery);
+    std::tie(wine.Label, wine.Color, wine.Vintage) = std::tie(row.label, row.color, row.vintage);
+    std::tie(wine.Ranking, wine.Peak, wine.Total_Bottles) =
+        std::tie(row.ranking, row.peak, row.bottles);
+    Put_Wine_with({Food(0)}, wine);
+  }
+  Start_With_Found({Food(0)});
+  const auto click = [](int column) {
+    Click_Header(list, column);
+    return Wines_Listed();
+  };
+  EXPECT_THAT(Wines_Listed(), ElementsAre(1, 2, 3));
+  EXPECT_THAT(click(0), ElementsAre(3, 1, 2));
+  EXPECT_THAT(click(3), ElementsAre(2, 1, 3));
+  EXPECT_THAT(click(4), ElementsAre(3, 1, 2));
+  EXPECT_THAT(click(0), ElementsAre(2, 1, 3));
+  EXPECT_THAT(click(2), ElementsAre(3, 1, 2));
+  EXPECT_THAT(click(5), ElementsAre(3, 1, 2));
+  EXPECT_THAT(click(6), ElementsAre(1, 2, 3));
+  EXPECT_THAT(click(7), ElementsAre(3, 1, 2));
+  EXPECT_THAT(click(8), ElementsAre(1, 2, 3));
+  const bool first_is_second = Sample().name < Sample(1).name;
+  EXPECT_EQ(click(1).front(), first_is_second ? 1 : 2);
+}
+
+// ---- the wine that was clicked ----
+
+TEST_F(Search_Results, A_click_shows_the_whole_wine_and_nothing_of_it_can_be_changed) {
+  const Sample_Winery& winery = Sample();
+  Wines_Record wine = Sample_Wine();
+  wine.Description = Put_Texts("Dry", "Seco");
+  wine.Comments = Put_Texts("Fine", "Fino");
+  wine.Last_Date_Uncorked = Date::Of(2021, 2, 28);
+  const Long key = Put_Wine(wine, {winery.variety_ids[0], winery.variety_ids[2]});
+  for (const Sample_Pairing& pairing : {Food(0), Food(1)}) Put_Pairing(key, pairing);
+  Put_Mark(key, "Taste", 2);
+  Put_Mark(key, "Aroma", 7);
+  const Long bare = Put_Wine_with({Food(0)}, Sample_Wine(1));
+  Set_Language(4);
+  Start();
+  Pick("Pairing_Search_Cellar");
+  const Text spanish = Column("SELECT Spanish FROM Maridages WHERE Maridage_ID = " + Food(0).id)[0];
+  const Text other = Column("SELECT Spanish FROM Maridages WHERE Maridage_ID = " + Food(1).id)[0];
+  const Text country = Column("SELECT Spanish_Name FROM World_Contries WHERE Short_Name = '" +
+                              winery.country + "'")[0];
+  Add(spanish);
+  Click("MultSelect");
+  EXPECT_THAT(Lines("Requested_Pairings_List"), ElementsAre(spanish));
+  const std::vector<std::pair<const char*, Text>> fields{
+      {"Winery_Combo", winery.name},
+      {"Label_Combo", winery.label},
+      {"Region_Combo", winery.region},
+      {"Country_Combo", country},
+      {"Vintage_Combo", "2016"},
+      {"Color_Combo", "Red"},
+      {"Merit_Combo", "90"},
+      {"Bottle_Size_Combo", "1.5 Lt"},
+      {"Peak_Year_Combo", "2021"},
+      {"Classification_Combo", winery.classification},
+      {"Total_Bottles_Text", "3"},
+      {"Alcohol_Text", "13.5"},
+      {"Price_Text", "12.5"},
+      {"Description_Text", "Seco"},
+      {"Comments_Text", "Fino"},
+      {"Last_Date_Uncorked_Text", To_Text(wine.Last_Date_Uncorked)},
+      {"Date_Added_Text", To_Text(wine.Date_Added)}};
+  const auto expect_shown = [&](const char* when) {
+    for (const auto& [field, text] : fields) EXPECT_EQ(Shown_Text(field), text) << field << when;
+    EXPECT_THAT(Ticked_Grapes(), ElementsAre(winery.varieties[0], winery.varieties[2])) << when;
+    EXPECT_THAT(Ticked(), ElementsAre("Taste_Check_2", "Aroma_Check_7")) << when;
+    EXPECT_THAT(Lines("Pairing_List"), ElementsAre(spanish, other)) << when;
+  };
+  Pick_Wine(key);
+  expect_shown(" after the click");
+  EXPECT_EQ(Selected_Wine(), key);
+  EXPECT_EQ(Focused(), list);
+  EXPECT_EQ(Shown_Text(button), "UNCORK");
+  EXPECT_TRUE(Is_Usable(button));
+  for (const auto& [field, text] : fields) {
+    EXPECT_EQ(Control<Forms::Placed_Control>(field).BackColor(), Forms::Locked_Color) << field;
+    Click(field);
+    for (const char* keys : {"Down", "Ctrl+A", "Delete"}) Press(keys);
+    Type("7");
+  }
+  for (const char* box : {"Taste_Check_2", "Taste_Check_0", "Aroma_Check_7"}) Click(box);
+  for (const int row : {0, 1}) Click_Tick("Variety_Combo", row);
+  expect_shown(" after the attempts");
+  Pick_Wine(bare);
+  EXPECT_EQ(Shown_Text("Winery_Combo"), Sample(1).name);
+  EXPECT_EQ(Shown_Text("Description_Text"), " ");
+  EXPECT_EQ(Shown_Text("Last_Date_Uncorked_Text"), " ");
+  EXPECT_THAT(Ticked(), IsEmpty());
+  EXPECT_THAT(Lines("Pairing_List"), ElementsAre(spanish));
+}
+
+// ---- uncorking ----
+
+TEST_F(Search_Results, A_bottle_uncorked_is_stored_and_the_list_goes_by_the_pairings_of_its_wine) {
+  Wines_Record two_bottles = Sample_Wine();
+  two_bottles.Total_Bottles = 2;
+  const Long asked = Put_Wine_with({Food(0)});
+  const Long wine = Put_Wine_with({Food(0), Food(2)}, two_bottles);
+  const Long not_asked = Put_Wine_with({Food(2)});
+  const int used = Used(Food(0));
+  const int used_own = Used(Food(2));
+  Start_With_Found({Food(0), Food(1)});
+  EXPECT_THAT(Wines_Listed(), ElementsAre(asked, wine));
+  Pick_Wine(wine);
+  EXPECT_EQ(Selection(), Selection_of({Food(0), Food(2)}));
+  EXPECT_THAT(Lines("Requested_Pairings_List"), ElementsAre(Food(0).name, Food(1).name));
+  now_ = Date::Of(2026, 7, 1, 20, 15);
+  Uncork();
+  EXPECT_EQ(Bottles_of(wine), "1");
+  EXPECT_EQ(Column("SELECT Last_Date_Uncorked FROM Wines ORDER BY Wine_ID"),
+            Texts({To_Text(No_Date), To_Text(now_), To_Text(No_Date)}));
+  EXPECT_EQ(Shown_Text("Total_Bottles_Text"), "1");
+  EXPECT_EQ(Shown_Text("Last_Date_Uncorked_Text"), To_Text(now_));
+  EXPECT_FALSE(Says_Required("Total_Bottles_Text"));
+  EXPECT_THAT(Wines_Listed(), ElementsAre(asked, wine, not_asked));
+  EXPECT_EQ(Shown_Text("Wines_Number"), "3");
+  EXPECT_THAT(Lines("Requested_Pairings_List"), ElementsAre(Food(0).name, Food(1).name));
+  EXPECT_EQ(Used(Food(0)), used + 3);
+  EXPECT_EQ(Used(Food(2)), used_own + 1);
+  EXPECT_EQ(Selected_Wine(), wine);
+  Uncork();
+  EXPECT_EQ(Bottles_of(wine), "0");
+  EXPECT_EQ(Shown_Text("Total_Bottles_Text"), "0");
+  EXPECT_TRUE(Says_Required("Total_Bottles_Text"));
+  EXPECT_FALSE(Is_Usable(button));
+  EXPECT_THAT(Shown_Rows(list).at(1), testing::EndsWith(" | 0 | " + To_Text(wine)));
+  Pick_Wine(not_asked);
+  EXPECT_FALSE(Says_Required("Total_Bottles_Text"));
+  EXPECT_TRUE(Is_Usable(button));
+  Pick_Wine(wine);
+  EXPECT_EQ(Shown_Text("Total_Bottles_Text"), "0");
+  EXPECT_FALSE(Is_Usable(button));
+  EXPECT_EQ(Bottles_of(not_asked), "3");
+}
+
+TEST_F(Search_Results, A_wine_that_the_list_no_longer_has_room_for_is_uncorked_all_the_same) {
+  Put_Wines_with(Food(0), 105);
+  const Long last = Put_Wine_with({Food(0), Food(1)});
+  Start_With_Found({Food(1)});
+  EXPECT_THAT(Wines_Listed(), ElementsAre(last));
+  Pick_Wine(last);
+  Uncork();
+  EXPECT_EQ(Wines_Listed().size(), 99U);
+  EXPECT_EQ(Selected_Wine(), -1);
+  EXPECT_EQ(Shown_Text("Total_Bottles_Text"), "2");
+  Uncork();
+  EXPECT_EQ(Bottles_of(last), "1");
+  EXPECT_EQ(Bottles_of(99), "3");
+}
+
+TEST_F(Search_Results, A_wine_with_a_number_beyond_16_bits_can_be_shown_and_uncorked) {
+  Long wine = 0;
+  Change([&](Record_Store::Database& file) {
+    Record_Store::Recordset wines = file.OpenRecordset("Wines");
+    for (int number = 0; number < 32768; ++number) wines.AddNew();  // dropped: the number is gone
+    wine = wines.Fields("Wine_ID").As_Long();
+    Wines_Description.Write(wines, Sample_Wine());
+  });
+  ASSERT_GT(wine, 32767);
+  Put_Pairing(wine, Food(0));
+  Start_With_Found({Food(0)});
+  Pick_Wine(wine);
+  Uncork();
+  EXPECT_EQ(Bottles_of(wine), "2");
+  EXPECT_EQ(Selected_Wine(), wine);
+}
+
+// ---- what has gone ----
+
+TEST_F(Search_Results, A_wine_whose_winery_has_gone_shows_the_one_before) {
+  Wines_Record orphan = Sample_Wine();
+  orphan.Winery_ID = 30000;
+  const Long without = Put_Wine_with({Food(0)}, orphan);
+  const Long with = Put_Wine_with({Food_at(0, 2)}, Sample_Wine(1));
+  Start_With_Found({Food(0)});  // no winery was read in this run
+  EXPECT_THAT(Shown_Rows(list), ElementsAre(StartsWith("2016 |  | " + Sample().label + " |  | ")));
+  Pick_Wine(without);
+  EXPECT_EQ(Shown_Text("Winery_Combo"), "");
+  EXPECT_EQ(Shown_Text("Label_Combo"), Sample().label);
+  Uncork();
+  EXPECT_EQ(Bottles_of(without), "2");
+  Click("Exit_Command");
+  Add(Food_at(0, 2).name);
+  Click("MultSelect");
+  Pick_Wine(with);
+  Pick_Wine(without);
+  for (const auto& [field, text] : {std::pair<const char*, Text>{"Winery_Combo", Sample(1).name},
+                                    {"Region_Combo", Sample(1).region},
+                                    {"Country_Combo", Sample(1).country_name}}) {
+    EXPECT_EQ(Shown_Text(field), text);
+  }
+}
+
+TEST_F(Search_Results, A_wine_that_has_gone_meanwhile_ends_the_run) {
+  const auto remove_the_wine = [this] {
+    Change([](Record_Store::Database& file) {
+      Record_Store::Recordset wines = file.OpenRecordset("Wines");
+      wines.Delete();
+    });
+  };
+  const auto expect_end = [this](const std::function<void()>& action) {
+    const Box_Script boxes;
+    const End_Watch end;
+    action();
+    EXPECT_EQ(end.Status(), 1);
+    EXPECT_THAT(boxes.Texts(), ElementsAre(StartsWith("Run-time error '3021':")));
+    Stop();
+  };
+  const Long first = Put_Wine_with({Food(0)});
+  const Long second = Put_Wine_with({Food(0)});
+  Start_With_Found({Food(0)});
+  remove_the_wine();
+  expect_end([first] { Pick_Wine(first); });
+  Start_With_Found({Food(0)});
+  Pick_Wine(second);
+  remove_the_wine();
+  expect_end([] { Click(button); });
+}
+
+}  // namespace

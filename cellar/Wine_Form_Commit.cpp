@@ -40,8 +40,7 @@ void Wine_Form::Store_New_Wine() {
   Wines_Recordset.AddNew();
   Write_Wines_Record();
   Close_Table(Wines_Recordset);
-  Open_Table(Wines_Recordset, "Wines");
-  Wines_Recordset.Index("Wine_ID");
+  Open_Table(Wines_Recordset, "Wines", "Wine_ID");
   Wines_Recordset.MoveLast();
   Read_Wines_Record();
   From_Form_to_Memory();
@@ -88,8 +87,7 @@ void Wine_Form::Modify_Wine() {
 // Begins with the lowest key of the table, whichever wine that is: only the marks of that wine are
 // ever removed. An empty table has no row to begin with (3021).
 void Wine_Form::Remove_Tasting() {
-  Open_Table(Wine_Tasting_Recordset, "Wine_Tasting");
-  Wine_Tasting_Recordset.Index("Wine_ID");
+  Open_Table(Wine_Tasting_Recordset, "Wine_Tasting", "Wine_ID");
   do {
     if (Wine_Tasting_Recordset.Fields("Wine_ID").As_Long() != Wines.Wine_ID) break;
     Wine_Tasting_Recordset.Edit();
@@ -101,8 +99,7 @@ void Wine_Form::Remove_Tasting() {
 
 // A wine without a row has none to begin with (3021).
 void Wine_Form::Remove_Varieties() {
-  Open_Table(Varieties_of_Wines_Recordset, "Varieties_of_Wines");
-  Varieties_of_Wines_Recordset.Index("Wine_ID");
+  Open_Table(Varieties_of_Wines_Recordset, "Varieties_of_Wines", "Wine_ID");
   Varieties_of_Wines_Recordset.Seek("=", Wines.Wine_ID);
   do {
     if (Varieties_of_Wines_Recordset.Fields("Wine_ID").As_Long() != Wines.Wine_ID) break;
@@ -178,8 +175,7 @@ Long Wine_Form::Store_Data_Text(Forms::Text_Box& box, Long key) {
   const bool empty = Trim(box.Text()).empty();
   if (command_ == "WineAdd") return empty ? -1 : Add_Data_Text(box.Text());
   if (empty) box.Set_Text("x");
-  Open_Table(Words_for_Data_Recordset, "Words_for_Data");
-  Words_for_Data_Recordset.Index("Multi_Language_ID");
+  Open_Table(Words_for_Data_Recordset, "Words_for_Data", "Multi_Language_ID");
   Words_for_Data_Recordset.Seek("=", key);
   if (Words_for_Data_Recordset.NoMatch()) {
     Close_Table(Words_for_Data_Recordset);

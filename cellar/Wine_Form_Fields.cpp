@@ -134,8 +134,7 @@ void Wine_Form::Region_Combo_Click() {
 // so the boxes stay as they were and the colour does not count as chosen.
 void Wine_Form::Label_Combo_Click() {
   if (Label_Combo.ListIndex() >= 2) {
-    Open_Table(Labels_Recordset, "Labels");
-    Labels_Recordset.Index("Label_ID");
+    Open_Table(Labels_Recordset, "Labels", "Label_ID");
     Labels_Recordset.Seek("=", Label_Lines.Key());
     Read_Labels_Record();
     Close_Table(Labels_Recordset);

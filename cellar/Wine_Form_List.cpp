@@ -1,16 +1,11 @@
 // The list of the current cellar: filled, sorted, and the way to pick a wine.
 #include "cellar/Wine_Form.h"
 #include "core/Globals.h"
+#include "core/List_Sorting.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
-
-namespace {
-
-constexpr int columns_known_by_header = 6;
-
-}  // namespace
 
 // A cellar without a name has "x" for one.
 void Wine_Form::Display_Current_Cellar() {
@@ -22,8 +17,7 @@ void Wine_Form::Display_Current_Cellar() {
     Close_Table(Wines_Recordset);
     return;
   }
-  Open_Table(Wineries_Recordset, "Wineries");
-  Wineries_Recordset.Index("Winery_ID");
+  Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
   Clear_Wine_List();
   for (Wines_Recordset.MoveFirst(); !Wines_Recordset.Eof(); Wines_Recordset.MoveNext()) {
     Read_Wines_Record();
@@ -37,17 +31,9 @@ void Wine_Form::Display_Current_Cellar() {
 
 // Sorts by text, numbers too. The column of the keys turns the order and keeps the column.
 void Wine_Form::Wine_Cellar_ListView_ColumnClick(const Forms::Column_Header& header) {
-  Wine_Cellar_ListView.Set_SortOrder(Wine_Cellar_ListView.SortOrder() == 0 ? 1 : 0);
-  Wine_Cellar_ListView.Set_Sorted(true);
-  for (int column = 1; column <= columns_known_by_header; ++column) {
-    if (Wine_Cellar_ListView.Header_Text(column) == header.Text) {
-      Wine_Cellar_ListView.Set_SortKey(column - 1);
-      return;
-    }
-  }
-  if (header.Text == "Merit") Wine_Cellar_ListView.Set_SortKey(6);
-  if (header.Text == "Peak") Wine_Cellar_ListView.Set_SortKey(7);
-  if (header.Text == "Stock") Wine_Cellar_ListView.Set_SortKey(8);
+  Sort_by_Header(Wine_Cellar_ListView, header,
+                 {"Vintage", "Winery", "Label", "Wine Region", "Grape Variety", "Color", "Merit",
+                  "Peak", "Stock"});
 }
 
 void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
@@ -57,12 +43,10 @@ void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
   }
   Checks_Locked = false;
   const Integer wine_id = To_Integer(Wine_Key(item));
-  Open_Table(Wines_Recordset, "Wines");
-  Wines_Recordset.Index("WINE_ID");
+  Open_Table(Wines_Recordset, "Wines", "WINE_ID");
   Wines_Recordset.Seek("=", wine_id);
   Read_Wines_Record();
-  Open_Table(Wineries_Recordset, "Wineries");
-  Wineries_Recordset.Index("Winery_ID");
+  Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
   Wineries_Recordset.Seek("=", Wines.Winery_ID);
   Read_Wineries_Record();
   Close_Table(Wines_Recordset);

@@ -30,8 +30,7 @@ void Fill_from_Table(const Keyed_List& lines, Forms::Item_List& shown,
                      const char* text, const char* key) {
   lines.Clear();
   for (const char* entry : first_entries) lines.Add(entry);
-  Open_Table(rows, table);
-  rows.Index(index);
+  Open_Table(rows, table, index);
   lines.Add_Rows(rows, text, key);
   Close_Table(rows);
   shown.Set_ListIndex(0);
@@ -144,8 +143,7 @@ void Wine_Form::Load_Regions_for_Country(const Text& short_name) {
   Label_Lines.Add("New Label");
   Region_Lines.Clear();
   Open_Regions_Of_Country(short_name);
-  Open_Table(Labels_Recordset, "Labels");
-  Labels_Recordset.Index("Region_ID");
+  Open_Table(Labels_Recordset, "Labels", "Region_ID");
   for (; !Regions_Query.Eof(); Regions_Query.MoveNext()) {
     const Text region_id = Regions_Query.Fields("Region_ID").As_Text();
     Region_Lines.Add(Regions_Query.Fields("Region_Name").As_Text(), region_id);
@@ -173,8 +171,7 @@ void Wine_Form::Load_Labels_for_Region(Integer region_id) {
   Label_Lines.Clear();
   Label_Lines.Add("New Label");
   Label_Lines.Add("No Label");
-  Open_Table(Labels_Recordset, "Labels");
-  Labels_Recordset.Index("Region_ID");
+  Open_Table(Labels_Recordset, "Labels", "Region_ID");
   Add_Labels_of_Region(region_id);
   Close_Table(Labels_Recordset);
   Label_Combo.Set_ListIndex(0);
@@ -198,8 +195,7 @@ void Wine_Form::Load_Classifications(const Text& short_name) {
   Classification_Lines.Clear();
   Classification_Lines.Add("New Classification");
   Classification_Lines.Add("NO Classification");
-  Open_Table(Classification_Recordset, "Classification");
-  Classification_Recordset.Index("Country");
+  Open_Table(Classification_Recordset, "Classification", "Country");
   for (; !Classification_Recordset.Eof(); Classification_Recordset.MoveNext()) {
     Read_Classification_Record();
     if (Classification.Country != short_name) continue;
@@ -214,8 +210,7 @@ void Wine_Form::Load_Varieties_for_Region(Long region_id) {
   const Ignoring_Events ignoring;
   Variety_Lines.Clear();
   Variety_Lines.Add("New Variety");
-  Open_Table(Regions_Recordset, "Regions");
-  Regions_Recordset.Index("Region_ID");
+  Open_Table(Regions_Recordset, "Regions", "Region_ID");
   Regions_Recordset.Seek("=", region_id);
   Read_Regions_Record();
   Close_Table(Regions_Recordset);

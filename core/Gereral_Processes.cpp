@@ -30,8 +30,7 @@ int Place_Of(std::string_view wanted, const Bounded_Array<Text, Last>& list, int
 
 template <class Keys>
 Text Country_By(const char* index, Keys key, const char* wanted) {
-  Open_Table(World_Contries_Recordset, "World_Contries");
-  World_Contries_Recordset.Index(index);
+  Open_Table(World_Contries_Recordset, "World_Contries", index);
   World_Contries_Recordset.Seek("=", key);
   Text name = World_Contries_Recordset.Fields(wanted).As_Text();
   Close_Table(World_Contries_Recordset);
@@ -108,8 +107,7 @@ void Load_Milk_Types() {
 }
 
 void Load_Countries() {
-  Open_Table(World_Contries_Recordset, "World_Contries");
-  World_Contries_Recordset.Index("Long_Name");
+  Open_Table(World_Contries_Recordset, "World_Contries", "Long_Name");
   Integer row = 0;
   for (; !World_Contries_Recordset.Eof(); World_Contries_Recordset.MoveNext()) {
     Read_World_Contries_Record();
@@ -154,8 +152,7 @@ void Load_Wine_System() {
 }
 
 void Read_Winery_By_ID(Integer key) {
-  Open_Table(Wineries_Recordset, "Wineries");
-  Wineries_Recordset.Index("Winery_ID");
+  Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
   Wineries_Recordset.Seek("=", key);
   Read_Wineries_Record();
   Close_Table(Wineries_Recordset);

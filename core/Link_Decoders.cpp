@@ -182,8 +182,7 @@ void Fill_Lists_with_Cheese_Maridages(const Keyed_List& lists) {
 }
 
 bool Wine_Has_Maridages() {
-  Open_Table(Maridages_Per_Wines_Recordset, "Maridages_Per_Wines");
-  Maridages_Per_Wines_Recordset.Index("Wine_ID");
+  Open_Table(Maridages_Per_Wines_Recordset, "Maridages_Per_Wines", "Wine_ID");
   Maridages_Per_Wines_Recordset.Seek("=", Wines.Wine_ID);
   const bool has = !Maridages_Per_Wines_Recordset.NoMatch();
   Close_Table(Maridages_Per_Wines_Recordset);
@@ -191,8 +190,7 @@ bool Wine_Has_Maridages() {
 }
 
 void Load_Varieties_of_Region() {
-  Open_Table(Varieties_Recordset, "Varieties");
-  Varieties_Recordset.Index("Variety_GROUP");
+  Open_Table(Varieties_Recordset, "Varieties", "Variety_GROUP");
   Open_Table(Varieties_Per_Region_Recordset, "Varieties_Per_Region");
   Each_Link(of_regions, Regions.Region_ID, [] {
     Decode_Row(varieties, First_Row::Is_Looked_At, [] {
@@ -205,8 +203,7 @@ void Load_Varieties_of_Region() {
 }
 
 void Load_Maridage_IDs_of_Variety() {
-  Open_Table(Maridages_Recordset, "Maridages");
-  Maridages_Recordset.Index("Maridage_GROUP");
+  Open_Table(Maridages_Recordset, "Maridages", "Maridage_GROUP");
   Open_Table(Maridages_Per_Variety_Recordset, "Maridages_Per_Variety");
   Each_Link(of_varieties, Varieties.Variety_ID, [] {
     Decode_Row(maridages, First_Row::Is_Passed_Over, [] {

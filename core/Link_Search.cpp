@@ -79,8 +79,7 @@ bool Search_Group(const Searched& searched, Long group, Long mask) {
 
 void Search(const Searched& searched) {
   searched.build();
-  Open_Table(searched.rows, searched.table);
-  searched.rows.Index("GROUP");
+  Open_Table(searched.rows, searched.table, "GROUP");
   Found_Count = 0;
   for (int group = 1; group <= Group_Count; ++group) {
     if (!Search_Group(searched, To_Long(Group_Keys[group] * 10.0), Group_Masks[group])) break;

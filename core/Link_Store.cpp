@@ -45,8 +45,7 @@ void Count_Use(Recordset& rows) {
 // `extras` runs on each row, the current one of the table.
 void Build(const Selectable& from, const std::function<void()>& extras,
            Missing_Row missing = Missing_Row::Fails, Counting counting = Counting::Uses) {
-  Open_Table(from.rows, from.table);
-  from.rows.Index(from.key);
+  Open_Table(from.rows, from.table, from.key);
   Sort_Count = 0;
   for (int item = 1; item <= Selected_Count; ++item) {
     from.rows.Seek("=", Selected_IDs[item]);

@@ -66,8 +66,7 @@ Text Language_Name_From_Number(Integer number) {
 
 Text Data_Text(Long key) {
   if (key == -1) return " ";
-  Open_Table(Words_for_Data_Recordset, "Words_for_Data");
-  Words_for_Data_Recordset.Index("Multi_Language_ID");
+  Open_Table(Words_for_Data_Recordset, "Words_for_Data", "Multi_Language_ID");
   Words_for_Data_Recordset.Seek("=", key);
   Text text = Words_for_Data_Recordset.Fields(System_Language - 2).As_Text();
   Close_Table(Words_for_Data_Recordset);

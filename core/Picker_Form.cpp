@@ -183,8 +183,7 @@ std::optional<Picker_Form::Entry> List_Picker_Form::Current_Entry() const {
 
 void List_Picker_Form::Load_Pairings(Integer highest_multiuse) {
   Candidate_Lines.Clear();
-  Open_Table(Maridages_Recordset, "Maridages");
-  Maridages_Recordset.Index(Language_Name_From_Number(System_Language));
+  Open_Table(Maridages_Recordset, "Maridages", Language_Name_From_Number(System_Language));
   const int multiuse_at = Maridages_Recordset.Ordinal("Multiuse");
   const int key_at = Maridages_Recordset.Ordinal("Maridage_ID");
   for (; !Maridages_Recordset.Eof(); Maridages_Recordset.MoveNext()) {

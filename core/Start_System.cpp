@@ -27,8 +27,7 @@ namespace {
 
 // The logo lies across the window and is as wide as it.
 void Fit_Window_To_Language() {
-  Open_Table(Languages_Available_Recordset, "Languages_Available");
-  Languages_Available_Recordset.Index("Language_Number");
+  Open_Table(Languages_Available_Recordset, "Languages_Available", "Language_Number");
   Languages_Available_Recordset.Seek("=", System_Language);
   Read_Languages_Available_Record();
   Screen("Wine_Cellar_Form").Instance().Set_Width(Languages_Available.Width_Main);

@@ -112,8 +112,7 @@ void Tasting_Boxes::Clear() {
 void Tasting_Boxes::Offer(std::string_view english_color) {
   Clear();
   Each([](Forms::Check_Box& box) { box.Set_Visible(false); });
-  Open_Table(Wine_Taste_Type_Recordset, "Wine_Taste_Type");
-  Wine_Taste_Type_Recordset.Index("Color");
+  Open_Table(Wine_Taste_Type_Recordset, "Wine_Taste_Type", "Color");
   Wine_Taste_Type_Recordset.Seek("=", english_color);
   int taste_box = 0;
   int aroma_box = 0;
@@ -130,8 +129,7 @@ void Tasting_Boxes::Show_Marks_of(Long wine_id) {
   Clear();
   const Guarding taste_guarding(taste_guard_);
   const Guarding aroma_guarding(aroma_guard_);
-  Open_Table(Wine_Tasting_Recordset, "Wine_Tasting");
-  Wine_Tasting_Recordset.Index("Wine_ID");
+  Open_Table(Wine_Tasting_Recordset, "Wine_Tasting", "Wine_ID");
   Wine_Tasting_Recordset.Seek("=", wine_id);
   for (; !Wine_Tasting_Recordset.NoMatch() && !Wine_Tasting_Recordset.Eof();
        Wine_Tasting_Recordset.MoveNext()) {

@@ -160,8 +160,7 @@ Text Wine_Screen::Wine_Key(const Forms::List_Item& item) { return item.SubItems(
 // ---- the writes ----
 
 void Wine_Screen::Seek_Wine() {
-  Open_Table(Wines_Recordset, "Wines");
-  Wines_Recordset.Index("Wine_ID");
+  Open_Table(Wines_Recordset, "Wines", "Wine_ID");
   Wines_Recordset.Seek("=", Wines.Wine_ID);
   Read_Wines_Record();
 }

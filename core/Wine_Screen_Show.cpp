@@ -52,8 +52,7 @@ void Wine_Screen::Show_Winery() {
 
 // A winery that was never read has no country, and shows none.
 void Wine_Screen::Load_Country_Unique(const Text& short_name) {
-  Open_Table(World_Contries_Recordset, "World_Contries");
-  World_Contries_Recordset.Index("Short_Name");
+  Open_Table(World_Contries_Recordset, "World_Contries", "Short_Name");
   World_Contries_Recordset.Seek("=", short_name);
   if (World_Contries_Recordset.NoMatch()) {
     Country_Lines.Show_Alone("", short_name);
@@ -70,8 +69,7 @@ void Wine_Screen::Load_Region_Unique() {
 }
 
 void Wine_Screen::Each_Variety_of_Wine(const std::function<void(const Text&)>& action) {
-  Open_Table(Varieties_of_Wines_Recordset, "Varieties_of_Wines");
-  Varieties_of_Wines_Recordset.Index("Wine_ID");
+  Open_Table(Varieties_of_Wines_Recordset, "Varieties_of_Wines", "Wine_ID");
   Varieties_of_Wines_Recordset.Seek("=", Wines.Wine_ID);
   for (; !Varieties_of_Wines_Recordset.NoMatch() && !Varieties_of_Wines_Recordset.Eof();
        Varieties_of_Wines_Recordset.MoveNext()) {
@@ -84,8 +82,7 @@ void Wine_Screen::Each_Variety_of_Wine(const std::function<void(const Text&)>& a
 void Wine_Screen::Show_Varieties_Alone() {
   Variety_Lines.Clear();
   Variety_Combo.Set_BackColor(Locked_Color);
-  Open_Table(Varieties_Recordset, "Varieties");
-  Varieties_Recordset.Index("Variety_ID");
+  Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
   Each_Variety_of_Wine([this](const Text& variety_id) {
     Varieties_Recordset.Seek("=", variety_id);
     Variety_Lines.Add(Varieties_Recordset.Fields("Variety_Name").As_Text(), variety_id);

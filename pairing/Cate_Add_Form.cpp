@@ -1,11 +1,8 @@
 #include "pairing/Cate_Add_Form.h"
 
-#include <algorithm>
-#include <array>
-#include <string_view>
-
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
+#include "core/List_Sorting.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
@@ -30,8 +27,7 @@ constexpr int prompt_for_change = 6;
 constexpr int button_for_change = 7;
 
 void Seek_Maridage(const Text& key) {
-  Open_Table(Maridages_Recordset, "Maridages");
-  Maridages_Recordset.Index("Maridage_ID");
+  Open_Table(Maridages_Recordset, "Maridages", "Maridage_ID");
   Maridages_Recordset.Seek("=", key);
 }
 
@@ -162,13 +158,7 @@ void Cate_Add_Form::Show_Boxes() {
 }
 
 void Cate_Add_Form::Maridages_ListView_ColumnClick(const Forms::Column_Header& header) {
-  constexpr std::array<std::string_view, 3> headers{"English", "Spanish", "Maridage_ID"};
-  Maridages_ListView.Set_SortOrder(Maridages_ListView.SortOrder() == 0 ? 1 : 0);
-  Maridages_ListView.Set_Sorted(true);
-  const auto* found = std::ranges::find(headers, header.Text);
-  if (found != headers.end()) {
-    Maridages_ListView.Set_SortKey(static_cast<int>(found - headers.begin()));
-  }
+  Sort_by_Header(Maridages_ListView, header, {"English", "Spanish", "Maridage_ID"});
 }
 
 void Cate_Add_Form::Maridages_ListView_ItemClick(Forms::List_Item item) {

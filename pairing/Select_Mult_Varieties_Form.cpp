@@ -36,8 +36,7 @@ void Select_Mult_Varieties_Form::Initialize_Select_Mult_Varieties_Language() {
 
 void Select_Mult_Varieties_Form::Load_Varieties() {
   Candidate_Lines.Clear();
-  Open_Table(Varieties_Recordset, "Varieties");
-  Varieties_Recordset.Index("Variety_Name");
+  Open_Table(Varieties_Recordset, "Varieties", "Variety_Name");
   Candidate_Lines.Add_Rows(Varieties_Recordset, "Variety_Name", "Variety_ID");
   Close_Table(Varieties_Recordset);
   Show_Candidates();

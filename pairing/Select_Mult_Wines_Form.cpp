@@ -1,11 +1,9 @@
 #include "pairing/Select_Mult_Wines_Form.h"
 
-#include <algorithm>
-#include <array>
 #include <set>
-#include <string_view>
 
 #include "core/Gereral_Processes.h"
+#include "core/List_Sorting.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Mobile_Wines_DB.h"
@@ -170,8 +168,7 @@ void Select_Mult_Wines_Form::Load_Main_Grapes_of_Selected_Wines(const Text& cond
     grapes.insert(Mobile_Wines_Query.Fields("Mobile_Wine_Variety_ID").As_Long());
   }
   Close_Table(Mobile_Wines_Query);
-  Open_Table(Varieties_Recordset, "Varieties");
-  Varieties_Recordset.Index("Variety_Name");
+  Open_Table(Varieties_Recordset, "Varieties", "Variety_Name");
   for (; !Varieties_Recordset.Eof(); Varieties_Recordset.MoveNext()) {
     const Long key = Varieties_Recordset.Fields("Variety_ID").As_Long();
     if (!grapes.contains(key)) continue;
@@ -188,8 +185,7 @@ void Select_Mult_Wines_Form::Display_Mobile_Wine_Listview(Text condition) {
     Add_Test(condition, "Mobile_Wine_Variety_ID=" + Grape_Lines.Key());
   }
   Clear_Mobile_Wine_List();
-  Open_Table(Varieties_Recordset, "Varieties");
-  Varieties_Recordset.Index("Variety_ID");
+  Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
   Open_Query(Mobile_Wines_Query, "SELECT * FROM Mobile_Wines" + condition);
   for (; !Mobile_Wines_Query.Eof(); Mobile_Wines_Query.MoveNext()) {
     Read_Mobile_Wines_Query_Row();
@@ -224,8 +220,7 @@ Text Select_Mult_Wines_Form::Color_of_Wine() const {
 
 void Select_Mult_Wines_Form::Mobile_Wines_ListView_ItemClick(Forms::List_Item item) {
   const Text key = item.SubItems(key_column);
-  Open_Table(Mobile_Wines_Recordset, "Mobile_Wines");
-  Mobile_Wines_Recordset.Index("Mobile_Wine_ID");
+  Open_Table(Mobile_Wines_Recordset, "Mobile_Wines", "Mobile_Wine_ID");
   Mobile_Wines_Recordset.Seek("=", key);
   Read_Mobile_Wines_Record();
   Close_Table(Mobile_Wines_Recordset);
@@ -235,13 +230,7 @@ void Select_Mult_Wines_Form::Mobile_Wines_ListView_ItemClick(Forms::List_Item it
 }
 
 void Select_Mult_Wines_Form::Mobile_Wines_ListView_ColumnClick(const Forms::Column_Header& header) {
-  constexpr std::array<std::string_view, 5> headers{"Wine Name", "Country", "Type", "GRAPE", "ID"};
-  Mobile_Wines_ListView.Set_SortOrder(Mobile_Wines_ListView.SortOrder() == 0 ? 1 : 0);
-  Mobile_Wines_ListView.Set_Sorted(true);
-  const auto* found = std::ranges::find(headers, header.Text);
-  if (found != headers.end()) {
-    Mobile_Wines_ListView.Set_SortKey(static_cast<int>(found - headers.begin()));
-  }
+  Sort_by_Header(Mobile_Wines_ListView, header, {"Wine Name", "Country", "Type", "GRAPE", "ID"});
 }
 
 std::optional<Picker_Form::Entry> Select_Mult_Wines_Form::Current_Entry() const { return current_; }

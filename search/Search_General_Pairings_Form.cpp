@@ -12,11 +12,6 @@ namespace {
 
 constexpr int variety_key_column = 2;
 
-void Open_by(Record_Store::Recordset& rows, const char* table, const char* index) {
-  Open_Table(rows, table);
-  rows.Index(index);
-}
-
 }  // namespace
 
 Search_General_Pairings_Form::Search_General_Pairings_Form()
@@ -62,9 +57,9 @@ void Search_General_Pairings_Form::Show_Varieties() {
   Variety_Name_ListView.Clear();
   Regions_ListView.Clear();
   Recipe_Name.Set_Caption("");
-  Open_by(Varieties_Per_Maridage_Recordset, "Varieties_Per_Maridage", "Maridage_ID");
-  Open_by(Maridages_Recordset, "Maridages", "Maridage_ID");
-  Open_by(Varieties_Recordset, "Varieties", "Variety_ID");
+  Open_Table(Varieties_Per_Maridage_Recordset, "Varieties_Per_Maridage", "Maridage_ID");
+  Open_Table(Maridages_Recordset, "Maridages", "Maridage_ID");
+  Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
   for (int item = 1; item <= Selected_Count; ++item) {
     Maridages_Recordset.Seek("=", Selected_IDs[item]);
     if (Maridages_Recordset.NoMatch()) continue;
@@ -98,7 +93,7 @@ void Search_General_Pairings_Form::Add_Variety() {
 
 void Search_General_Pairings_Form::Variety_Name_ListView_ItemClick(const Forms::List_Item& item) {
   Recipe_Name.Set_Caption(item.Text());
-  Open_by(Varieties_Recordset, "Varieties", "Variety_ID");
+  Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
   Varieties_Recordset.Seek("=", item.SubItems(variety_key_column));
   Read_Varieties_Record();
   Close_Table(Varieties_Recordset);
@@ -121,8 +116,8 @@ void Search_General_Pairings_Form::Load_Regions_of_all_Varieties() {
 
 void Search_General_Pairings_Form::Add_Regions_of_Variety(Long variety_id, Same_Name same_name) {
   auto& pairs = Regions_Per_Variety_Recordset;
-  Open_by(Regions_Recordset, "Regions", "Region_ID");
-  Open_by(pairs, "Regions_Per_Variety", "Variety_ID");
+  Open_Table(Regions_Recordset, "Regions", "Region_ID");
+  Open_Table(pairs, "Regions_Per_Variety", "Variety_ID");
   pairs.Seek("=", variety_id);
   for (; !pairs.NoMatch() && !pairs.Eof(); pairs.MoveNext()) {
     if (pairs.Fields("Variety_ID").As_Long() != variety_id) break;

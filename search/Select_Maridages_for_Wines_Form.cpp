@@ -143,8 +143,7 @@ void Select_Maridages_for_Wines_Form::Load_from_Query(const char* condition, con
 void Select_Maridages_for_Wines_Form::Load_Suggestions() {
   Pairings_Label.Set_Caption("Suggestred Pairings for this Grape");
   Candidate_Lines.Clear();
-  Open_Table(Varieties_Recordset, "Varieties");
-  Varieties_Recordset.Index("Variety_ID");
+  Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
   Varieties_Recordset.Seek("=", Option_Lines.Key());
   const bool known = !Varieties_Recordset.NoMatch();
   if (known) Read_Varieties_Record();

@@ -1,11 +1,8 @@
 #include "search/Wine_Search_Results_Form.h"
 
-#include <algorithm>
-#include <array>
-#include <string_view>
-
 #include "core/Globals.h"
 #include "core/Link_Search.h"
+#include "core/List_Sorting.h"
 #include "core/Varieties_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
@@ -18,11 +15,6 @@ namespace {
 void Read_Winery_of_Wine() {
   Wineries_Recordset.Seek("=", Wines.Winery_ID);
   if (!Wineries_Recordset.NoMatch()) Read_Wineries_Record();
-}
-
-void Open_Wineries_by_Key() {
-  Open_Table(Wineries_Recordset, "Wineries");
-  Wineries_Recordset.Index("Winery_ID");
 }
 
 }  // namespace
@@ -104,9 +96,8 @@ void Wine_Search_Results_Form::Load_Requested_Pairings() {
 // key.
 void Wine_Search_Results_Form::Get_WineResults_Records() {
   Search_Wines_for_Maridages();
-  Open_Wineries_by_Key();
-  Open_Table(Wines_Recordset, "Wines");
-  Wines_Recordset.Index("Wine_ID");
+  Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
+  Open_Table(Wines_Recordset, "Wines", "Wine_ID");
   Clear_Wine_List();
   for (int found = 1; found <= Found_Count; ++found) {
     Wines_Recordset.Seek("=", Found_IDs[found]);
@@ -124,14 +115,9 @@ void Wine_Search_Results_Form::Get_WineResults_Records() {
 // keep the column.
 void Wine_Search_Results_Form::Wine_Cellar_ListView_ColumnClick(
     const Forms::Column_Header& header) {
-  constexpr std::array<std::string_view, 9> headers{
-      "Vintage", "Winery", "Label", "Region", "Variety", "Color", "Merit", "Peak", "Stock"};
-  Wine_Cellar_ListView.Set_SortOrder(Wine_Cellar_ListView.SortOrder() == 0 ? 1 : 0);
-  Wine_Cellar_ListView.Set_Sorted(true);
-  const auto* found = std::ranges::find(headers, header.Text);
-  if (found != headers.end()) {
-    Wine_Cellar_ListView.Set_SortKey(static_cast<int>(found - headers.begin()));
-  }
+  Sort_by_Header(
+      Wine_Cellar_ListView, header,
+      {"Vintage", "Winery", "Label", "Region", "Variety", "Color", "Merit", "Peak", "Stock"});
 }
 
 // The focus goes back to the list, for the next wine.
@@ -139,7 +125,7 @@ void Wine_Search_Results_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item i
   Checks_Locked = false;
   Wines.Wine_ID = To_Long(Wine_Key(item));
   Seek_Wine();
-  Open_Wineries_by_Key();
+  Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
   Read_Winery_of_Wine();
   Close_Table(Wineries_Recordset);
   Memory_to_Form_Unique();

@@ -20,6 +20,11 @@ void Open_Table(Record_Store::Recordset& table, std::string_view name) {
   table = Wine_Cellar_DB->OpenRecordset(name);
 }
 
+void Open_Table(Record_Store::Recordset& table, std::string_view name, std::string_view index) {
+  Open_Table(table, name);
+  table.Index(index);
+}
+
 void Init_Varieties_Record() { Varieties_Description.Init(Varieties); }
 void Read_Varieties_Record() { Varieties_Description.Read(Varieties_Recordset, Varieties); }
 void Write_Varieties_Record() { Varieties_Description.Write(Varieties_Recordset, Varieties); }

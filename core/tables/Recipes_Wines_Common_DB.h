@@ -21,6 +21,8 @@ void Open_Wine_Cellar_DB();
 /// Replaces what `table` holds by a table recordset on `name`. 91 before the file is open, 3078
 /// where it has no such table.
 void Open_Table(Record_Store::Recordset& table, std::string_view name);
+/// The same, in the order of one of its indexes. 3015 where it has no such index.
+void Open_Table(Record_Store::Recordset& table, std::string_view name, std::string_view index);
 
 // The routines of the memory records. Init sets the defaults and leaves the key as it is. Read
 // takes over the current row of the table's recordset. Write stores all but the key in the row that

@@ -6,8 +6,6 @@
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::StrEq;
 using Texts = std::vector<Text>;
 
 constexpr const char* assumption =
@@ -63,6 +61,10 @@ TEST_F(Catalogue_Changes, An_addition_is_stored_whole_and_comes_into_the_list) {
   EXPECT_TRUE(Last_Row_Is_In_Sight());
   EXPECT_THAT(Boxes(), ElementsAre("Pie, é la crème", "Pastel"));
   EXPECT_TRUE(Is_Usable("Cat_Add_Now"));
+  Click("Cat_Add_Cancel");
+  Pick("Pairing_Search_Cellar");
+  Add("Pie, é la crème");
+  EXPECT_THAT(Lines("SelectList"), ElementsAre("Pie, é la crème"));
 }
 
 TEST_F(Catalogue_Changes, A_group_of_the_user_holds_ten) {

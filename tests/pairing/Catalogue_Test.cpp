@@ -5,9 +5,7 @@
 
 namespace {
 
-using testing::Contains;
 using testing::ElementsAre;
-using testing::Not;
 using Texts = std::vector<Text>;
 
 TEST_F(Catalogue, An_addition_needs_the_first_name_alone) {

@@ -77,3 +77,19 @@ class Pickers_Program : public Pairing_Program {
  private:
   std::vector<const char*> stand_ins_;
 };
+
+/// The picker of pairings, whose entries are handed to the stand-ins of the grapes and the cheeses.
+class Maridages_Picker : public Pickers_Program {
+ protected:
+  static constexpr const char* suggested = "Suggested_Pairings_List";
+  static constexpr const char* suggested_keys = "Suggested_Pairings_Index_List";
+  static constexpr const char* foods = "Food_Parings_List";
+  static constexpr const char* food_keys = "Food_Parings_Index_List";
+
+  void SetUp() override;
+  void Open(const char* command = "VarietyAdd");
+  /// What is chosen, its number, whether Add and Remove can be used; PROCEED goes with the number.
+  static void Expect_State(const Texts& chosen, bool add, bool remove);
+  /// The counter of a food.
+  Text Used(int food) const;
+};

@@ -1,0 +1,207 @@
+// The picker of pairings under each of its commands: for a grape, a cheese, a wine, and the
+// searches that find nothing.
+#include "core/Globals.h"
+#include "core/tables/Pairing_Tables.h"
+#include "core/tables/Wine_Tables.h"
+#include "platform/run_time/Guard.h"
+#include "tests/pairing/Pickers_Program.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+// Whose list it is, what it begins with, and what PROCEED sets: for a grape or a cheese.
+TEST_F(Maridages_Picker, For_a_grape_or_a_cheese) {
+  struct Case {
+    const char *command, *screen, *word, *name, *caption;
+    bool copied;
+    const bool& flag;
+  };
+  const char* design = "Select Recipe's Categories";
+  for (const Case& use :
+       {Case{"VarietyAdd", "Varieties_Form", "Grape Variety:", "Malbec", design, false,
+             Variety_Pairings_Changed},
+        {"VarietyMod", "Varieties_Form", "Grape Variety:", "Malbec",
+         "MODIFY Maridages of Grape Variety", true, Variety_Pairings_Changed},
+        {"VarietyPairings", "Varieties_Form", "Grape Variety:", "Malbec", design, true,
+         Variety_Pairings_Changed},
+        {"CheeseAdd", "Cheeses_Form", "Cheese: ", "Brie", design, false, Cheese_Foods_Changed},
+        {"CheeseMod", "Cheeses_Form", "Cheese: ", "Brie", "MODIFY Maridages of Grape Cheeses", true,
+         Cheese_Foods_Changed}}) {
+    SCOPED_TRACE(use.command);
+    Start();
+    Variety_Pairings_Changed = Cheese_Foods_Changed = false;
+    Varieties.Variety_Name = "Malbec";
+    Cheeses.Cheese_Name = "Brie";
+    Give("Varieties_Form", suggested, suggested_keys, "Of a grape", "11");
+    Give("Cheeses_Form", foods, food_keys, "Of a cheese", "22");
+    Open_Screen_Under(maridages, use.command);
+    EXPECT_EQ(Shown_Text(maridages), use.caption);
+    EXPECT_EQ(Shown_Text("MSelectLab3"), use.word);
+    EXPECT_EQ(Shown_Text("Recipe_Name"), use.name);
+    EXPECT_TRUE(Is_Seen("MSelectLab3") && Is_Seen("Recipe_Name"));
+    const bool grape = Text(use.screen) == "Varieties_Form";
+    const Text first = grape ? "Of a grape" : "Of a cheese";
+    Expect_State(use.copied ? Texts{first} : Texts{}, false, false);
+    Varieties.Variety_Name = Cheeses.Cheese_Name = "Another name";
+    Current_Command = "WineAdd";  // of a screen that was in front meanwhile
+    Run_Guarded([] { Forms::Screen(maridages).Show(); });
+    EXPECT_EQ(Shown_Text("Recipe_Name"), "Another name");
+    EXPECT_EQ(Current_Command, use.command);
+    Add(Food(0).name);
+    Click("MultSelect");
+    Texts expected{Food(0).name + "|" + Food(0).id};
+    if (use.copied) expected.insert(expected.begin(), first + (grape ? "|11" : "|22"));
+    EXPECT_EQ(Handed_Over(), expected);
+    EXPECT_TRUE(use.flag);
+    EXPECT_NE(Variety_Pairings_Changed, Cheese_Foods_Changed);
+    Expect_Left(maridages, use.screen);
+    Stop();
+  }
+}
+
+TEST_F(Maridages_Picker, For_a_wine_of_the_cellar) {
+  const Long wine = Put_Wine(Sample_Wine());
+  Put_Pairing(wine, Food(0));
+  Start_With("Wine_Add");
+  Wines.Variety = "Malbec";
+  Wines.Label = "Reserva";
+  Wines.Vintage = 2001;
+  Open_Screen_Under(maridages, "WineAdd");
+  EXPECT_EQ(Shown_Text("Recipe_Name"), "Malbec - Reserva - 2001");
+  EXPECT_EQ(Shown_Text("MSelectLab3"), "Grape Variety:");
+  Expect_State({}, false, false);
+  Add(Food(1).name);
+  Click("MultSelect");
+  Expect_Left(maridages, "Wine_Form");
+  EXPECT_THAT(Lines("Pairing_List"), ElementsAre(Food(1).name));
+  EXPECT_EQ(Tag_of("Pairing_List"), "1");
+  Click("Exit_Command");
+  Pick("Wine_Mod");
+  Pick_Wine(wine);
+  Open_Screen_Under(maridages, "WineMod");
+  Expect_State({Food(0).name}, false, false);
+  Add(Food(2).name);
+  Click("MultCancel");
+  Expect_Left(maridages, "Wine_Form");
+  EXPECT_THAT(Lines("Pairing_List"), ElementsAre(Food(0).name));
+  Open_Screen_Under(maridages, "WineMod");
+  Expect_State({Food(0).name}, false, false);
+  Add(Food(2).name);
+  Click("MultSelect");
+  EXPECT_THAT(Handed_Over(),
+              ElementsAre(Food(0).name + "|" + Food(0).id, Food(2).name + "|" + Food(2).id));
+  EXPECT_THAT(Lines("Pairing_List"), ElementsAre(Food(0).name, Food(2).name));
+}
+
+TEST_F(Maridages_Picker, Cancel_hands_nothing_on_and_leads_to_the_caller) {
+  const auto by_button = [] { Click("MultCancel"); };
+  const auto by_key = [] { Press("Esc"); };
+  const auto by_frame = [] { Close_Window(maridages); };
+  for (const auto& [command, to, leave] :
+       {std::tuple<const char*, const char*, std::function<void()>>{"WineSearch",
+                                                                    "Wine_Cellar_Form", by_key},
+        {"MobileSearch", "Wine_Cellar_Form", by_frame},
+        {"WineSearch", "Wine_Cellar_Form", by_button},
+        {"VarietyPairings", "Varieties_Form", by_button},
+        {"VarietyAdd", "Varieties_Form", by_frame},
+        {"CheeseAdd", "Cheeses_Form", by_button},
+        {"CheeseMod", "Cheeses_Form", by_key}}) {
+    SCOPED_TRACE(command);
+    Open(command);
+    Expect_State({}, false, false);
+    Selected_Count = 1;
+    Selected_Names[1] = "Before";
+    Selected_IDs[1] = "5";
+    Add(Food(0).name);
+    leave();
+    Expect_Left(maridages, to);
+    EXPECT_THAT(Handed_Over(), ElementsAre("Before|5"));
+    EXPECT_FALSE(Variety_Pairings_Changed || Cheese_Foods_Changed);
+    Stop();
+  }
+}
+
+TEST_F(Maridages_Picker, A_search_that_finds_nothing_in_the_cellar_leaves_the_picker_as_it_is) {
+  const Text used[] = {Used(0), Used(1), Used(2)};
+  Put_Pairing(Put_Wine(Sample_Wine()), Food(2));
+  Start();
+  Pick("Pairing_Search_Cellar");
+  EXPECT_FALSE(Is_Seen("MSelectLab3") || Is_Seen("Recipe_Name") || Is_Seen("MSelectLab2"));
+  Add(Food(0).name);
+  Add(Food(1).name);
+  Box_Script boxes;
+  Click("MultSelect");
+  ASSERT_EQ(boxes.Boxes().size(), 2U);
+  EXPECT_EQ(boxes.Boxes()[0].title, "NO Wines found");
+  EXPECT_EQ(boxes.Boxes()[0].text, "There are NO wines with\rANY of the pairings selected !!!");
+  EXPECT_EQ(boxes.Boxes()[1].title, "NO WINES PAIRINGS");
+  EXPECT_EQ(boxes.Boxes()[1].text, "Thera are NO wines matching any of your pairings.");
+  EXPECT_TRUE(Is_Seen(maridages));
+  EXPECT_FALSE(Is_Seen("Wine_Cellar_Form"));
+  EXPECT_FALSE(Forms::Screen("Wine_Search_Results_Form").Is_Loaded());
+  Expect_State({Food(0).name, Food(1).name}, true, false);
+  EXPECT_EQ(Used(0), std::to_string(std::stoi(used[0]) + 1));
+  EXPECT_EQ(Used(1), std::to_string(std::stoi(used[1]) + 1));
+  EXPECT_EQ(Used(2), used[2]);
+  Press("Esc");
+  Pick("Pairing_Search_Cellar");
+  Expect_State({}, false, false);
+}
+
+TEST_F(Maridages_Picker, A_search_that_finds_nothing_in_the_general_list_ends_in_the_main_window) {
+  const Text used = Used(0);
+  Empty_Table("Maridages_Per_Mobile_Wines");
+  Set_Language(german);
+  Start();
+  Pick("Pairing_Search_General");
+  EXPECT_FALSE(Is_Seen("MSelectLab3") || Is_Seen("Recipe_Name"));
+  Add(Stored("SELECT German FROM Maridages WHERE Maridage_ID = " + Food(0).id, 1)[0]);
+  Box_Script boxes;
+  Click("MultSelect");
+  ASSERT_EQ(boxes.Boxes().size(), 2U);
+  EXPECT_EQ(boxes.Boxes()[0].title, "NO Wines found");
+  EXPECT_EQ(boxes.Boxes()[0].text, "There are NO Wines with\rANY of the pairings selected !!!");
+  EXPECT_EQ(boxes.Boxes()[1].title, "KEINE PASSENDEN WEINE");
+  EXPECT_EQ(boxes.Boxes()[1].text, "Es gibt KEINE Weine, die zu einer Ihrer Speisen passen.");
+  Expect_Left(maridages, "Wine_Cellar_Form");
+  EXPECT_EQ(Used(0), used);
+}
+
+TEST_F(Maridages_Picker, Words_and_tips_in_German) {
+  Set_Language(german);
+  Open("CheeseMod");
+  for (const auto& [control, text] :
+       {std::pair{maridages, "Speisen zum Käse ÄNDERN"},
+        {"Add_Command", "Hinzufügen==>"},
+        {"Remove_Command", "Entfernen"},
+        {"MultSelect", "WEITER"},
+        {"MultCancel", "ABBRECHEN"},
+        {"MSelectLab1", "Speisen "},
+        {"Label1", "Ausgewählte Speisen"},
+        {"MSelectLab3", "Käse: "},
+        {"Keys_Label",
+         "Zum Suchen tippen. Eingabetaste oder Doppelklick fügt den Eintrag hinzu, "
+         "Entf entfernt ihn."}}) {
+    EXPECT_EQ(Shown_Text(control), text);
+  }
+  EXPECT_FALSE(Is_Seen("MSelectLab2"));
+  for (const auto& [control, tip] :
+       {std::pair{"Add_Command", "Nimmt den markierten Eintrag in die Auswahl auf (Eingabetaste)"},
+        {"Remove_Command", "Nimmt den markierten Eintrag aus der Auswahl heraus (Entf)"},
+        {"Cat_List", "Alles, was zur Auswahl steht"},
+        {"SelectList", "Die bisherige Auswahl"},
+        {"MultSelect", "Fährt mit der Auswahl fort"},
+        {"MultCancel", "Schließt ohne Auswahl (Esc)"},
+        {"Selected_Number",
+         "Anzahl der ausgewählten Einträge; höchstens 100 können übergeben "
+         "werden"}}) {
+    EXPECT_EQ(Tip(control), tip);
+  }
+  Press("Esc");
+  Open_Screen_Under(maridages, "VarietyMod");
+  EXPECT_EQ(Shown_Text(maridages), "Speisen zur Rebsorte ÄNDERN");
+  EXPECT_EQ(Shown_Text("MSelectLab3"), "Rebsorte:");
+}
+
+}  // namespace

@@ -16,10 +16,10 @@ using testing::ElementsAre;
 
 class Program : public testing::Test {
  protected:
-  std::vector<std::string> Stored(const char* table, const char* field) {
+  std::vector<std::string> Stored(const char* rows_of, const char* field) {
     const auto file = Record_Store::OpenDatabase(program.Data_File(), false, false,
                                                  Connect_Text(program.Data_File()));
-    Record_Store::Recordset rows = file->OpenRecordset(table);
+    Record_Store::Recordset rows = file->OpenRecordset(rows_of);
     std::vector<std::string> values;
     for (; !rows.Eof(); rows.MoveNext()) values.push_back(rows.Fields(field).As_Text());
     return values;
@@ -36,6 +36,17 @@ class Program : public testing::Test {
     program.Type("Office");
     program.Press({"alt+s"});
     ASSERT_TRUE(program.Sees_Window("CELLAR NAMES SAVED"));
+  }
+
+  // From the main window, up to the button.
+  void Enter_Wine() {
+    program.Press({"alt+w", "h", "a"});
+    ASSERT_TRUE(program.Sees_Window("Add New Wine to the Cellar"));
+    program.Type("France");
+    program.Press({"alt+w"});
+    program.Type("Bollinger");
+    program.Press({"alt+l", "Down", "alt+g", "Down", "space", "alt+o", "Down", "alt+b", "Down"});
+    program.Press({"alt+t", "6", "alt+f", "Down"});
   }
 
   Real_Window::Display display;
@@ -58,13 +69,8 @@ TEST_F(Program, A_wine_is_entered_by_keyboard_and_can_be_uncorked_after_a_restar
   Name_Cellars_Up_To_The_Message();
   ASSERT_TRUE(program.Answer_Box("CELLAR NAMES SAVED"));
   ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
-  program.Press({"alt+w", "h", "a"});
-  ASSERT_TRUE(program.Sees_Window("Add New Wine to the Cellar"));
-  program.Type("France");
-  program.Press({"alt+w"});
-  program.Type("Bollinger");
-  program.Press({"alt+l", "Down", "alt+g", "Down", "space", "alt+o", "Down", "alt+b", "Down"});
-  program.Press({"alt+t", "6", "alt+f", "Down", "alt+s"});
+  Enter_Wine();
+  program.Press({"alt+s"});
   ASSERT_TRUE(program.Answer_Box("WINE ADDITION SUCCESSFULLY"));
   ASSERT_TRUE(program.Sees_Window("Add New Wine to the Cellar"));
   program.Press({"alt+e"});
@@ -82,6 +88,60 @@ TEST_F(Program, A_wine_is_entered_by_keyboard_and_can_be_uncorked_after_a_restar
   ASSERT_TRUE(program.Sees_Window("WINE UNCORKED"));
   program.Kill();
   EXPECT_THAT(Stored("Wines", "Total_Bottles"), ElementsAre("5"));
+}
+
+TEST_F(Program, A_wine_with_its_pairings_is_found_by_one_of_them_and_uncorked_from_the_results) {
+  const auto Used = [this] {
+    std::vector<int> counters;
+    for (const std::string& used :
+         Stored("SELECT Used FROM Maridages WHERE English IN "
+                "('Roast beef', 'Roast chicken', 'Roast duck') ORDER BY English",
+                "Used")) {
+      counters.push_back(std::stoi(used));
+    }
+    return counters;
+  };
+  const std::vector<int> used = Used();
+  Name_Cellars_Up_To_The_Message();
+  ASSERT_TRUE(program.Answer_Box("CELLAR NAMES SAVED"));
+  ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
+  Enter_Wine();
+  program.Press({"alt+p"});
+  ASSERT_TRUE(program.Sees_Window("Parings for Wines"));
+  program.Type("Roast beef");
+  program.Press({"Return", "Down", "Return", "Down", "Return", "alt+p"});
+  ASSERT_TRUE(program.Window_Has_Gone("Parings for Wines"));
+  ASSERT_TRUE(program.Sees_Window("Add New Wine to the Cellar"));
+  program.Press({"alt+s"});
+  ASSERT_TRUE(program.Answer_Box("WINE ADDITION SUCCESSFULLY"));
+  ASSERT_TRUE(program.Sees_Window("Add New Wine to the Cellar"));
+  program.Press({"alt+e"});
+  ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
+  program.Press({"alt+p", "w", "f"});
+  ASSERT_TRUE(program.Sees_Window("Select Recipe's Categories"));
+  program.Type("Roast duck");
+  program.Press({"Return", "alt+p"});
+  ASSERT_TRUE(program.Sees_Window("Results of Pairings with Wine in your Home Cellar"));
+  program.Press({"space", "alt+u"});
+  ASSERT_TRUE(program.Answer_Box("WINE UNCORKED"));
+  ASSERT_TRUE(program.Sees_Window("Results of Pairings with Wine in your Home Cellar"));
+  program.Press({"alt+e"});
+  ASSERT_TRUE(program.Sees_Window("Select Recipe's Categories"));
+  program.Press({"Escape"});
+  ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
+  program.Press({"alt+x"});
+  EXPECT_EQ(program.Wait_For_End(), 0);
+  EXPECT_THAT(Stored("Wines", "Total_Bottles"), ElementsAre("5"));
+  EXPECT_THAT(Stored("SELECT English FROM Maridages_Per_Wines l JOIN Maridages m ON "
+                     "m.Maridage_Group = l.[GROUP] / 10 AND "
+                     "substr('0000000000' || l.SUBCATEGO, -m.Maridage_SubGr, 1) = '1' "
+                     "WHERE l.Wine_ID = 1 ORDER BY English",
+                     "English"),
+              ElementsAre("Roast beef", "Roast chicken", "Roast duck"));
+  // Each once for the save and once for the uncorking, and twice where it was asked for.
+  std::vector<int> grown = Used();
+  for (std::size_t pairing = 0; pairing < grown.size(); ++pairing) grown[pairing] -= used[pairing];
+  EXPECT_THAT(grown, ElementsAre(2, 2, 4));
 }
 
 TEST_F(Program, What_a_message_says_was_saved_survives_a_kill) {

@@ -99,8 +99,9 @@ int Program::Wait_For_End() {
 
 bool Program::Is_Running() const { return process_ && process_->state() == QProcess::Running; }
 
+// The search takes an apostrophe that is escaped for the end of the text.
 QString Program::Window_Of(const QString& title) const {
-  const QString exactly = "^" + QRegularExpression::escape(title) + "$";
+  const QString exactly = "^" + QRegularExpression::escape(title).replace("\\'", "'") + "$";
   return display_.Run("xdotool", {"search", "--onlyvisible", "--name", exactly});
 }
 

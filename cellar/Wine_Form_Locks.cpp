@@ -3,9 +3,7 @@
 #include "core/Globals.h"
 #include "platform/run_time/Conversions.h"
 
-using Forms::Locked_Color;
 using Forms::Required_Color;
-using Forms::Window_Color;
 
 Wine_Form::Controls Wine_Form::Gate_Fields() {
   return {&Bottle_Size_Combo, &Classification_Combo, &Color_Combo,  &Label_Combo,

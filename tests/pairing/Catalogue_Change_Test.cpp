@@ -68,6 +68,10 @@ TEST_F(Catalogue_Changes, An_addition_is_stored_whole_and_comes_into_the_list) {
 }
 
 TEST_F(Catalogue_Changes, A_group_of_the_user_holds_ten) {
+  Maridages_Record last = Made_Up("The last delivered one");
+  last.Maridage_Group = 999999;
+  last.Maridage_SubGr = 3;
+  Put(last);
   Open("Pairing_Add");
   Box_Script boxes;
   Texts expected;

@@ -87,6 +87,11 @@ TEST_F(Search_Results, A_row_tells_the_wine_and_leaves_blank_what_it_does_not_ha
                               " | Red |  | 2021 | 3 | 2"));
   EXPECT_EQ(Selected_Wine(), -1);
   EXPECT_EQ(Focused(), list);
+  for (const char* field : {"Winery_Combo", "Country_Combo", "Price_Text", "Comments_Text"}) {
+    EXPECT_TRUE(Control<Forms::Lockable_Control>(field).Locked()) << field;
+  }
+  Click("Aroma_Check_0");
+  EXPECT_THAT(Ticked(), IsEmpty());
 }
 
 TEST_F(Search_Results, Headers_sort_as_text_and_two_of_them_only_turn_the_order) {
@@ -121,6 +126,9 @@ TEST_F(Search_Results, Headers_sort_as_text_and_two_of_them_only_turn_the_order)
   EXPECT_THAT(click(8), ElementsAre(1, 2, 3));
   const bool first_is_second = Sample().name < Sample(1).name;
   EXPECT_EQ(click(1).front(), first_is_second ? 1 : 2);
+  Pick_Wine(1);
+  Uncork();
+  EXPECT_THAT(Wines_Listed(), ElementsAre(1, 2, 3));  // filled anew, in the order found
 }
 
 // ---- the wine that was clicked ----

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/Globals.h"
+#include "core/Links.h"
 #include "core/Varieties_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
@@ -15,19 +16,6 @@ using Record_Store::Recordset;
 namespace {
 
 constexpr int rows_looked_at = 10;
-
-/// A link table, and the field and index of its owner.
-struct Links {
-  Recordset& rows;
-  const char* table;
-  const char* owner;
-};
-const Links of_wines{Maridages_Per_Wines_Recordset, "Maridages_Per_Wines", "Wine_ID"};
-const Links of_mobile_wines{Maridages_Per_Mobile_Wines_Recordset, "Maridages_Per_Mobile_Wines",
-                            "Mobile_Wine_ID"};
-const Links of_varieties{Maridages_Per_Variety_Recordset, "Maridages_Per_Variety", "Variety_ID"};
-const Links of_cheeses{Maridages_Per_Cheeses_Recordset, "Maridages_Per_Cheeses", "Cheese_ID"};
-const Links of_regions{Varieties_Per_Region_Recordset, "Varieties_Per_Region", "Region_ID"};
 
 // Calls `decode()` for each row of the owner, its group and mask in `Decoded_Group` and
 // `Decoded_Mask`. The table is open.
@@ -155,30 +143,32 @@ void Remove_All_Rows(Recordset& rows) {
 
 }  // namespace
 
-void Load_Maridages_of_Wine() { Load_Maridages(of_wines, Wines.Wine_ID, Decoded_Maridages); }
+void Load_Maridages_of_Wine() {
+  Load_Maridages(Pairings_of_Wines, Wines.Wine_ID, Decoded_Maridages);
+}
 
 void Load_Maridages_of_Mobile_Wine() {
-  Load_Maridages(of_mobile_wines, Mobile_Wines.Mobile_Wine_ID, Decoded_Maridages);
+  Load_Maridages(Pairings_of_Mobile_Wines, Mobile_Wines.Mobile_Wine_ID, Decoded_Maridages);
 }
 
 void Load_Maridages_of_Variety() {
-  Load_Maridages(of_varieties, Varieties.Variety_ID, Decoded_Maridages);
+  Load_Maridages(Pairings_of_Varieties, Varieties.Variety_ID, Decoded_Maridages);
 }
 
 void Load_Maridages_of_Cheese() {
-  Load_Maridages(of_cheeses, Cheeses.Cheese_ID, Decoded_Cheese_Maridages);
+  Load_Maridages(Pairings_of_Cheeses, Cheeses.Cheese_ID, Decoded_Cheese_Maridages);
 }
 
 void Fill_Lists_with_Wine_Maridages(const Keyed_List& lists) {
-  Fill_Lists(of_wines, Load_Maridages_of_Wine, Decoded_Maridages, lists);
+  Fill_Lists(Pairings_of_Wines, Load_Maridages_of_Wine, Decoded_Maridages, lists);
 }
 
 void Fill_Lists_with_Variety_Maridages(const Keyed_List& lists) {
-  Fill_Lists(of_varieties, Load_Maridages_of_Variety, Decoded_Maridages, lists);
+  Fill_Lists(Pairings_of_Varieties, Load_Maridages_of_Variety, Decoded_Maridages, lists);
 }
 
 void Fill_Lists_with_Cheese_Maridages(const Keyed_List& lists) {
-  Fill_Lists(of_cheeses, Load_Maridages_of_Cheese, Decoded_Cheese_Maridages, lists);
+  Fill_Lists(Pairings_of_Cheeses, Load_Maridages_of_Cheese, Decoded_Cheese_Maridages, lists);
 }
 
 bool Wine_Has_Maridages() {
@@ -192,7 +182,7 @@ bool Wine_Has_Maridages() {
 void Load_Varieties_of_Region() {
   Open_Table(Varieties_Recordset, "Varieties", "Variety_GROUP");
   Open_Table(Varieties_Per_Region_Recordset, "Varieties_Per_Region");
-  Each_Link(of_regions, Regions.Region_ID, [] {
+  Each_Link(Varieties_of_Regions, Regions.Region_ID, [] {
     Decode_Row(varieties, First_Row::Is_Looked_At, [] {
       Decoded_Items[++Decoded_Count] = {Varieties.Variety_ID, Varieties.Variety_Name,
                                         Varieties.Variety_Color};
@@ -205,7 +195,7 @@ void Load_Varieties_of_Region() {
 void Load_Maridage_IDs_of_Variety() {
   Open_Table(Maridages_Recordset, "Maridages", "Maridage_GROUP");
   Open_Table(Maridages_Per_Variety_Recordset, "Maridages_Per_Variety");
-  Each_Link(of_varieties, Varieties.Variety_ID, [] {
+  Each_Link(Pairings_of_Varieties, Varieties.Variety_ID, [] {
     Decode_Row(maridages, First_Row::Is_Passed_Over, [] {
       Decoded_Items[++Decoded_Count] = {Maridages.Maridage_ID, Maridages.Maridage_Name, {}};
     });

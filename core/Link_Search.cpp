@@ -6,6 +6,7 @@
 #include <unordered_set>
 
 #include "core/Link_Store.h"
+#include "core/Links.h"
 #include "core/Varieties_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
@@ -13,37 +14,23 @@
 #include "platform/forms/Message_Box.h"
 #include "platform/run_time/Conversions.h"
 
-using Record_Store::Recordset;
-
 namespace {
 
 constexpr int most_found = 100;
 
-/// A link table by its groups, how the selection becomes groups, and what is said of nothing found.
+/// The links, how the selection becomes groups, and what is said of nothing found.
 struct Searched {
-  Recordset& rows;
-  const char* table;
-  const char* owner;
+  const Links& links;
   void (*build)();
   const char* text;
   const char* title;
 };
-const Searched wines{Maridages_Per_Wines_Recordset,
-                     "Maridages_Per_Wines",
-                     "Wine_ID",
-                     Build_Wine_Maridage_Groups,
-                     "There are NO wines with\rANY of the pairings selected !!!",
-                     "NO Wines found"};
-const Searched mobile_wines{Maridages_Per_Mobile_Wines_Recordset,
-                            "Maridages_Per_Mobile_Wines",
-                            "Mobile_Wine_ID",
-                            Build_Mobile_Search_Groups,
+const Searched wines{Pairings_of_Wines, Build_Wine_Maridage_Groups,
+                     "There are NO wines with\rANY of the pairings selected !!!", "NO Wines found"};
+const Searched mobile_wines{Pairings_of_Mobile_Wines, Build_Mobile_Search_Groups,
                             "There are NO Wines with\rANY of the pairings selected !!!",
                             "NO Wines found"};
-const Searched regions{Varieties_Per_Region_Recordset,
-                       "Varieties_Per_Region",
-                       "Region_ID",
-                       Build_Region_Variety_Groups,
+const Searched regions{Varieties_of_Regions, Build_Region_Variety_Groups,
                        "There are NO Regions with\rANY of the varieties selected !!!",
                        "NO Regions found"};
 
@@ -63,11 +50,11 @@ bool Take_Found(const Text& key) {
 }
 
 // The rows of one merged group. False where the search is full.
-bool Search_Group(const Searched& searched, Long group, Long mask) {
-  Recordset& rows = searched.rows;
+bool Search_Group(const Links& links, Long group, Long mask) {
+  Record_Store::Recordset& rows = links.rows;
   const int group_at = rows.Ordinal("GROUP");
   const int mask_at = rows.Ordinal("SUBCATEGO");
-  const int owner_at = rows.Ordinal(searched.owner);
+  const int owner_at = rows.Ordinal(links.owner);
   rows.Seek("=", group);
   for (; !rows.NoMatch() && !rows.Eof(); rows.MoveNext()) {
     if (rows.Fields(group_at).As_Long() != group) break;
@@ -79,17 +66,17 @@ bool Search_Group(const Searched& searched, Long group, Long mask) {
 
 void Search(const Searched& searched) {
   searched.build();
-  Open_Table(searched.rows, searched.table, "GROUP");
+  Open_Table(searched.links.rows, searched.links.table, "GROUP");
   Found_Count = 0;
   for (int group = 1; group <= Group_Count; ++group) {
-    if (!Search_Group(searched, To_Long(Group_Keys[group] * 10.0), Group_Masks[group])) break;
+    if (!Search_Group(searched.links, To_Long(Group_Keys[group] * 10.0), Group_Masks[group])) break;
   }
   if (Found_Count > 0) {
     Compact_Found_IDs();
     return;
   }
   Forms::Message_Box(searched.text, searched.title);
-  Close_Table(searched.rows);
+  Close_Table(searched.links.rows);
 }
 
 }  // namespace

@@ -10,6 +10,8 @@
 // stays written, and the tables in use stay open.
 #pragma once
 
+#include "platform/run_time/Values.h"
+
 // ---- builds: addresses into `Group_Keys`, `Group_Masks`; `Used` of each row that has a counter of
 // 0 or more grows by one ----
 
@@ -47,3 +49,7 @@ void Remove_Variety_Maridages();
 /// Those of the region, of the cheese: their group link rows alone.
 void Remove_Region_Varieties();
 void Remove_Cheese_Varieties();
+
+/// The serial number of a row that the user brought about, without and with the day.
+Text Serial_of_User(const Text& key);
+Text Dated_Serial_of_User(const Text& key);

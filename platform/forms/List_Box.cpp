@@ -26,6 +26,7 @@ class List_Box_Widget : public List_Widget {
     if (handler == nullptr || !*handler || list_.ListIndex() < 0) {
       List_Widget::keyPressEvent(event);
     } else {
+      End_Word();
       Raise(list_, *handler);
     }
   }

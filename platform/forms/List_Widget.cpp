@@ -62,6 +62,7 @@ QItemSelectionModel::SelectionFlags List_Widget::selectionCommand(const QModelIn
 void List_Widget::mousePressEvent(QMouseEvent* event) {
   clicks_ = 0;
   pressed_ = QModelIndex();
+  search_.End();
   if (event->button() != Qt::LeftButton) return;
   QListView::mousePressEvent(event);
   pressed_ = indexAt(event->position().toPoint());
@@ -110,6 +111,7 @@ void List_Widget::Tell_If_Chosen() {
 
 // The first step goes onto the entry that the focus stands on, which nobody chose yet.
 void List_Widget::keyPressEvent(QKeyEvent* event) {
+  search_.Hear(event->key());
   const bool unchosen = Stands_On_Unchosen();
   if (!unchosen || !Is_Step(*event)) QListView::keyPressEvent(event);
   if (unchosen && (Is_Step(*event) || Is_Leap(*event))) setCurrentIndex(currentIndex());

@@ -22,6 +22,8 @@ class List_Widget : public QListView {
   void keyboardSearch(const QString& typed) override;
 
  protected:
+  /// What is typed next is a new word.
+  void End_Word() { search_.End(); }
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
   void mousePressEvent(QMouseEvent* event) override;

@@ -183,6 +183,7 @@ bool Row_View::Is_Menu_Key(const QKeyEvent& event) {
 }
 
 void Row_View::keyPressEvent(QKeyEvent* event) {
+  search_.Hear(event->key());
   if (Is_Menu_Key(*event)) {
     Offer_Columns(Below_Header());
     return;

@@ -3,6 +3,7 @@
 #include <QAbstractItemModel>
 #include <QApplication>
 #include <algorithm>
+#include <array>
 
 namespace Forms {
 
@@ -45,6 +46,13 @@ bool Is_One_Letter(const QString& word) {
 }
 
 }  // namespace
+
+void Typed_Search::Hear(int key) {
+  constexpr std::array ends{Qt::Key_Return, Qt::Key_Enter,  Qt::Key_Delete,
+                            Qt::Key_Up,     Qt::Key_Down,   Qt::Key_Home,
+                            Qt::Key_End,    Qt::Key_PageUp, Qt::Key_PageDown};
+  if (std::ranges::find(ends, key) != ends.end()) End();
+}
 
 bool Typed_Search::Is_In_A_Word() const {
   return !word_.isEmpty() && since_.isValid() &&

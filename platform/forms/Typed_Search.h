@@ -18,6 +18,10 @@ class Typed_Search {
   int Find(const QString& typed, const QAbstractItemModel& entries, int here, bool here_too);
   /// Whether a word is being typed that goes on with `typed` in some entry.
   bool Goes_On_With(const QString& typed, const QAbstractItemModel& entries) const;
+  /// What is typed next is a new word.
+  void End() { word_.clear(); }
+  /// To be told of every key: one that acts on the entry or moves on ends the word.
+  void Hear(int key);
 
  private:
   bool Is_In_A_Word() const;

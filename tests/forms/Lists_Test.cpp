@@ -237,6 +237,19 @@ TEST_F(Lists_Test, A_handler_may_take_the_entries_away) {
   EXPECT_EQ(Taken(), Log({"List France", "DblClick France"}));
 }
 
+TEST_F(Lists_Test, A_key_that_acts_or_moves_ends_the_word_being_typed) {
+  Forms::List_Box& list = Shown().Cat_List;
+  list.Enter_Pressed = [&] { Lists_Form::log.push_back("Enter " + list.Text()); };
+  list.SetFocus();
+  Type_Anew("gr");
+  Press("Return");
+  Type("fr");
+  Press("Down");
+  Type("ch");
+  EXPECT_EQ(Taken(),
+            Log({"List Greece", "Enter Greece", "List France", "List Greece", "List Chile"}));
+}
+
 TEST_F(Lists_Test, Keys_go_on_where_the_chosen_entry_was_removed) {
   Forms::List_Box& list = Shown().Cat_List;
   list.SetFocus();

@@ -139,8 +139,6 @@ class Wine_Form : public Wine_Screen {
 
   /// The command under which the screen was loaded.
   Text command_;
-  /// The `Wine_ID` of the wine last picked in the list.
-  Integer Selected_Wine_ID = 0;
 
   Forms::Command_Button Winery_Add_Command{*this, "Winery_Add_Command", "Add"};
   Forms::Command_Button Label_Add_Command{*this, "Label_Add_Command", "Add"};

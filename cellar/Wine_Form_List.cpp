@@ -36,22 +36,20 @@ void Wine_Form::Wine_Cellar_ListView_ColumnClick(const Forms::Column_Header& hea
                   "Peak", "Stock"});
 }
 
+// This screen works on keys of 16 bits.
 void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
   if (command_ == "WineAdd") {
     item.Set_Selected(false);
     return;
   }
   Checks_Locked = false;
-  const Integer wine_id = To_Integer(Wine_Key(item));
-  Open_Table(Wines_Recordset, "Wines", "WINE_ID");
-  Wines_Recordset.Seek("=", wine_id);
-  Read_Wines_Record();
+  Selected_Wine_ID = To_Integer(Wine_Key(item));
+  Seek_Wine();
   Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
   Wineries_Recordset.Seek("=", Wines.Winery_ID);
   Read_Wineries_Record();
   Close_Table(Wines_Recordset);
   item.Set_Selected(true);
-  Selected_Wine_ID = wine_id;
   if (command_ == "WineMod") Picked_for_Mod();
   if (command_ == "CellarView" || command_ == "CheeseParingsCellar") Picked_for_View();
   if (command_ == "WineUncork") Picked_for_Uncork();

@@ -94,7 +94,10 @@ void Cellar_Names_Form::Set_Commands_Multiple_Cellars() {
   Show_Named_Cellars(Cellar1_Name_Text.Text(), Cellar2_Name_Text.Text());
 }
 
+// The main window, where another screen hid it, comes back with that one: two screens that work on
+// the same memory records are never open at once.
 void Cellar_Names_Form::Leave() {
+  const bool beside_main_window = Forms::Screen("Wine_Cellar_Form").Visible();
   Unload();
-  Forms::Screen("Wine_Cellar_Form").Show();
+  if (beside_main_window) Forms::Screen("Wine_Cellar_Form").Show();
 }

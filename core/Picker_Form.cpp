@@ -59,6 +59,15 @@ void Picker_Form::Choose_Those_of(const char* screen, const char* list, const ch
   }
 }
 
+// The list on the wine's screen is the selection; the keys beside it may be older.
+void Picker_Form::Choose_Pairings_of_Wine() {
+  if (!Screen("Wine_Form").Is_Loaded()) return;
+  const auto& pairings = Screen("Wine_Form").Get<Forms::List_Box>("Pairing_List");
+  for (int pairing = 1; pairing <= pairings.ListCount(); ++pairing) {
+    Choose({pairings.List(pairing - 1), Selected_IDs[pairing]});
+  }
+}
+
 bool Picker_Form::Is_Chosen(const Entry& entry) const {
   for (int place = 0; place < SelectList.ListCount(); ++place) {
     if (Trim(SelectList.List(place)) == Trim(entry.text)) return true;

@@ -42,6 +42,8 @@ class Picker_Form : public Forms::Form {
 
   void Clear_Chosen();
   void Choose(const Entry& entry);
+  /// The pairings of the wine on the wine screen, where that is loaded.
+  void Choose_Pairings_of_Wine();
   /// Those of two lists in step on another screen, where that is loaded.
   void Choose_Those_of(const char* screen, const char* list, const char* keys);
 

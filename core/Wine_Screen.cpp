@@ -159,13 +159,13 @@ Text Wine_Screen::Wine_Key(const Forms::List_Item& item) { return item.SubItems(
 
 // ---- the writes ----
 
-void Wine_Screen::Seek_Wine() {
+void Wine_Screen::Seek_Wine() const {
   Open_Table(Wines_Recordset, "Wines", "Wine_ID");
-  Wines_Recordset.Seek("=", Wines.Wine_ID);
+  Wines_Recordset.Seek("=", Selected_Wine_ID);
   Read_Wines_Record();
 }
 
-// Filling the list reads other wines into the memory record: the key is kept apart.
+// Filling the list reads other wines into the memory record.
 void Wine_Screen::Uncork_Wine() {
   Seek_Wine();
   Wines.Total_Bottles = To_Integer(static_cast<double>(Wines.Total_Bottles - 1));
@@ -173,7 +173,6 @@ void Wine_Screen::Uncork_Wine() {
   Wines_Recordset.Edit();
   Write_Wines_Record();
   Close_Table(Wines_Recordset);
-  const Long wine_id = Wines.Wine_ID;
   Forms::Message_Box("Your Wine Cellar was updated. This bottle of Wine was marked as Uncorked",
                      "WINE UNCORKED");
   Total_Bottles_Text.Set_Text(To_Text(Wines.Total_Bottles));
@@ -183,10 +182,9 @@ void Wine_Screen::Uncork_Wine() {
   }
   Last_Date_Uncorked_Text.Set_Text(To_Text(Wines.Last_Date_Uncorked));
   Fill_Wine_List();
-  if (std::optional<Forms::List_Item> item = Item_of_Wine(To_Text(wine_id))) {
+  if (std::optional<Forms::List_Item> item = Item_of_Wine(To_Text(Selected_Wine_ID))) {
     item->Set_Selected(true);
     item->EnsureVisible();
   }
-  Wines.Wine_ID = wine_id;
   Seek_Wine();
 }

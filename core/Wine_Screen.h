@@ -70,8 +70,11 @@ class Wine_Screen : public Forms::Form {
 
   // ---- the writes ----
 
-  /// Leaves `Wines` open on the row of the wine in the memory record. 3021 where it has gone.
-  static void Seek_Wine();
+  /// The wine that was picked last in the list, whatever the memory record holds meanwhile.
+  Long Selected_Wine_ID = 0;
+  /// Leaves `Wines` open on the row of the picked wine, and that in the memory record. 3021 where
+  /// it has gone.
+  void Seek_Wine() const;
   /// One bottle less, at this moment; the wine stays the one on show and in the memory record.
   void Uncork_Wine();
 

@@ -37,6 +37,11 @@ Cate_Add_Form::Cate_Add_Form()
     : Form("Cate_Add_Form", "Add New Categories or Menu Themes"), command_(Current_Command) {
   Lay_Out();
   CatText.Change = [this] { CatText_Change(); };
+  for (Forms::Text_Box* box : {&CatText, &CAT_Other_Language_Text}) {
+    box->Enter_Pressed = [this] {
+      if (Cat_Add_Now.Enabled()) Cat_Add_Now_Click();
+    };
+  }
   Maridages_ListView.ColumnClick = [this](const Forms::Column_Header& header) {
     Maridages_ListView_ColumnClick(header);
   };
@@ -182,7 +187,8 @@ void Cate_Add_Form::Cat_Add_Now_Click() {
   if (command_ == "MaridageMod") Modify_Maridage();
 }
 
-// The answer about a double changes nothing: the user goes on typing in either case.
+// The answer about a double changes nothing: the user goes on with the next name in either case,
+// and what was typed stays until then.
 void Cate_Add_Form::Add_Maridage() {
   New_Maridage_Text = CatText.Text();
   if (Trim(CAT_Other_Language_Text.Text()).empty()) {
@@ -202,6 +208,8 @@ void Cate_Add_Form::Add_Maridage() {
     Forms::Ask_Yes_No(Words.At(double_line_1) + "\r" + Words.At(double_line_2),
                       Words.At(double_title));
   }
+  CatText.SetFocus();
+  CatText.Select_All();
 }
 
 // 3021 where nothing was picked, or what was picked has gone.

@@ -7,11 +7,13 @@ Select_Mult_Form::Select_Mult_Form(std::string_view name, std::string_view capti
                                    const Form_Words& words)
     : List_Picker_Form(name, caption), Words(words) {
   using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
-  Set_Content(Column({Row({MSelectLab3, Recipe_Name, MSelectLab2, Stretch()}),
-                      Row({Under_Heading(MSelectLab1, Cat_Number, Cat_List).Grow(), Moves_Place(),
-                           Under_Heading(Label1, Selected_Number, SelectList).Grow()})
-                          .Grow(),
-                      Ways_Out_Place()}));
+  constexpr int list_width = 54;
+  Set_Content(Column(
+      {Row({MSelectLab3, Recipe_Name, MSelectLab2, Stretch()}),
+       Row({Under_Heading(MSelectLab1, Cat_Number, Cat_List, list_width).Grow(), Moves_Place(),
+            Under_Heading(Label1, Selected_Number, SelectList, list_width).Grow()})
+           .Grow(),
+       Ways_Out_Place()}));
 }
 
 void Select_Mult_Form::Initialize_Language() {

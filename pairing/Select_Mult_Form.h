@@ -13,7 +13,7 @@ class Select_Mult_Form : public List_Picker_Form {
 
   /// The captions and tips in the language in force.
   void Initialize_Language();
-  /// While the list loads, what cannot be used yet is out of sight.
+  /// While the list loads, which is before the window is seen, only the request to wait shows.
   void Hide_All_Visible();
   void Turn_Boxes_On();
   /// Whose list this is.

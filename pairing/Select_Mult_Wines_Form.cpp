@@ -76,6 +76,7 @@ void Select_Mult_Wines_Form::Form_Load() {
   Clear_Busqueda();
   Clear_Mobile_Wine_List();
   Country_Combo_Click();
+  Mobile_Wines_ListView.SetFocus();
   if (command_ == "CheeseMod") {
     Choose_Those_of("Cheeses_Form", "Wine_Parings_List", "Wine_Parings_Index_List");
   }
@@ -194,7 +195,6 @@ void Select_Mult_Wines_Form::Display_Mobile_Wine_Listview(Text condition) {
   Close_Table(Mobile_Wines_Query);
   Close_Table(Varieties_Recordset);
   Wines_Number.Set_Caption(To_Text(Mobile_Wines_ListView.Count()));
-  Mobile_Wines_ListView.SetFocus();
 }
 
 void Select_Mult_Wines_Form::Add_Wine() {

@@ -105,15 +105,6 @@ void Select_Maridages_for_Wines_Form::Load_Chosen() {
   }
 }
 
-// The list on the wine's screen is the selection; the keys beside it may be older.
-void Select_Maridages_for_Wines_Form::Choose_Pairings_of_Wine() {
-  if (!Screen("Wine_Form").Is_Loaded()) return;
-  const auto& pairings = Screen("Wine_Form").Get<Forms::List_Box>("Pairing_List");
-  for (int pairing = 1; pairing <= pairings.ListCount(); ++pairing) {
-    Choose({pairings.List(pairing - 1), Selected_IDs[pairing]});
-  }
-}
-
 // ---- what can be chosen ----
 
 void Select_Maridages_for_Wines_Form::Selection_Option_List_Click() {
@@ -129,13 +120,11 @@ void Select_Maridages_for_Wines_Form::Selection_Option_List_Click() {
 
 void Select_Maridages_for_Wines_Form::Load_from_Query(const char* condition, const char* caption) {
   Pairings_Label.Set_Caption(caption);
+  const Text name = Language_Name_From_Number(System_Language);
   Candidate_Lines.Clear();
-  Open_Query(Maridages_Recordset, Text("SELECT * FROM Maridages") + condition + " ORDER BY " +
-                                      Language_Name_From_Number(System_Language));
-  for (; !Maridages_Recordset.Eof(); Maridages_Recordset.MoveNext()) {
-    Candidate_Lines.Add(Maridages_Recordset.Fields(System_Language + 2).As_Text(),
-                        Maridages_Recordset.Fields("Maridage_ID").As_Text());
-  }
+  Open_Query(Maridages_Recordset,
+             Text("SELECT * FROM Maridages") + condition + " ORDER BY " + name);
+  Candidate_Lines.Add_Rows(Maridages_Recordset, name, "Maridage_ID");
   Close_Table(Maridages_Recordset);
   Show_Candidates();
 }

@@ -24,7 +24,6 @@ class Select_Maridages_for_Wines_Form : public List_Picker_Form {
   void Load_Options();
   void Add_Grapes_of(const char* wine_screen, const char* behind_name);
   void Load_Chosen();
-  void Choose_Pairings_of_Wine();
   void Selection_Option_List_Click();
   void Load_from_Query(const char* condition, const char* caption);
   void Load_Suggestions();

@@ -123,7 +123,7 @@ void Wine_Search_Results_Form::Wine_Cellar_ListView_ColumnClick(
 // The focus goes back to the list, for the next wine.
 void Wine_Search_Results_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
   Checks_Locked = false;
-  Wines.Wine_ID = To_Long(Wine_Key(item));
+  Selected_Wine_ID = To_Long(Wine_Key(item));
   Seek_Wine();
   Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
   Read_Winery_of_Wine();
@@ -144,7 +144,11 @@ void Wine_Search_Results_Form::Variety_Combo_ItemCheck(int item) {
   Variety_Combo.Set_Selected(item, !Variety_Combo.Selected(item));
 }
 
-void Wine_Search_Results_Form::Multi_Functional_Command_Click() { Uncork_Wine(); }
+// The button may have closed by it: the focus is in the list, not on the way out.
+void Wine_Search_Results_Form::Multi_Functional_Command_Click() {
+  Uncork_Wine();
+  Wine_Cellar_ListView.SetFocus();
+}
 
 void Wine_Search_Results_Form::Exit_Command_Click() {
   Unload();

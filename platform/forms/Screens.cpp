@@ -71,10 +71,13 @@ bool Any_Window_Visible() {
   return false;
 }
 
+// Only a dialog is kept above the window that it belongs to.
 void Make_Wait(Form& caller, Form& picker) {
   Focus_Watch::The().Forget(caller);
   ++caller.Data().waiting_for;
   picker.Data().caller = &caller;
+  picker.Window()->setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                  Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
   picker.Window()->setWindowModality(Qt::WindowModal);
   picker.Window()->winId();
   picker.Window()->windowHandle()->setTransientParent(caller.Window()->windowHandle());
@@ -82,13 +85,16 @@ void Make_Wait(Form& caller, Form& picker) {
 
 }  // namespace
 
+// What was opened over a form goes with it.
 void Bury(Form& form) {
   Registry& registry = The_Registry();
+  std::vector<Form*> opened_over;
   for (auto& [name, entry] : registry.entries) {
     if (entry.form != nullptr && entry.form->Data().caller == &form) {
-      entry.form->Data().caller = nullptr;
+      opened_over.push_back(entry.form.get());
     }
   }
+  for (Form* picker : opened_over) picker->Unload();
   Entry* entry = Find(form.Name());
   if (entry == nullptr || entry->form.get() != &form) return;
   registry.buried.push_back(std::move(entry->form));

@@ -24,7 +24,8 @@ class Screen {
 
   /// Loads it anew and shows it: an instance left behind is unloaded first.
   void Open() const;
-  /// As Open, with `caller` waiting: that one takes no input as long as this screen is shown.
+  /// As Open, with `caller` waiting: that one takes no input as long as this screen is shown, stays
+  /// below it, and takes it along when it is unloaded.
   void Open_Over(Form& caller) const;
   /// Shows the screen as it waits behind; loads it if it is not loaded.
   void Show() const;

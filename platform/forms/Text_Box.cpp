@@ -16,6 +16,7 @@ Text_Box::Text_Box(Form& form, std::string_view name, Lines lines)
     line->setFixedHeight(line->sizeHint().height());
     QObject::connect(line, &QLineEdit::textChanged,
                      [this](const QString& text) { Take_Over(From_Qt(text)); });
+    QObject::connect(line, &QLineEdit::returnPressed, [this] { Raise(*this, Enter_Pressed); });
     Set_Widget(line);
     return;
   }
@@ -52,6 +53,14 @@ void Text_Box::Set_Text(std::string_view text) {
     }
   }
   if (Change) Change();
+}
+
+void Text_Box::Select_All() {
+  if (lines_ == Lines::One) {
+    static_cast<QLineEdit*>(Widget())->selectAll();
+  } else {
+    static_cast<QPlainTextEdit*>(Widget())->selectAll();
+  }
 }
 
 void Text_Box::Raise_Lost_Focus() {

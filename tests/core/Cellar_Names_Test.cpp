@@ -98,6 +98,22 @@ TEST_F(Cellar_Names, Names_are_stored_and_the_menu_follows_at_once_and_after_a_r
   }
 }
 
+TEST_F(Cellar_Names, The_main_window_comes_back_with_the_screen_that_hid_it) {
+  const Box_Script boxes;
+  Name_Cellars("Home", "Office");
+  Pick("Cellar_Mod");
+  Forms::Screens::Register("Wine_Form",
+                           [] { return std::make_unique<Forms::Form>("Wine_Form", "Wines"); });
+  Pick("Wine_Add");
+  EXPECT_FALSE(Is_Seen("Wine_Cellar_Form"));
+  Click("Cellar_Names_Form/Exit_Command");
+  EXPECT_FALSE(Forms::Screen("Cellar_Names_Form").Is_Loaded());
+  EXPECT_FALSE(Is_Seen("Wine_Cellar_Form"));
+  Close_Window("Wine_Form");
+  EXPECT_TRUE(Is_Seen("Wine_Cellar_Form"));
+  Forms::Screens::Register("Wine_Form", {});
+}
+
 TEST_F(Cellar_Names, A_change_of_names_opens_the_button_when_both_boxes_have_changed) {
   Box_Script boxes;
   Name_Cellars("Home", "Office");

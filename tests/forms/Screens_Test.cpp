@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QWidget>
+#include <QWindow>
 
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Guard.h"
@@ -183,6 +184,19 @@ TEST_F(Screens_Test, A_picker_makes_its_caller_wait) {
   EXPECT_THAT(Taken(),
               testing::UnorderedElementsAre("Picker_Form Unload", "Picker_Form after Unload",
                                             "Wine_Form Activate", "Picker_Form gone"));
+  Click("Wine_Form/Exit_Command");
+  EXPECT_FALSE(Screen("Wine_Form").Is_Loaded());
+}
+
+TEST_F(Screens_Test, A_picker_stays_above_its_caller_and_goes_with_it) {
+  Open("Wine_Form");
+  Type("p");
+  EXPECT_TRUE(Wait_Until([] { return Find("Picker_Form").isActiveWindow(); }));
+  EXPECT_TRUE((Find("Picker_Form").windowFlags() & Qt::WindowType_Mask) == Qt::Dialog);
+  EXPECT_EQ(Find("Picker_Form").windowHandle()->transientParent(),
+            Find("Wine_Form").windowHandle());
+  Open("Wine_Form");
+  EXPECT_FALSE(Screen("Picker_Form").Is_Loaded());
   Click("Wine_Form/Exit_Command");
   EXPECT_FALSE(Screen("Wine_Form").Is_Loaded());
 }

@@ -61,6 +61,10 @@ TEST_F(Catalogue_Changes, An_addition_is_stored_whole_and_comes_into_the_list) {
   EXPECT_TRUE(Last_Row_Is_In_Sight());
   EXPECT_THAT(Boxes(), ElementsAre("Pie, é la crème", "Pastel"));
   EXPECT_TRUE(Is_Usable("Cat_Add_Now"));
+  Type("Tart");
+  Press("Return");
+  EXPECT_THAT(Boxes(), ElementsAre("Tart", "Pastel"));
+  EXPECT_EQ(Column(0).back(), "Tart");
   Click("Cat_Add_Cancel");
   Pick("Pairing_Search_Cellar");
   Add("Pie, é la crème");

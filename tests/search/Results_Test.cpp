@@ -235,6 +235,7 @@ TEST_F(Search_Results, A_bottle_uncorked_is_stored_and_the_list_goes_by_the_pair
   EXPECT_EQ(Shown_Text("Total_Bottles_Text"), "0");
   EXPECT_TRUE(Says_Required("Total_Bottles_Text"));
   EXPECT_FALSE(Is_Usable(button));
+  EXPECT_EQ(Focused(), list);
   EXPECT_THAT(Shown_Rows(list).at(1), testing::EndsWith(" | 0 | " + To_Text(wine)));
   Pick_Wine(not_asked);
   EXPECT_FALSE(Says_Required("Total_Bottles_Text"));

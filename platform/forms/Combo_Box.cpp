@@ -27,11 +27,8 @@ class Combo_Widget : public QComboBox {
   Combo_Widget(QWidget* parent, Combo_Box& combo) : QComboBox(parent), combo_(combo) {
     setFocusPolicy(Qt::StrongFocus);
     setMaxVisibleItems(entries_at_once);
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     // Without it the toolkit would choose the first entry by itself.
     setPlaceholderText(" ");
-    // The list behind the box measures its entries at each change of look, shown or not.
-    if (auto* list = qobject_cast<QListView*>(view())) list->setUniformItemSizes(true);
   }
 
   // The toolkit asks every entry for its icon to know the box's size.
@@ -46,6 +43,7 @@ class Combo_Widget : public QComboBox {
 
   void showPopup() override {
     if (combo_.Locked() || count() == 0) return;
+    Make_List();
     view()->window()->installEventFilter(this);
     QComboBox::showPopup();
   }
@@ -61,6 +59,16 @@ class Combo_Widget : public QComboBox {
   }
 
  protected:
+  // The toolkit would make a list only to change its look.
+  void changeEvent(QEvent* event) override {
+    if (findChild<QListView*>() == nullptr) {
+      QWidget::changeEvent(event);
+    } else {
+      Make_List();
+      QComboBox::changeEvent(event);
+    }
+  }
+
   void mousePressEvent(QMouseEvent* event) override {
     if (!combo_.Locked()) QComboBox::mousePressEvent(event);
   }
@@ -82,6 +90,7 @@ class Combo_Widget : public QComboBox {
     if (event->matches(QKeySequence::Copy)) {
       QApplication::clipboard()->setText(currentText());
     } else if (!combo_.Locked() || Moves_On(*event)) {
+      if (!combo_.Locked()) Make_List();
       QComboBox::keyPressEvent(event);
     } else {
       event->ignore();
@@ -89,6 +98,12 @@ class Combo_Widget : public QComboBox {
   }
 
  private:
+  // The list behind the box is made when it is first needed, which in most boxes it never is. It
+  // measures its entries at each change of look, shown or not.
+  void Make_List() {
+    if (auto* list = qobject_cast<QListView*>(view())) list->setUniformItemSizes(true);
+  }
+
   Combo_Box& combo_;
 };
 

@@ -7,6 +7,7 @@
 #include "platform/forms/Command_Button.h"
 #include "platform/forms/Focus.h"
 #include "platform/forms/Form_Data.h"
+#include "platform/forms/Later.h"
 #include "platform/forms/Layout_Building.h"
 #include "platform/forms/Menu.h"
 #include "platform/forms/Qt_Text.h"
@@ -83,6 +84,7 @@ void Form::Show() {
   const bool first_time = !std::exchange(data_->was_shown, true);
   if (first_time) {
     Assign_Mnemonics(*this);
+    Show_Now();  // what changes on a window in sight is laid out and painted twice
     Fit_To_Desktop(*data_->window, data_->opening_width);
     Focus_First(*data_);
   }

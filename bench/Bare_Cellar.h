@@ -35,25 +35,39 @@ class Text_Table : public QAbstractTableModel {
   }
 };
 
-/// Calls `visit(row of texts)` for each wine of the cellar.
+inline constexpr const char* question =
+    "SELECT Vintage, Winery_Name, Label, Region, Variety, Color, Ranking, Peak, Total_Bottles, "
+    "Wine_ID FROM Wines JOIN Wineries ON Wineries.Winery_ID=Wines.Winery_ID";
+
+/// Calls `visit(row of texts)` for each wine of the question, whose values are bound.
 template <class Visit>
-void Each_Wine(const Bare_Engine& engine, int cellar, const Visit& visit) {
-  const auto wines = engine.Prepare(
-      "SELECT Vintage, Winery_Name, Label, Region, Variety, Color, Ranking, Peak, Total_Bottles, "
-      "Wine_ID FROM Wines JOIN Wineries ON Wineries.Winery_ID=Wines.Winery_ID "
-      "WHERE Cellar_ID=? ORDER BY Wine_ID");
-  sqlite3_bind_int(wines.get(), 1, cellar);
-  while (sqlite3_step(wines.get()) == SQLITE_ROW) {
+void Each_Row(sqlite3_stmt* wines, const Visit& visit) {
+  while (sqlite3_step(wines) == SQLITE_ROW) {
     std::vector<QString> row;
     row.reserve(columns);
     for (int column = 0; column < columns; ++column) {
-      const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(wines.get(), column));
-      row.push_back(QString::fromUtf8(text, sqlite3_column_bytes(wines.get(), column)));
+      const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(wines, column));
+      row.push_back(QString::fromUtf8(text, sqlite3_column_bytes(wines, column)));
     }
     if (row[2] == "x") row[2].clear();
     if (row[6] == "-1") row[6].clear();
     visit(std::move(row));
   }
+}
+
+/// The same for each wine of the cellar.
+template <class Visit>
+void Each_Wine(const Bare_Engine& engine, int cellar, const Visit& visit) {
+  const auto wines =
+      engine.Prepare((std::string(question) + " WHERE Cellar_ID=? ORDER BY Wine_ID").c_str());
+  sqlite3_bind_int(wines.get(), 1, cellar);
+  Each_Row(wines.get(), visit);
+}
+
+inline void Append(QStandardItemModel& items, const Text_Table::Row& row) {
+  QList<QStandardItem*> line;
+  for (const QString& text : row) line.append(new QStandardItem(text));
+  items.appendRow(line);
 }
 
 inline std::unique_ptr<QAbstractItemModel> Filled(Model kind, const Bare_Engine& engine,
@@ -64,18 +78,16 @@ inline std::unique_ptr<QAbstractItemModel> Filled(Model kind, const Bare_Engine&
     return texts;
   }
   auto items = std::make_unique<QStandardItemModel>(0, columns);
-  Each_Wine(engine, cellar, [&](const Text_Table::Row& row) {
-    QList<QStandardItem*> line;
-    for (const QString& text : row) line.append(new QStandardItem(text));
-    items->appendRow(line);
-  });
+  Each_Wine(engine, cellar, [&](const Text_Table::Row& row) { Append(*items, row); });
   return items;
 }
 
 /// A window with nothing but the list, shown.
 class Screen {
  public:
-  Screen(Model kind, const Bare_Engine& engine, int cellar) : model_(Filled(kind, engine, cellar)) {
+  Screen(Model kind, const Bare_Engine& engine, int cellar)
+      : Screen(Filled(kind, engine, cellar)) {}
+  explicit Screen(std::unique_ptr<QAbstractItemModel> model) : model_(std::move(model)) {
     list_.setObjectName(list_name);
     list_.setRootIsDecorated(false);
     list_.setUniformRowHeights(true);

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "bench/Paired_Wines.h"
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
 #include "core/tables/Catalogue.h"
@@ -120,6 +121,7 @@ class Filler {
   Filler();
   void Add_Wineries(int wanted);
   void Add_Wines(const Cellar_Size& size);
+  const std::vector<Long>& Wines_Added() const { return added_; }
 
  private:
   void Read_Regions();
@@ -145,6 +147,7 @@ class Filler {
   std::map<Text, std::vector<Text>> classes_;  // by country
   std::vector<Winery> wineries_;
   std::vector<const Choice*> grapes_;  // of the wine under way
+  std::vector<Long> added_;            // the keys of the wines
 };
 
 Filler::Filler() {
@@ -255,6 +258,7 @@ void Filler::Add_Wine(Integer cellar) {
   Wines_Recordset.AddNew();
   const Long wine = Wines_Recordset["Wine_ID"].As_Long();
   Write_Wines_Record();
+  added_.push_back(wine);
   Add_Links(wine);
 }
 
@@ -344,6 +348,7 @@ void Make_Large_Cellar(const std::string& folder, const Cellar_Size& size) {
     Filler filler;
     filler.Add_Wineries(size.wineries);
     filler.Add_Wines(size);
+    Pair_Wines(filler.Wines_Added(), size.pairings);
   }
   Wine_Cellar_DB->Commit();
   Wine_Cellar_DB.reset();

@@ -1,6 +1,7 @@
 // When a list of a certain name has been painted with all its rows, and clicks on it.
 #pragma once
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QEvent>
 #include <QHeaderView>
@@ -18,7 +19,7 @@ class Paint_Watch : public QObject {
 
   bool eventFilter(QObject* object, QEvent* event) override {
     if (event->type() != QEvent::Paint) return false;
-    const auto* view = qobject_cast<QTreeView*>(object->parent());
+    const auto* view = qobject_cast<QAbstractItemView*>(object->parent());
     painted_ = painted_ || (view != nullptr && view->viewport() == object &&
                             view->objectName() == list_ && view->model()->rowCount() == rows_);
     return false;

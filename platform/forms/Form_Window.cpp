@@ -9,6 +9,7 @@
 #include "platform/forms/Handlers.h"
 #include "platform/forms/Menu.h"
 #include "platform/forms/Mnemonics.h"
+#include "platform/forms/Screens_Inside.h"
 
 namespace Forms {
 
@@ -54,7 +55,10 @@ void Assign_Mnemonics(Form& form) {
 }
 
 bool Form_Window::event(QEvent* event) {
-  if (event->type() == QEvent::WindowActivate) Focus_Watch::The().Came_To_Front(form_);
+  if (event->type() == QEvent::WindowActivate) {
+    Focus_Watch::The().Came_To_Front(form_);
+    Pass_Focus_On(form_);
+  }
   return QMainWindow::event(event);
 }
 

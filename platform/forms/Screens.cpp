@@ -83,18 +83,26 @@ void Make_Wait(Form& caller, Form& picker) {
   picker.Window()->windowHandle()->setTransientParent(caller.Window()->windowHandle());
 }
 
+std::vector<Form*> Opened_Over(const Form& caller) {
+  std::vector<Form*> pickers;
+  for (auto& [name, entry] : The_Registry().entries) {
+    if (entry.form != nullptr && entry.form->Data().caller == &caller) {
+      pickers.push_back(entry.form.get());
+    }
+  }
+  return pickers;
+}
+
 }  // namespace
+
+void Pass_Focus_On(const Form& waiting) {
+  for (Form* picker : Opened_Over(waiting)) picker->Window()->activateWindow();
+}
 
 // What was opened over a form goes with it.
 void Bury(Form& form) {
   Registry& registry = The_Registry();
-  std::vector<Form*> opened_over;
-  for (auto& [name, entry] : registry.entries) {
-    if (entry.form != nullptr && entry.form->Data().caller == &form) {
-      opened_over.push_back(entry.form.get());
-    }
-  }
-  for (Form* picker : opened_over) picker->Unload();
+  for (Form* picker : Opened_Over(form)) picker->Unload();
   Entry* entry = Find(form.Name());
   if (entry == nullptr || entry->form.get() != &form) return;
   registry.buried.push_back(std::move(entry->form));

@@ -7,6 +7,8 @@ class Form;
 
 /// Takes an unloaded form out of the registry; it is destroyed when no handler runs any more.
 void Bury(Form& form);
+/// Where a form waits: brings what was opened over it to the front, which takes the keys.
+void Pass_Focus_On(const Form& waiting);
 /// The end of an outermost handler: with no window visible, the main screen is shown.
 void Settle_Screens();
 

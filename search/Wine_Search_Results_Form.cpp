@@ -20,7 +20,7 @@ void Read_Winery_of_Wine() {
 }  // namespace
 
 Wine_Search_Results_Form::Wine_Search_Results_Form()
-    : Wine_Screen("Wine_Search_Results_Form", "Wine Information", {8, 24, 20, 16, 23, 9, 7, 7, 7}),
+    : Wine_Screen("Wine_Search_Results_Form", "Wine Information", {8, 22, 18, 14, 20, 9, 7, 7, 7}),
       command_(Current_Command) {
   Lay_Out();
   Wine_Cellar_ListView.ItemClick = [this](Forms::List_Item item) {

@@ -62,6 +62,7 @@ class Combo_Widget : public QComboBox {
   // The toolkit would make a list only to change its look.
   void changeEvent(QEvent* event) override {
     if (findChild<QListView*>() == nullptr) {
+      // NOLINTNEXTLINE(bugprone-parent-virtual-call): that of the box itself makes the list
       QWidget::changeEvent(event);
     } else {
       Make_List();

@@ -310,7 +310,7 @@ TEST_F(Cellar_Commit, Uncorking_takes_bottle_by_bottle_down_to_none) {
   Pick_Wine(2);
   for (const Text left : {"1", "0"}) {
     now_.seconds += 61;
-    Wines.Wine_ID = 1;  // another screen read another wine
+    Wines.Wine_ID = 1;            // another screen read another wine
     Click("Total_Bottles_Text");  // looked at, and left again
     Commit("WINE UNCORKED",
            "Your Wine Cellar was updated. This bottle of Wine was marked as Uncorked");

@@ -129,7 +129,7 @@ TEST_F(Link_Store, The_last_pairing_read_decides_about_the_cheese_of_a_cellar_wi
   Remove_All("Cheeses_Per_Wines");
   Remove_All("Wines_Per_Cheeses");
   const auto both = [] {
-    const Lines pairs = Cheese_Pairs("Cheeses_Per_Wines", "Wine_ID");
+    Lines pairs = Cheese_Pairs("Cheeses_Per_Wines", "Wine_ID");
     EXPECT_EQ(pairs, Cheese_Pairs("Wines_Per_Cheeses", "Wine_ID"));
     return pairs;
   };

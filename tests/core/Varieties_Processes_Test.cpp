@@ -124,7 +124,8 @@ TEST_F(Varieties_of_Region, Every_region_has_the_grapes_of_its_link_rows_in_thei
   Start();
   std::vector<Text> decoded;
   for (const Text& region : Stored("SELECT Region_ID FROM Regions ORDER BY Region_ID", 1)) {
-    for (const Text& grape : Decode(To_Long(region))) decoded.push_back(region + "|" + grape);
+    for (const Text& grape : Decode(To_Long(region)))
+      decoded.push_back(Text(region).append("|").append(grape));
   }
   EXPECT_GT(decoded.size(), 1000U);
   EXPECT_EQ(decoded, Stored("SELECT l.Region_ID, v.Variety_ID, v.Variety_Name, v.Variety_Color "

@@ -18,7 +18,7 @@ class Lists_Form : public Forms::Form {
  public:
   Lists_Form() : Form("Lists_Form", "Lists") {
     Country_Combo.Click = [this] { log.push_back("Combo " + Country_Combo.Text()); };
-    Country_Combo.DblClick = [this] { log.push_back("Combo DblClick"); };
+    Country_Combo.DblClick = [] { log.push_back("Combo DblClick"); };
     Cat_List.Click = [this] { Note("List " + Cat_List.Text(), on_click); };
     Cat_List.DblClick = [this] { Note("DblClick " + Cat_List.Text(), on_second); };
     Variety_Combo.Click = [this] { log.push_back("Checks " + Variety_Combo.Text()); };

@@ -207,7 +207,8 @@ TEST_F(Catalogue_Changes, A_change_writes_sixty_characters_of_two_names_and_noth
   for (const auto& [language, expected] :
        {std::pair<Integer, Text>{english, long_name + "|Two|Pie fr|Pie de|Pie it|Pie ja|Pie pt"},
         {spanish, "Two|" + long_name + "|Pie fr|Pie de|Pie it|Pie ja|Pie pt"},
-        {french, "Two|" + long_name + "|" + long_name + "|Pie de|Pie it|Pie ja|Pie pt"}}) {
+        {french, Text("Two|").append(long_name).append("|").append(long_name).append(
+                     "|Pie de|Pie it|Pie ja|Pie pt")}}) {
     Open("Pairing_Mod", language);
     Click_Pairing(first_cell);
     Type_Names({long_name + cut, "Two"});

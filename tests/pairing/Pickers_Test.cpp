@@ -32,11 +32,10 @@ TEST_F(Pickers, The_pairings_in_the_order_of_the_language_and_their_number) {
     Add(expected[40]);
     Box_Script boxes;
     Click("MultSelect");
-    EXPECT_EQ(Handed_Over(), Stored("SELECT " + field +
-                                        " || '|' || Maridage_ID FROM Maridages "
-                                        "WHERE " +
-                                        field + " = '" + expected[40] + "'",
-                                    1));
+    Text statement = "SELECT ";
+    statement.append(field).append(" || '|' || Maridage_ID FROM Maridages WHERE ");
+    statement.append(field).append(" = '").append(expected[40]).append("'");
+    EXPECT_EQ(Handed_Over(), Stored(statement, 1));
     Stop();
   }
 }

@@ -218,7 +218,8 @@ TEST(Line_Reports, More_Than_The_Screens_Arrays_Hold) {
     words += "Wine_Form\tLabel_" + std::to_string(i) + "\tCap\ta\tb\tc\td\te\tf\tg\n";
   for (int i = 0; i < 20; ++i) {
     const std::string name = "Z" + std::to_string(i);
-    countries += name + "\t" + name + "\ta\tb\tc\td\te\tf\tEnglish\t3\tN\t0\tx\tx\tx\n";
+    countries.append(name).append("\t").append(name);
+    countries.append("\ta\tb\tc\td\te\tf\tEnglish\t3\tN\t0\tx\tx\tx\n");
   }
   small.Append("words.tsv", words);
   small.Append("countries.tsv", countries);

@@ -7,8 +7,7 @@
 
 #include "core/Keyed_List.h"
 
-// ---- pairings, into `Decoded_Maridages`; the link table and `Maridages` are open, and stay so
-// ----
+// ---- pairings, into `Decoded_Maridages`; the tables are open before and after ----
 
 /// The walk goes on behind the group's end, where a subgroup is missing: what has this subgroup
 /// there is taken, and behind the last row of the table it is failure 3021. A group without rows is
@@ -19,8 +18,8 @@ void Load_Maridages_of_Variety();
 /// Into `Decoded_Cheese_Maridages`.
 void Load_Maridages_of_Cheese();
 
-// ---- the same for screens: opens and closes the tables, fills the lists, in the language in
-// force, and the selection with the result ----
+// ---- the same for screens: into two lists, in the language in force, and as the selection; these
+// open and close the tables ----
 
 void Fill_Lists_with_Wine_Maridages(const Keyed_List& lists);
 void Fill_Lists_with_Variety_Maridages(const Keyed_List& lists);
@@ -29,8 +28,8 @@ void Fill_Lists_with_Cheese_Maridages(const Keyed_List& lists);
 /// Whether the wine in the memory record has pairings.
 bool Wine_Has_Maridages();
 
-// ---- into `Decoded_Items`; they open and close the tables they need, and leave the row read last
-// in the memory record ----
+// ---- into `Decoded_Items`; these open and close the tables, and leave the row read last in the
+// memory record ----
 
 /// The varieties of the region; the memory record of `Varieties` holds the first one of the last
 /// link row's group afterwards. What a group does not hold is left out.

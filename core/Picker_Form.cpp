@@ -92,6 +92,7 @@ void Picker_Form::Add_Command_Click() {
     return;
   }
   Choose(*entry);
+  SelectList.EnsureVisible(SelectList.ListCount() - 1);
 }
 
 void Picker_Form::Remove_Command_Click() {

@@ -50,6 +50,12 @@ List_Box::List_Box(Form& form, std::string_view name) : Item_List(form, name) {
 
 List_Box::~List_Box() = default;
 
+void List_Box::EnsureVisible(int index) {
+  if (index < 0 || index >= ListCount()) Fail(Failure::Invalid_Property_Array_Index);
+  auto* view = static_cast<List_Widget*>(Widget());
+  view->scrollTo(view->model()->index(index, 0));
+}
+
 void List_Box::Show_List_Index() { static_cast<List_Widget*>(Widget())->Show_Index(ListIndex()); }
 
 Check_List::Check_List(Form& form, std::string_view name) : Item_List(form, name) {

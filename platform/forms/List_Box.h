@@ -17,6 +17,9 @@ class List_Box : public Item_List {
   List_Box(Form& form, std::string_view name);
   ~List_Box() override;
 
+  /// Scrolls the list so that the entry is seen. 381 outside the list.
+  void EnsureVisible(int index);
+
   /// The user pressed Return or Enter, or Delete, by itself, while an entry was chosen; also again
   /// and again while the key is held down. A key whose event is not set does nothing in the list.
   std::function<void()> Enter_Pressed;

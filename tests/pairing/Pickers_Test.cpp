@@ -128,6 +128,9 @@ TEST_F(Pickers, A_hundred_and_one_are_taken_and_a_hundred_handed_on) {
   Texts all = Lines("Cat_List");
   all.resize(101);
   Expect_State(all, true, false);
+  const QAbstractItemView& chosen = View_Of("SelectList");
+  const QRect last = chosen.visualRect(chosen.model()->index(100, 0));
+  EXPECT_TRUE(chosen.viewport()->rect().contains(last.center()));
   Press("Down");
   Press("Return");
   Click("Add_Command");

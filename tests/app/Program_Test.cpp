@@ -153,7 +153,7 @@ TEST_F(Program, What_a_message_says_was_saved_survives_a_kill) {
 }
 
 // A user who changes both names again and again, to "1 1", "2 2" and so on, and says "saved" as
-// often as the program does.
+// often as the program does: the box of one change has gone before the next one begins.
 QString Changes_Of_Names(int first, int count) {
   return QStringLiteral(R"(
     for name in $(seq %1 %2); do
@@ -163,6 +163,7 @@ QString Changes_Of_Names(int first, int count) {
       xdotool key alt+s
       timeout 2 xdotool search --sync --onlyvisible --name "^CELLAR NAMES MODIFIED$" >/dev/null && echo saved
       xdotool key Return
+      while xdotool search --onlyvisible --name "^CELLAR NAMES MODIFIED$" >/dev/null; do :; done
     done)")
       .arg(first)
       .arg(first + count - 1);

@@ -87,5 +87,3 @@ void Store_Cheese_Varieties() {
 }
 
 void Remove_Variety_Maridages() { Remove_All(Pairings_of_Varieties, Varieties.Variety_ID); }
-void Remove_Region_Varieties() { Remove_All(Varieties_of_Regions, Regions.Region_ID); }
-void Remove_Cheese_Varieties() { Remove_All(Varieties_of_Cheeses, Cheeses.Cheese_ID); }

@@ -43,12 +43,10 @@ void Store_Cheese_Maridages();
 void Store_Region_Varieties();
 void Store_Cheese_Varieties();
 
-// ---- removals ----
+// ---- removal ----
 
+/// The variety's group link rows; the pair rows of the way back stay.
 void Remove_Variety_Maridages();
-/// Those of the region, of the cheese: their group link rows alone.
-void Remove_Region_Varieties();
-void Remove_Cheese_Varieties();
 
 /// The serial number of a row that the user brought about, without and with the day.
 Text Serial_of_User(const Text& key);

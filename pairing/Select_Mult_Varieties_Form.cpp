@@ -69,7 +69,6 @@ void Select_Mult_Varieties_Form::Proceed() {
 }
 
 void Select_Mult_Varieties_Form::Store_for_Region() {
-  Remove_Region_Varieties();
   Store_Region_Varieties();
   Varieties_Changed_Flag = true;
   Forms::Message_Box(Words.Of("Region_Text", "Vaieties were added to the selected Region."),
@@ -77,7 +76,6 @@ void Select_Mult_Varieties_Form::Store_for_Region() {
 }
 
 void Select_Mult_Varieties_Form::Store_for_Cheese() {
-  Remove_Cheese_Varieties();
   Store_Cheese_Varieties();
   Forms::Message_Box(Words.Of("Cheese_Text", "Vaieties were added to the selected Cheese."),
                      Words.Of("Cheese_Title", "VARIETIES MATCHED TO CHEESE"));

@@ -208,32 +208,6 @@ TEST_F(Link_Search, Random_cellars_and_selections_are_found_as_a_plain_set_tells
 
 // ---- single cases ----
 
-TEST_F(Link_Search, Once_each_by_group_and_row_and_no_other_subgroup) {
-  for (const Searched& searched : searches) {
-    SCOPED_TRACE(searched.table);
-    Link(searched, {30005, 900005, {2}});
-    Link(searched, {30003, 900004, {1}});
-    Link(searched, {30001, 900005, {1, 2}});
-    Link(searched, {30002, 900005, {1, 10}});
-    Link(searched, {30001, 900004, {1}});
-    Link(searched, {30009, 900004, {2}});
-    Link(searched, {30008, 900003, {1, 2, 3}});
-    Link(searched, {30008, 900006, {1}});
-    Keys keys;
-    for (const Address& at : {Address{900003, 10}, {900005, 1}, {900004, 1}, {900005, 2}}) {
-      keys.push_back(Add_Item(searched, at));
-    }
-    Select(keys);
-    searched.search();
-    // Group 5 is searched twice, each time with its own mask.
-    EXPECT_THAT(Found(), ElementsAre("30001", "30002", "30003", "30005"));
-    Select({keys[3], keys[1]});
-    searched.search();
-    EXPECT_THAT(Found(), ElementsAre("30005", "30001", "30002"));
-    EXPECT_TRUE(searched.rows.Is_Open());
-  }
-}
-
 TEST_F(Link_Search, Ninety_nine_different_ones_fill_the_search_and_doubles_do_not) {
   for (const Searched& searched : searches) {
     SCOPED_TRACE(searched.table);

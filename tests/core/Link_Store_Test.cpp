@@ -253,22 +253,16 @@ TEST_F(Link_Store, Bounds_of_arrays_and_numbers) {
   }
 }
 
-TEST_F(Link_Store, Removals_take_the_rows_of_the_owner_alone) {
-  const std::vector<std::pair<const Stored_Links*, void (*)()>> removals{
-      {&all_stores[2], Remove_Variety_Maridages},
-      {&all_stores[4], Remove_Region_Varieties},
-      {&all_stores[5], Remove_Cheese_Varieties}};
-  for (const auto& [links, remove] : removals) {
-    SCOPED_TRACE(links->table);
-    for (const Long owner : {30001, 30000, 30001, 30002, 30001}) Link(*links, owner, 20, 1);
-    const Text all = Rows("SELECT count(*) FROM " + Text(links->table))[0];
-    links->set_owner(30001);
-    remove();
-    EXPECT_THAT(Links_Of(*links, "30001"), IsEmpty());
-    EXPECT_EQ(Links_Of(*links, "30000,30002").size(), 2U);
-    remove();
-    EXPECT_EQ(Rows("SELECT count(*) FROM " + Text(links->table))[0], To_Text(To_Long(all) - 3));
-  }
+TEST_F(Link_Store, A_removal_takes_the_rows_of_the_variety_alone) {
+  const Stored_Links& links = all_stores[2];
+  for (const Long owner : {30001, 30000, 30001, 30002, 30001}) Link(links, owner, 20, 1);
+  const Text all = Rows("SELECT count(*) FROM " + Text(links.table))[0];
+  links.set_owner(30001);
+  Remove_Variety_Maridages();
+  EXPECT_THAT(Links_Of(links, "30001"), IsEmpty());
+  EXPECT_EQ(Links_Of(links, "30000,30002").size(), 2U);
+  Remove_Variety_Maridages();
+  EXPECT_EQ(Rows("SELECT count(*) FROM " + Text(links.table))[0], To_Text(To_Long(all) - 3));
 }
 
 }  // namespace

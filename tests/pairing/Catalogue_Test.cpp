@@ -186,23 +186,4 @@ TEST_F(Catalogue, Words_by_their_places_and_without_any_the_design) {
   EXPECT_EQ(Shown_Text("Cat_Language1_Label"), "Category in Spanish:");
 }
 
-TEST_F(Catalogue, Cancel_leads_to_the_main_window_and_writes_nothing) {
-  const Texts before = Whole_Catalogue();
-  Start();
-  const auto by_key = [] { Press("Esc"); };
-  const auto by_frame = [] { Close_Window("Cate_Add_Form"); };
-  for (const std::function<void()>& leave :
-       {std::function<void()>([] { Click("Cat_Add_Cancel"); }), {by_key}, {by_frame}}) {
-    Pick("Pairing_Add");
-    Type_Names({"Never", "Nunca"});
-    leave();
-    EXPECT_FALSE(Forms::Screen("Cate_Add_Form").Is_Loaded());
-    EXPECT_TRUE(Is_Seen("Wine_Cellar_Form"));
-    EXPECT_EQ(Current_Command, "MaridageAdd");
-  }
-  Pick("Pairing_Add");
-  EXPECT_THAT(Boxes(), ElementsAre("", ""));
-  EXPECT_EQ(Whole_Catalogue(), before);
-}
-
 }  // namespace

@@ -184,33 +184,4 @@ TEST_F(Varieties_Picker, A_search_looks_for_regions_and_stays) {
   EXPECT_TRUE(Is_Seen(varieties));
 }
 
-TEST_F(Varieties_Picker, Words_tips_and_boxes_in_German) {
-  Set_Language(german);
-  Start();
-  Open_For_Region(Sample().region_id);
-  for (const auto& [control, text] : {std::pair{varieties, "Rebsorten der Region auswählen"},
-                                      {"Add_Command", "Hinzufügen==>"},
-                                      {"MSelectLab1", "Verfügbare Rebsorten"},
-                                      {"Label1", "Ausgewählte Rebsorten"},
-                                      {"MSelectLab3", "Region:"},
-                                      {"MultSelect", "WEITER"},
-                                      {"MultCancel", "ABBRECHEN"},
-                                      {"Remove_Command", "Entfernen"}}) {
-    EXPECT_EQ(Shown_Text(control), text);
-  }
-  EXPECT_EQ(Tip("SelectList"), "Die bisherige Auswahl");
-  EXPECT_FALSE(Is_Seen("MSelectLab2"));
-  Box_Script boxes;
-  Click("MultSelect");
-  ASSERT_EQ(boxes.Boxes().size(), 1U);
-  EXPECT_EQ(boxes.Boxes()[0].title, "REBSORTEN MIT REGION VERKNÜPFT");
-  EXPECT_EQ(boxes.Boxes()[0].text, "Die Rebsorten wurden der ausgewählten Region hinzugefügt.");
-  Open_Screen_Under(varieties, "CheeseAdd");
-  EXPECT_EQ(Shown_Text("MSelectLab3"), "Käse: ");
-  Add(Sample().varieties[0]);
-  Click("MultSelect");
-  EXPECT_EQ(boxes.Boxes().back().title, "REBSORTEN MIT KÄSE VERKNÜPFT");
-  EXPECT_EQ(boxes.Boxes().back().text, "Die Rebsorten wurden dem ausgewählten Käse hinzugefügt.");
-}
-
 }  // namespace

@@ -84,22 +84,6 @@ TEST_F(Pairings_of_Wine, The_chooser_offers_every_pairing_then_those_of_each_tic
   EXPECT_THAT(Lines("SelectList"), ElementsAre(first));
 }
 
-TEST_F(Pairings_of_Wine, The_wine_waits_until_the_chooser_is_left) {
-  Start_With("Wine_Add");
-  Fill_Add();
-  Choose_Pairings();
-  ASSERT_TRUE(Wait_Until([] { return Find(chooser).isActiveWindow(); }));
-  Click("Wine_Form/Exit_Command");
-  Close_Window("Wine_Form");
-  Type_Into("Wine_Form/Price_Text", "12");
-  EXPECT_TRUE(Is_Seen("Wine_Form"));
-  EXPECT_EQ(Shown_Text("Wine_Form/Price_Text"), "");
-  Click("MultCancel");
-  EXPECT_FALSE(Is_There(chooser));
-  Type_Into("Price_Text", "12");
-  EXPECT_EQ(Shown_Text("Price_Text"), "12");
-}
-
 // ---- a new wine ----
 
 TEST_F(Pairings_of_Wine, What_is_chosen_for_a_new_wine_is_stored_with_it_by_group) {

@@ -11,7 +11,9 @@
 class Temporary_Folder {
  public:
   Temporary_Folder() {
-    path_ = (std::filesystem::temp_directory_path() / "wine_cellar_XXXXXX").string();
+    // The six letters at the end make room for those of the new folder's name.
+    path_ =
+        (std::filesystem::temp_directory_path() / ("wine_cellar_" + std::string(6, 'X'))).string();
     if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no temporary folder");
   }
   ~Temporary_Folder() {

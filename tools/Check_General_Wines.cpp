@@ -2,6 +2,7 @@
 #include <set>
 
 #include "tools/Compile_Library.h"
+#include "tools/Grapes.h"
 #include "tools/References.h"
 #include "tools/Vocabulary.h"
 
@@ -31,9 +32,28 @@ void Check_Wine(const Library& library, const Mobile_Wines_Record& wine, Problem
     problems.Report(library.Where(wine), "variety wines alone are of all countries");
   const auto* label = library.Find<Labels_Record>(wine.Mobile_Wine_Label_ID);
   if (label && label->Wine_Color != "x" && color < Colors.size() &&
-      label->Wine_Color != Colors[color])
-    problems.Report(library.Where(wine),
-                    "its label is " + label->Wine_Color + ", the wine " + wine.Mobile_Wine_Color);
+      (label->Wine_Color != Colors[color] || second != "x"))
+    problems.Report(library.Where(wine), "its label is " + label->Wine_Color + ", the wine " +
+                                             wine.Mobile_Wine_Color +
+                                             (second == "x" ? "" : " and " + second));
+  const auto* main = library.Find<Varieties_Record>(wine.Mobile_Wine_Variety_ID);
+  if (main && color == 0 && main->Variety_Color != "Red")
+    problems.Report(library.Where(wine), "a red wine of the white grape " + main->Variety_Name);
+}
+
+/// A wine of a region holds what grows there.
+void Check_Grapes(const Library& library, Problems& problems) {
+  const Grapes grapes(library);
+  for (const Varieties_of_Mobile_Wines_Record& row :
+       library.Of<Varieties_of_Mobile_Wines_Record>()) {
+    const auto* wine = library.Find<Mobile_Wines_Record>(row.Mobile_Wine_ID);
+    const auto* variety = library.Find<Varieties_Record>(row.Variety_ID);
+    const auto* label = wine ? library.Find<Labels_Record>(wine->Mobile_Wine_Label_ID) : nullptr;
+    if (!label || !variety || grapes.Of(label->Region_ID).contains(row.Variety_ID)) continue;
+    const auto* region = library.Find<Regions_Record>(label->Region_ID);
+    problems.Report(library.Where(*wine), variety->Variety_Name + " does not grow in " +
+                                              (region ? region->Region_Name : Text("x")));
+  }
 }
 
 void Check_Wine_Names(const Library& library, Problems& problems) {
@@ -116,6 +136,7 @@ void Check_Numbering(const Library& library, Problems& problems) {
 void Check_General_Wines(const Library& library, Problems& problems) {
   for (const Mobile_Wines_Record& wine : library.Of<Mobile_Wines_Record>())
     Check_Wine(library, wine, problems);
+  Check_Grapes(library, problems);
   Check_Wine_Names(library, problems);
   Check_Marks(library, problems);
   Check_Numbering(library, problems);

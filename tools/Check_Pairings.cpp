@@ -4,8 +4,8 @@
 #include "platform/record_store/Text_Order.h"
 #include "platform/run_time/Conversions.h"
 #include "tools/Compile_Library.h"
+#include "tools/Languages.h"
 #include "tools/References.h"
-#include "tools/Source_Table.h"
 #include "tools/Vocabulary.h"
 
 namespace Data_Compiler {
@@ -95,10 +95,7 @@ void Check_Taste_Types(const Library& library, Problems& problems) {
 }  // namespace
 
 void Check_Pairings(const Library& library, Problems& problems) {
-  Text Maridages_Record::*const members[] = {
-      &Maridages_Record::English,   &Maridages_Record::Spanish, &Maridages_Record::French,
-      &Maridages_Record::German,    &Maridages_Record::Italian, &Maridages_Record::Japanese,
-      &Maridages_Record::Portuguese};
+  constexpr auto members = Language_Members<Maridages_Record>();
   for (std::size_t i = 0; i < Languages.size(); ++i)
     Check_Names(library, Languages[i], members[i], problems);
   Check_Pairing_Rows(library, problems);

@@ -2,6 +2,7 @@
 #include <set>
 
 #include "tools/Compile_Library.h"
+#include "tools/Grapes.h"
 #include "tools/References.h"
 #include "tools/Vocabulary.h"
 
@@ -12,15 +13,6 @@ namespace {
 /// What the program's list of countries holds at most.
 constexpr std::size_t Countries_Limit = 200;
 
-using Grapes = std::map<Long, std::set<Long>>;
-
-Grapes Varieties_By_Region(const Library& library) {
-  Grapes grapes;
-  for (const auto& row : library.Of<Regions_Per_Variety_Record>())
-    grapes[row.Region_ID].insert(row.Variety_ID);
-  return grapes;
-}
-
 bool Is_Own_Ancestor(const Library& library, const Regions_Record& region) {
   std::set<Long> seen{region.Region_ID};
   const auto* parent = library.Find<Regions_Record>(region.Sub_Region_Of);
@@ -29,31 +21,31 @@ bool Is_Own_Ancestor(const Library& library, const Regions_Record& region) {
   return false;
 }
 
-void Check_Parent(const Library& library, const Regions_Record& region, Grapes& grapes,
+void Check_Parent(const Library& library, const Regions_Record& region, const Grapes& grapes,
                   Problems& problems) {
   if (Is_Own_Ancestor(library, region))
     problems.Report(library.Where(region), region.Region_Name + " is its own ancestor");
   const auto* parent = library.Find<Regions_Record>(region.Sub_Region_Of);
   if (!parent) return;
+  if (parent->Sub_Region_Of != -1)
+    problems.Report(library.Where(region), region.Region_Name + " lies in a region that lies in " +
+                                               "another; one level is used");
   if (parent->Country != region.Country)
     problems.Report(library.Where(region),
                     region.Region_Name + " lies in another country than " + parent->Region_Name);
-  for (Long variety : grapes[region.Region_ID])
-    if (!grapes[parent->Region_ID].contains(variety))
+  for (Long variety : grapes.Of(region.Region_ID))
+    if (!grapes.Of(parent->Region_ID).contains(variety))
       problems.Report(library.Where(*parent), parent->Region_Name + " lacks variety " +
                                                   std::to_string(variety) + " of " +
                                                   region.Region_Name);
 }
 
-void Check_Winery(const Library& library, const Wineries_Record& winery, const Grapes& grapes,
-                  Problems& problems) {
+void Check_Winery(const Library& library, const Wineries_Record& winery, Problems& problems) {
   const auto* region = library.Find<Regions_Record>(winery.Region_ID);
   if (!region) return;
   if (region->Country != winery.Country || region->Region_Name != winery.Region)
     problems.Report(library.Where(winery),
                     "its region is not '" + winery.Region + "' of " + winery.Country);
-  if (!grapes.contains(region->Region_ID))
-    problems.Report(library.Where(winery), "its region " + winery.Region + " has no varieties");
 }
 
 void Check_Labels_Of_Wineries(const Library& library, Problems& problems) {
@@ -87,19 +79,23 @@ void Check_Target(const Library& library, Problems& problems) {
 void Check_Places(const Library& library, Problems& problems) {
   if (library.Of<Countries_Record>().size() > Countries_Limit)
     problems.Report("countries.tsv", "more than 200 countries");
-  Grapes grapes = Varieties_By_Region(library);
-  std::set<Long> grown;
-  for (const auto& [region, varieties] : grapes) grown.insert(varieties.begin(), varieties.end());
+  const Grapes grapes(library);
   for (const Varieties_Record& variety : library.Of<Varieties_Record>())
-    if (!grown.contains(variety.Variety_ID))
+    if (!grapes.Grown_Anywhere(variety.Variety_ID))
       problems.Report(library.Where(variety), "no region grows " + variety.Variety_Name);
-  for (const Regions_Record& region : library.Of<Regions_Record>())
+  for (const Regions_Record& region : library.Of<Regions_Record>()) {
+    if (grapes.Of(region.Region_ID).empty())
+      problems.Report(library.Where(region), "nothing grows in " + region.Region_Name);
     Check_Parent(library, region, grapes, problems);
+  }
+  for (const Classification_Record& entry : library.Of<Classification_Record>())
+    if (entry.Glossary_ID == -1)
+      problems.Report(library.Where(entry), "no term explains " + entry.Description);
   for (const Labels_Record& label : library.Of<Labels_Record>())
     if (label.Wine_Color != "x" && !Is_One_Of(Colors, label.Wine_Color))
       problems.Report(library.Where(label), "unknown colour '" + label.Wine_Color + "'");
   for (const Wineries_Record& winery : library.Of<Wineries_Record>())
-    Check_Winery(library, winery, grapes, problems);
+    Check_Winery(library, winery, problems);
   Check_Labels_Of_Wineries(library, problems);
   Check_Target(library, problems);
 }

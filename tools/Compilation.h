@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "tools/Groups.h"
+#include "tools/Languages.h"
 #include "tools/Library.h"
 #include "tools/Names.h"
 #include "tools/Problems.h"
@@ -91,17 +92,13 @@ void Read_Cheese_Links(Compilation& c);
 /// Adds both directions of every link that the steps before have gathered.
 void Add_Links(Compilation& c);
 
+/// Refuses texts that are as in English in another language, unless
+/// FOLDER/same_in_every_language.tsv says that they are so there, and lines of it that nothing needs.
+void Check_Equal_Texts(Compilation& c);
+
 template <class Record>
 void Compilation::Fill_Languages(const Source_Row& row, Record& record) {
-  const auto japanese = [] {
-    if constexpr (requires { &Record::Japanes; })
-      return &Record::Japanes;
-    else
-      return &Record::Japanese;
-  }();
-  Text Record::*const members[] = {&Record::English,   &Record::Spanish, &Record::French,
-                                   &Record::German,    &Record::Italian, japanese,
-                                   &Record::Portuguese};
+  constexpr auto members = Language_Members<Record>();
   for (std::size_t i = 0; i < Languages.size(); ++i) {
     record.*members[i] = row[Languages[i]];
     if (!row.Given(Languages[i]))

@@ -37,7 +37,10 @@ Library Compile_Library(const std::string& folder, std::string_view language, Pr
   Add_Links(c);
   Count_References(c.library);
   // Rows with holes in them would only repeat what is reported already.
-  if (problems.None()) Check_Library(c.library, problems);
+  if (problems.None()) {
+    Check_Library(c.library, problems);
+    Check_Equal_Texts(c);
+  }
   return std::move(c.library);
 }
 

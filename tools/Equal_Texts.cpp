@@ -1,64 +1,74 @@
+// Texts that read as in English in another language: most of them were forgotten, not translated.
 #include <set>
 
-#include "tools/Reports.h"
-#include "tools/Source_Table.h"
+#include "tools/Compilation.h"
 
 namespace Data_Compiler {
 
 namespace {
 
-/// Texts that are meant to be the same, and those of them that a row has needed.
-class Allowed_Texts {
+/// A text and the English name of a language in which it may be as in English.
+using Excuse = std::pair<Text, std::string>;
+
+/// Texts that are meant to be the same, and those of them that no row has needed yet.
+class Excuses {
  public:
-  Allowed_Texts(const std::string& folder, Problems& problems)
-      : file_(folder, "?same_in_every_language.tsv", "Text Language Reason", problems) {
-    for (const Source_Row& row : file_.Rows())
+  explicit Excuses(Compilation& c) {
+    const Source_Table file(c.folder, "?same_in_every_language.tsv", "Text Language Reason",
+                            c.problems);
+    for (const Source_Row& row : file.Rows())
       for (const std::string& language : row.List("Language"))
-        unused_.emplace(std::pair{row["Text"], language}, row.Where());
+        if (!places_.try_emplace({row["Text"], language}, row.Where()).second)
+          c.problems.Report(row.Where(), "'" + row["Text"] + "' stands twice for " + language);
   }
 
-  bool Allow(const Text& text, std::string_view language) {
-    const std::pair key{text, std::string(language)};
-    if (unused_.erase(key) > 0) used_.insert(key);
-    return used_.contains(key);
+  bool Hold(const Text& text, std::string_view language) {
+    const Excuse excuse{text, std::string(language)};
+    if (!places_.contains(excuse)) return false;
+    needed_.insert(excuse);
+    return true;
   }
 
-  const std::map<std::pair<Text, std::string>, Place>& Unused() const { return unused_; }
+  void Report_Needless(Problems& problems) const {
+    for (const auto& [excuse, place] : places_)
+      if (!needed_.contains(excuse))
+        problems.Report(place, "'" + excuse.first + "' is not the same in " + excuse.second);
+  }
 
  private:
-  Source_Table file_;
-  std::map<std::pair<Text, std::string>, Place> unused_;
-  std::set<std::pair<Text, std::string>> used_;
+  std::map<Excuse, Place> places_;
+  std::set<Excuse> needed_;
 };
 
+/// A cheese keeps the name of its home in most languages.
+bool Is_Name_Of_A_Cheese(const Maridages_Record& pairing) { return pairing.Cheese_ID != -1; }
 template <class Record>
-int Report_Table(const Library& library, Allowed_Texts& allowed, std::ostream& out) {
-  Text Record::*const members[] = {&Record::Spanish, &Record::French,   &Record::German,
-                                   &Record::Italian, &Record::Japanese, &Record::Portuguese};
-  int found = 0;
-  for (const Record& row : library.Of<Record>())
-    for (std::size_t i = 0; i < std::size(members); ++i) {
-      const std::string_view language = Languages[i + 1];
-      if (row.*members[i] != row.English || allowed.Allow(row.English, language)) continue;
-      out << library.Where(row) << ": '" << row.English << "' is the same in " << language << '\n';
-      ++found;
-    }
-  return found;
+bool Is_Name_Of_A_Cheese(const Record&) {
+  return false;
+}
+
+template <class Record>
+void Check_Table(Compilation& c, Excuses& excuses) {
+  const auto members = Language_Members<Record>();
+  for (const Record& row : c.library.Of<Record>()) {
+    if (Is_Name_Of_A_Cheese(row)) continue;
+    const Text& english = row.*members[0];
+    for (std::size_t i = 1; i < members.size(); ++i)
+      if (row.*members[i] == english && !excuses.Hold(english, Languages[i]))
+        c.problems.Report(c.library.Where(row), "'" + english + "' is the same in " +
+                                                    std::string(Languages[i]));
+  }
 }
 
 }  // namespace
 
-int Report_Equal_Texts(const Library& library, const std::string& folder, std::ostream& out,
-                       Problems& problems) {
-  Allowed_Texts allowed(folder, problems);
-  int found = Report_Table<Words_Record>(library, allowed, out) +
-              Report_Table<Maridages_Record>(library, allowed, out) +
-              Report_Table<Glossary_Record>(library, allowed, out);
-  for (const auto& [text, place] : allowed.Unused()) {
-    out << place.Text() << ": '" << text.first << "' is not the same in " << text.second << '\n';
-    ++found;
-  }
-  return found;
+void Check_Equal_Texts(Compilation& c) {
+  Excuses excuses(c);
+  Check_Table<Words_Record>(c, excuses);
+  Check_Table<Maridages_Record>(c, excuses);
+  Check_Table<Glossary_Record>(c, excuses);
+  Check_Table<Words_for_Data_Record>(c, excuses);
+  excuses.Report_Needless(c.problems);
 }
 
 }  // namespace Data_Compiler

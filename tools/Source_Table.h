@@ -1,7 +1,6 @@
 // One file of data/: lines of cells between tabs, the first line naming the columns.
 #pragma once
 
-#include <array>
 #include <map>
 #include <string>
 #include <string_view>
@@ -10,10 +9,6 @@
 #include "tools/Problems.h"
 
 namespace Data_Compiler {
-
-/// The languages in the order of their numbers, 3 to 9, as columns of data/ and of the tables.
-inline constexpr std::array<std::string_view, 7> Languages = {
-    "English", "Spanish", "French", "German", "Italian", "Japanese", "Portuguese"};
 
 /// Stands in a cell whose value is not given.
 inline constexpr std::string_view Not_Given = "x";

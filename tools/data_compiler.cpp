@@ -1,7 +1,6 @@
 // data_compiler FOLDER FILE [--language NAME]   makes the data file from the folder
 // data_compiler FOLDER --check                  checks the folder only
 // data_compiler FOLDER --summary                prints what it holds, by table and country
-// data_compiler FOLDER --report-equal           lists texts that read as in English elsewhere
 //
 // Ends with 0, with 1 where the data has problems or the file cannot be made, with 2 where it was
 // called otherwise.
@@ -29,8 +28,7 @@ bool Read_Call(const std::vector<std::string>& words, Call& call) {
   call.folder = words[0];
   call.job = words[1];
   if (words.size() == 2)
-    return !call.job.starts_with("--") || call.job == "--check" || call.job == "--summary" ||
-           call.job == "--report-equal";
+    return !call.job.starts_with("--") || call.job == "--check" || call.job == "--summary";
   call.language = words[3];
   return !call.job.starts_with("--") && words[2] == "--language";
 }
@@ -39,8 +37,6 @@ int Run(const Call& call) {
   using namespace Data_Compiler;
   Problems problems;
   const Library library = Compile_Library(call.folder, call.language, problems);
-  if (problems.None() && call.job == "--report-equal")
-    Report_Equal_Texts(library, call.folder, std::cout, problems);
   for (const std::string& line : problems.Lines()) std::cerr << call.folder << '/' << line << '\n';
   if (!problems.None()) return 1;
   if (call.job == "--summary") Print_Summary(library, std::cout);
@@ -54,7 +50,7 @@ int main(int count, char** words) {
   Call call;
   if (!Read_Call({words + 1, words + count}, call)) {
     std::cerr << "usage: data_compiler FOLDER FILE [--language NAME]\n"
-                 "       data_compiler FOLDER --check | --summary | --report-equal\n";
+                 "       data_compiler FOLDER --check | --summary\n";
     return 2;
   }
   try {

@@ -93,7 +93,8 @@ void Read_Cheese_Links(Compilation& c);
 void Add_Links(Compilation& c);
 
 /// Refuses texts that are as in English in another language, unless
-/// FOLDER/same_in_every_language.tsv says that they are so there, and lines of it that nothing needs.
+/// FOLDER/same_in_every_language.tsv says that they are so there, and lines of it that nothing
+/// needs.
 void Check_Equal_Texts(Compilation& c);
 
 template <class Record>

@@ -55,8 +55,8 @@ void Check_Table(Compilation& c, Excuses& excuses) {
     const Text& english = row.*members[0];
     for (std::size_t i = 1; i < members.size(); ++i)
       if (row.*members[i] == english && !excuses.Hold(english, Languages[i]))
-        c.problems.Report(c.library.Where(row), "'" + english + "' is the same in " +
-                                                    std::string(Languages[i]));
+        c.problems.Report(c.library.Where(row),
+                          "'" + english + "' is the same in " + std::string(Languages[i]));
   }
 }
 

@@ -198,7 +198,8 @@ TEST(Command, Checks_And_Reports) {
   EXPECT_EQ(Run_Command(small, data + " --check", said), 0);
   EXPECT_EQ(said, "");
   EXPECT_EQ(Run_Command(small, data + " --summary", said), 0);
-  EXPECT_NE(said.find("FRA            3        4        2        1        2        3"),
+  EXPECT_NE(said.find("FRA              3        1        1        4        2        1        2    "
+                      "    3        1\n"),
             std::string::npos)
       << said;
   EXPECT_EQ(Run_Command(small, data, said), 2);
@@ -217,6 +218,14 @@ TEST(Delivered_Data, Is_Sound_And_Small) {
   Write_Library(library, place.Path("new.mdb"));
   EXPECT_LT(fs::file_size(place.Path("new.mdb")), 20'000'000U);
   Expect_Same(library, Stored(place.Path("new.mdb")));
+}
+
+TEST(Delivered_Data, Is_Counted_On_Its_Page) {
+  Problems problems;
+  std::ostringstream summary;
+  Print_Summary(Compile_Library(DATA_FOLDER, "English", problems), summary);
+  EXPECT_NE(Contents(DATA_PAGE).find("```\n" + summary.str() + "```\n"), std::string::npos)
+      << "run scripts/summary";
 }
 
 }  // namespace

@@ -12,14 +12,15 @@ struct Range {
 };
 
 /// The keys that delivered rows may have. Those of a photo's owners share one column, and cellar
-/// and general wines share the table of marks, whose key is of 16 bits.
+/// and general wines share the table of marks. Keys are of 16 bits in many tables, and the user's
+/// rows go on from the delivered ones.
 template <class Record>
 constexpr Range Keys_Allowed() {
   if constexpr (std::is_same_v<Record, Regions_Record>) return {1, 10000};
   if constexpr (std::is_same_v<Record, Wineries_Record>) return {10001, 20000};
   if constexpr (std::is_same_v<Record, Labels_Record>) return {20001, 32767};
   if constexpr (std::is_same_v<Record, Mobile_Wines_Record>) return {20001, 32767};
-  return {1, 32767};
+  return {1, 25000};
 }
 
 template <class Record>

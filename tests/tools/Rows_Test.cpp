@@ -75,12 +75,6 @@ const Fault Faults[] = {
      "Reserve is a label of another country"},
     {"Parent_In_Another_Country", [](Library& l) { l.Of<Regions_Record>()[1].Country = "USA"; },
      "Médoc lies in another country than Bordeaux"},
-    {"Region_Of_A_Winery_Grows_Nothing",
-     [](Library& l) {
-       std::erase_if(l.Of<Regions_Per_Variety_Record>(),
-                     [](const auto& row) { return row.Region_ID == 4; });
-     },
-     "its region Napa Valley has no varieties"},
     {"Label_Of_A_Winery_Twice",
      [](Library& l) {
        l.Add(Labels_per_Winery_Record{10001, 20001});

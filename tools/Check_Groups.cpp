@@ -12,6 +12,10 @@ namespace {
 /// What an array of the program holds at most.
 constexpr std::size_t Items_Of_An_Owner = 100;
 
+/// The program can make the pair tables of varieties anew from the masks. The numbers of the old
+/// rows never come back, and those of both must be below 32,768.
+constexpr std::size_t Rows_Made_Anew = 16000;
+
 using Pairs = std::set<std::pair<Long, Long>>;
 
 template <class Node>
@@ -103,6 +107,12 @@ void Check_Cheeses_Of_Wines(const Library& library, Problems& problems) {
     problems.Report("Cheeses_Per_Mobile_Wines", "a pair stands twice");
 }
 
+template <class Record>
+void Check_Made_Anew(const Library& library, Problems& problems) {
+  if (library.Of<Record>().size() > Rows_Made_Anew)
+    problems.Report(Description_Of<Record>().Name(), "more than 16000 rows cannot be made anew");
+}
+
 /// The pair table that leads back from the nodes of a table of masks to its owners.
 template <class From>
 struct Way_Back;
@@ -143,6 +153,8 @@ void Check_Groups(const Library& library, Problems& problems) {
         Check_Link(library, table, Way_Back<From>::owner, Way_Back<From>::key, problems);
       });
   Check_Cheeses_Of_Wines(library, problems);
+  Check_Made_Anew<Regions_Per_Variety_Record>(library, problems);
+  Check_Made_Anew<Varieties_Per_Maridage_Record>(library, problems);
 }
 
 }  // namespace Data_Compiler

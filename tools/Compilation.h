@@ -41,6 +41,9 @@ struct Compilation {
   /// The lines of the cheeses: read early for their names, and again when all they name is known.
   std::unique_ptr<Source_Table> cheese_lines;
 
+  /// The labels of a name within a country: one name may stand in several of its regions.
+  std::map<std::string, std::vector<Long>> labels_of_countries;
+
   std::map<Long, Address> variety_addresses;
   std::map<Long, Address> pairing_addresses;
   std::map<Long, Long> pairings_of_cheeses;  ///< the pairing that stands for a cheese

@@ -70,12 +70,8 @@ Long Label_Of_Winery(Compilation& c, const Source_Row& row, const std::string& n
     region = c.regions.Find(Name_Within(parts[1], row["Country"]), row.Where(), c.problems);
   if (const Long own = c.labels.Find(Label_Within(parts[0], region))) return own;
   std::vector<Long> found;
-  if (parts.size() == 1)
-    for (const Labels_Record& label : c.library.Of<Labels_Record>()) {
-      const auto* place = c.library.Find<Regions_Record>(label.Region_ID);
-      if (label.Label_Name == name && place && place->Country == row["Country"])
-        found.push_back(label.Label_ID);
-    }
+  const auto of_country = c.labels_of_countries.find(Name_Within(parts[0], row["Country"]));
+  if (parts.size() == 1 && of_country != c.labels_of_countries.end()) found = of_country->second;
   if (found.size() == 1) return found.front();
   c.problems.Report(row.Where(), found.empty()
                                      ? "unknown label '" + name + "'"
@@ -160,6 +156,7 @@ void Read_Labels(Compilation& c) {
     const auto& added = c.library.Add(std::move(label), row.Where());
     c.labels.Add(Label_Within(added.Label_Name, added.Region_ID), added.Label_ID, row.Where(),
                  c.problems);
+    c.labels_of_countries[Name_Within(added.Label_Name, row["Country"])].push_back(added.Label_ID);
   }
 }
 

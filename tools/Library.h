@@ -87,10 +87,12 @@ class Library {
     return rows.emplace_back(std::move(row));
   }
 
-  /// The row with this key, or none. Keys rise in storage order.
+  /// The row with this key, or none. Keys rise in storage order, mostly by one.
   template <class Record>
   const Record* Find(Long key) const {
     const auto& rows = Of<Record>();
+    const auto likely = static_cast<std::size_t>(key - Description_Of<Record>().First_Counter());
+    if (likely < rows.size() && Key_Of(rows[likely]) == key) return &rows[likely];
     const auto found =
         std::lower_bound(rows.begin(), rows.end(), key,
                          [](const Record& row, Long wanted) { return Key_Of(row) < wanted; });

@@ -122,13 +122,23 @@ void Load_Countries() {
 void Load_Mobile_Countries() {
   Mobile_Countries.Clear();
   Integer count = 0;
-  Open_Table(Mobile_Wines_Recordset, "Mobile_Wines");
-  for (; !Mobile_Wines_Recordset.Eof(); Mobile_Wines_Recordset.MoveNext()) {
-    Read_Mobile_Wines_Record();
-    const Text& country = Mobile_Wines.Mobile_Wine_Country;
-    if (Place_Of(country, Mobile_Countries, count) == 0) Mobile_Countries[++count] = country;
+  Record_Store::Recordset& rows = Mobile_Wines_Recordset;
+  Open_Table(rows, "Mobile_Wines");
+  // At start-up some thousand rows pass here, most of them of the same country as the one before:
+  // one field of each is enough, and the record of the last.
+  const int country_at = rows.Ordinal("Mobile_Wine_Country");
+  Text previous;
+  for (; !rows.Eof(); rows.MoveNext()) {
+    const Text country = rows.Fields(country_at).As_Text();
+    if (country != previous && Place_Of(country, Mobile_Countries, count) == 0)
+      Mobile_Countries[++count] = country;
+    previous = country;
   }
   Mobile_Countries_Count = count;
+  if (count == 0) return;
+  rows.MoveLast();
+  Read_Mobile_Wines_Record();
+  rows.MoveNext();
 }
 
 void Load_Cheese_Countries() {

@@ -14,7 +14,7 @@ constexpr std::size_t Items_Of_An_Owner = 100;
 
 /// The program can make the pair tables of varieties anew from the masks. The numbers of the old
 /// rows never come back, and those of both must be below 32,768.
-constexpr std::size_t Rows_Made_Anew = 16000;
+constexpr std::size_t Rows_Made_Anew = 16383;
 
 using Pairs = std::set<std::pair<Long, Long>>;
 
@@ -110,7 +110,7 @@ void Check_Cheeses_Of_Wines(const Library& library, Problems& problems) {
 template <class Record>
 void Check_Made_Anew(const Library& library, Problems& problems) {
   if (library.Of<Record>().size() > Rows_Made_Anew)
-    problems.Report(Description_Of<Record>().Name(), "more than 16000 rows cannot be made anew");
+    problems.Report(Description_Of<Record>().Name(), "more than 16383 rows cannot be made anew");
 }
 
 /// The pair table that leads back from the nodes of a table of masks to its owners.

@@ -5,7 +5,9 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QListView>
+#include <QScreen>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "platform/forms/Handlers.h"
 #include "platform/forms/Plain_List.h"
@@ -45,7 +47,9 @@ class Combo_Widget : public QComboBox {
     if (combo_.Locked() || count() == 0) return;
     Make_List();
     view()->window()->installEventFilter(this);
+    view()->setMinimumWidth(Widest_Entry());
     QComboBox::showPopup();
+    Keep_On_Screen(*view()->window());
   }
 
   // The first click of two opens the list, and the list gets the second one.
@@ -103,6 +107,23 @@ class Combo_Widget : public QComboBox {
   // measures its entries at each change of look, shown or not.
   void Make_List() {
     if (auto* list = qobject_cast<QListView*>(view())) list->setUniformItemSizes(true);
+  }
+
+  // The box may be narrow; names that differ at their ends must be told apart in its list.
+  int Widest_Entry() const {
+    const QFontMetrics metrics = view()->fontMetrics();
+    int widest = 0;
+    for (int i = 0; i < count(); ++i)
+      widest = std::max(widest, metrics.horizontalAdvance(itemText(i)));
+    const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    const int frame = 2 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+    const int scroll_bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    return std::min(widest + margins + frame + scroll_bar, screen()->availableGeometry().width());
+  }
+
+  void Keep_On_Screen(QWidget& list) const {
+    const int beyond = list.geometry().right() - screen()->availableGeometry().right();
+    if (beyond > 0) list.move(list.x() - beyond, list.y());
   }
 
   Combo_Box& combo_;

@@ -3,6 +3,8 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QScreen>
+#include <QWidget>
 
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Guard.h"
@@ -127,6 +129,19 @@ TEST_F(Lists_Test, The_user_chooses_in_a_combo_box) {
   Double_Click("Country_Combo");
   EXPECT_EQ(Taken(), Log({"Combo DblClick"}));
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(Lists_Test, The_list_of_a_combo_box_shows_its_longest_entry_whole) {
+  const std::string longest(50, 'W');
+  Shown().Country_Combo.AddItem(longest);
+  Click("Country_Combo");
+  const QWidget* list = QApplication::activePopupWidget();
+  ASSERT_NE(list, nullptr);
+  const int needed = list->fontMetrics().horizontalAdvance(QString::fromStdString(longest));
+  EXPECT_LT(Find("Country_Combo").width(), needed);
+  EXPECT_GT(list->width(), needed);
+  EXPECT_TRUE(list->screen()->availableGeometry().contains(list->geometry()));
+  Press("Escape");
 }
 
 TEST_F(Lists_Test, A_locked_combo_box_can_be_read_copied_and_set_but_not_changed) {

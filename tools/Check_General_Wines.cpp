@@ -3,7 +3,6 @@
 
 #include "tools/Compile_Library.h"
 #include "tools/Grapes.h"
-#include "tools/References.h"
 #include "tools/Vocabulary.h"
 
 namespace Data_Compiler {
@@ -26,6 +25,10 @@ void Check_Wine(const Library& library, const Mobile_Wines_Record& wine, Problem
   if (color == Wine_Colors.size() || (second != "x" && !Is_One_Of(Wine_Colors, second)))
     problems.Report(library.Where(wine),
                     "unknown colour '" + wine.Mobile_Wine_Color + "', '" + second + "'");
+  if (second == wine.Mobile_Wine_Color)
+    problems.Report(library.Where(wine), "the second colour is the first");
+  if (wine.Mobile_Wine_Type == "VA" && color > 1)
+    problems.Report(library.Where(wine), "the screens offer RED and WHITE alone for a grape");
   if (!Is_One_Of(Wine_Types, wine.Mobile_Wine_Type))
     problems.Report(library.Where(wine), "unknown type '" + wine.Mobile_Wine_Type + "'");
   if ((wine.Mobile_Wine_Type == "VA") != (wine.Mobile_Wine_Country == "ALL"))
@@ -37,8 +40,18 @@ void Check_Wine(const Library& library, const Mobile_Wines_Record& wine, Problem
                                              wine.Mobile_Wine_Color +
                                              (second == "x" ? "" : " and " + second));
   const auto* main = library.Find<Varieties_Record>(wine.Mobile_Wine_Variety_ID);
-  if (main && color == 0 && main->Variety_Color != "Red")
+  if (main && color == 0 && main->Variety_Color == "White")
     problems.Report(library.Where(wine), "a red wine of the white grape " + main->Variety_Name);
+}
+
+/// A wine by variety has the grape's name, any other its label's.
+void Check_Name(const Library& library, const Mobile_Wines_Record& wine, Problems& problems) {
+  const auto* label = library.Find<Labels_Record>(wine.Mobile_Wine_Label_ID);
+  const auto* variety = library.Find<Varieties_Record>(wine.Mobile_Wine_Variety_ID);
+  const Text& name = wine.Mobile_Wine_Name;
+  if (wine.Mobile_Wine_Type == "VA" ? !variety || variety->Variety_Name != name
+                                    : label && label->Label_Name != name)
+    problems.Report(library.Where(wine), "'" + name + "' is not the name of its grape or label");
 }
 
 /// A wine of a region holds what grows there.
@@ -98,12 +111,15 @@ Integer Open_Boxes(const Library& library, std::size_t color, const Text& type) 
 
 void Check_Marks(const Library& library, Problems& problems) {
   std::map<Long, Boxes> tastes;
+  std::set<std::tuple<Long, Text, Integer>> seen;
   for (const Wine_Tasting_Record& mark : library.Of<Wine_Tasting_Record>()) {
     const auto* wine = library.Find<Mobile_Wines_Record>(mark.Wine_ID);
     if (!wine || Color_Of(*wine) == Wine_Colors.size()) continue;
     if (mark.Description < 0 ||
         mark.Description >= Open_Boxes(library, Color_Of(*wine), mark.Type_Taste))
       problems.Report(library.Where(mark), "a mark of a box that the colour does not open");
+    if (!seen.emplace(mark.Wine_ID, mark.Type_Taste, mark.Description).second)
+      problems.Report(library.Where(mark), "the mark stands twice");
     if (mark.Type_Taste == "Taste") tastes[mark.Wine_ID].insert(mark.Description);
   }
   for (const auto& [key, boxes] : tastes) {
@@ -134,8 +150,10 @@ void Check_Numbering(const Library& library, Problems& problems) {
 }  // namespace
 
 void Check_General_Wines(const Library& library, Problems& problems) {
-  for (const Mobile_Wines_Record& wine : library.Of<Mobile_Wines_Record>())
+  for (const Mobile_Wines_Record& wine : library.Of<Mobile_Wines_Record>()) {
     Check_Wine(library, wine, problems);
+    Check_Name(library, wine, problems);
+  }
   Check_Grapes(library, problems);
   Check_Wine_Names(library, problems);
   Check_Marks(library, problems);

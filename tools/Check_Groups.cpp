@@ -70,11 +70,14 @@ Pairs Pairs_Of(const Library& library, Owner From::*owner, Key From::*key) {
   return pairs;
 }
 
-void Check_Owners(const Pairs& links, const std::string& table, Problems& problems) {
+template <class Owner>
+void Check_Owners(const Library& library, const Pairs& links, const std::string& table,
+                  Problems& problems) {
   std::map<Long, std::size_t> count;
   for (const auto& [owner, key] : links)
     if (++count[owner] == Items_Of_An_Owner + 1)
-      problems.Report(table, "owner " + std::to_string(owner) + " has more than 100 items");
+      if (const Owner* row = library.Find<Owner>(owner))
+        problems.Report(library.Where(*row), "it has more than 100 items in " + table);
 }
 
 void Check_Directions(const Pairs& there, const Pairs& back, const std::string& tables,
@@ -83,12 +86,13 @@ void Check_Directions(const Pairs& there, const Pairs& back, const std::string& 
 }
 
 /// A table of masks against the table of pairs that leads back.
-template <class Node, class From, class Value, class Back, class Owner, class Key>
+template <class Owner_Record, class Node, class From, class Value, class Back, class Owner,
+          class Key>
 void Check_Link(const Library& library, const Group_Table<Node, From, Value>& masks,
                 Owner Back::*owner, Key Back::*key, Problems& problems) {
   const Pairs links = Unpack(library, masks, problems);
   const std::string& name = Description_Of<From>().Name();
-  Check_Owners(links, name, problems);
+  Check_Owners<Owner_Record>(library, links, name, problems);
   Check_Directions(links, Pairs_Of(library, owner, key),
                    name + " and " + Description_Of<Back>().Name(), problems);
 }
@@ -98,9 +102,9 @@ void Check_Cheeses_Of_Wines(const Library& library, Problems& problems) {
   using There = Cheeses_Per_Mobile_Wines_Record;
   using Back = Mobile_Wines_Per_Cheeses_Record;
   const Pairs wines = Pairs_Of(library, &There::Mobile_Wines_ID, &There::Cheese_ID);
-  Check_Owners(wines, "Cheeses_Per_Mobile_Wines", problems);
-  Check_Owners(Pairs_Of(library, &Back::Cheese_ID, &Back::Mobile_Wines_ID),
-               "Mobile_Wines_Per_Cheeses", problems);
+  Check_Owners<Mobile_Wines_Record>(library, wines, "Cheeses_Per_Mobile_Wines", problems);
+  Check_Owners<Cheeses_Record>(library, Pairs_Of(library, &Back::Cheese_ID, &Back::Mobile_Wines_ID),
+                               "Mobile_Wines_Per_Cheeses", problems);
   Check_Directions(wines, Pairs_Of(library, &Back::Mobile_Wines_ID, &Back::Cheese_ID),
                    "Cheeses_Per_Mobile_Wines and Mobile_Wines_Per_Cheeses", problems);
   if (library.Of<There>().size() != wines.size() || library.Of<Back>().size() != wines.size())
@@ -113,31 +117,36 @@ void Check_Made_Anew(const Library& library, Problems& problems) {
     problems.Report(Description_Of<Record>().Name(), "more than 16383 rows cannot be made anew");
 }
 
-/// The pair table that leads back from the nodes of a table of masks to its owners.
+/// Whose rows own those of a table of masks, and the pair table that leads back to them.
 template <class From>
 struct Way_Back;
 template <>
 struct Way_Back<Maridages_Per_Mobile_Wines_Record> {
+  using Owner = Mobile_Wines_Record;
   static constexpr auto owner = &Mobile_Wines_per_Maridage_Record::Mobile_Wine_ID;
   static constexpr auto key = &Mobile_Wines_per_Maridage_Record::Maridage_ID;
 };
 template <>
 struct Way_Back<Maridages_Per_Cheeses_Record> {
+  using Owner = Cheeses_Record;
   static constexpr auto owner = &Cheeses_Per_Maridage_Record::Cheese_ID;
   static constexpr auto key = &Cheeses_Per_Maridage_Record::Maridage_ID;
 };
 template <>
 struct Way_Back<Maridages_Per_Variety_Record> {
+  using Owner = Varieties_Record;
   static constexpr auto owner = &Varieties_Per_Maridage_Record::Variety_ID;
   static constexpr auto key = &Varieties_Per_Maridage_Record::Maridage_ID;
 };
 template <>
 struct Way_Back<Varieties_Per_Region_Record> {
+  using Owner = Regions_Record;
   static constexpr auto owner = &Regions_Per_Variety_Record::Region_ID;
   static constexpr auto key = &Regions_Per_Variety_Record::Variety_ID;
 };
 template <>
 struct Way_Back<Varieties_Per_Cheeses_Record> {
+  using Owner = Cheeses_Record;
   static constexpr auto owner = &Cheeses_Per_Variety_Record::Cheese_ID;
   static constexpr auto key = &Cheeses_Per_Variety_Record::Variety_ID;
 };
@@ -150,7 +159,8 @@ void Check_Groups(const Library& library, Problems& problems) {
   Check_Addresses<Maridages_Record>(library, problems);
   For_Each_Group_Table(
       [&]<class Node, class From, class Value>(const Group_Table<Node, From, Value>& table) {
-        Check_Link(library, table, Way_Back<From>::owner, Way_Back<From>::key, problems);
+        using Way = Way_Back<From>;
+        Check_Link<typename Way::Owner>(library, table, Way::owner, Way::key, problems);
       });
   Check_Cheeses_Of_Wines(library, problems);
   Check_Made_Anew<Regions_Per_Variety_Record>(library, problems);

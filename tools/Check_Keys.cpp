@@ -20,6 +20,10 @@ constexpr Range Keys_Allowed() {
   if constexpr (std::is_same_v<Record, Wineries_Record>) return {10001, 20000};
   if constexpr (std::is_same_v<Record, Labels_Record>) return {20001, 32767};
   if constexpr (std::is_same_v<Record, Mobile_Wines_Record>) return {20001, 32767};
+  // Nothing refers to these.
+  if constexpr (std::is_same_v<Record, Maridages_Per_Mobile_Wines_Record> ||
+                std::is_same_v<Record, Mobile_Wines_Per_Cheeses_Record>)
+    return {1, 1'000'000};
   return {1, 25000};
 }
 
@@ -29,10 +33,12 @@ void Check_Counter(const Library& library, Problems& problems) {
   Long last = 0;
   for (const Record& row : library.Of<Record>()) {
     const Long key = Key_Of(row);
-    if (key < allowed.first || key > allowed.last || key <= last)
+    if (key < allowed.first || key > allowed.last || key <= last) {
       problems.Report(library.Where(row), "key " + std::to_string(key) + " lies outside " +
                                               std::to_string(allowed.first) + " to " +
                                               std::to_string(allowed.last) + " or does not rise");
+      return;  // all behind it would be told as well
+    }
     last = key;
     if constexpr (requires { row.SERIAL_NUMBER; })
       if (!row.SERIAL_NUMBER.starts_with("SYS"))

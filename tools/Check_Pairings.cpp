@@ -5,7 +5,7 @@
 #include "platform/run_time/Conversions.h"
 #include "tools/Compile_Library.h"
 #include "tools/Languages.h"
-#include "tools/References.h"
+#include "tools/Source_Table.h"
 #include "tools/Vocabulary.h"
 
 namespace Data_Compiler {
@@ -69,6 +69,7 @@ void Check_Cheeses(const Library& library, Problems& problems) {
       problems.Report(library.Where(cheese), "unknown type '" + cheese.Cheese_Type + "'");
     if (!Is_One_Of(Milk_Types, cheese.Type_Milk))
       problems.Report(library.Where(cheese), "unknown milk '" + cheese.Type_Milk + "'");
+    if (cheese.Cheese_Description == "-1") problems.Report(library.Where(cheese), "no description");
     if (cheese.Cheese_Country == current) continue;
     // The list of cheese countries names a country once for each run of its rows.
     if (!closed.insert(cheese.Cheese_Country).second)
@@ -92,6 +93,20 @@ void Check_Taste_Types(const Library& library, Problems& problems) {
       problems.Report("wine_taste_type.tsv", "no marks for " + std::string(color));
 }
 
+/// A grape has one line: what it is called elsewhere stands beside its name.
+void Check_Varieties(const Library& library, Problems& problems) {
+  std::set<Text, By_Key> names;
+  for (const Varieties_Record& variety : library.Of<Varieties_Record>())
+    names.insert(variety.Variety_Name);
+  for (const Varieties_Record& variety : library.Of<Varieties_Record>()) {
+    if (!Is_One_Of(Colors, variety.Variety_Color))
+      problems.Report(library.Where(variety), "unknown colour '" + variety.Variety_Color + "'");
+    for (const std::string& other : Split(variety.Other_Names, ", "))
+      if (names.contains(other))
+        problems.Report(library.Where(variety), "'" + other + "' has a line of its own");
+  }
+}
+
 }  // namespace
 
 void Check_Pairings(const Library& library, Problems& problems) {
@@ -101,9 +116,7 @@ void Check_Pairings(const Library& library, Problems& problems) {
   Check_Pairing_Rows(library, problems);
   Check_Cheeses(library, problems);
   Check_Taste_Types(library, problems);
-  for (const Varieties_Record& variety : library.Of<Varieties_Record>())
-    if (!Is_One_Of(Colors, variety.Variety_Color))
-      problems.Report(library.Where(variety), "unknown colour '" + variety.Variety_Color + "'");
+  Check_Varieties(library, problems);
 }
 
 }  // namespace Data_Compiler

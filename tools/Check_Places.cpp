@@ -3,7 +3,6 @@
 
 #include "tools/Compile_Library.h"
 #include "tools/Grapes.h"
-#include "tools/References.h"
 #include "tools/Vocabulary.h"
 
 namespace Data_Compiler {

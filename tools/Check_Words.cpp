@@ -22,7 +22,7 @@ struct Form {
   std::span<const Screen_Words::Row> table{};
 };
 constexpr std::array<Form, 8> Forms = {
-    {{Main_Form, 0},
+    {{Main_Form, 0, Screen_Words::Wine_Cellar_Form},
      {"Wine_Form", 0},
      {"Mobile_Wine_Form", 88},
      {"Cate_Add_Form", 0, Screen_Words::Cate_Add_Form},
@@ -31,12 +31,9 @@ constexpr std::array<Form, 8> Forms = {
      {"Select_Mult_Cat", 0, Screen_Words::Select_Mult_Cat},
      {"Initialize_Form", 0}}};
 
-/// The main window reads what stands behind its "Frm" row by position: colours, types of cheese,
-/// milks, and eight words of its own.
+/// Behind its "Frm" row the main window reads colours, types of cheese, milks, and words of its
+/// own.
 constexpr std::size_t Cheese_Types_On_Screen = Cheese_Types.size() + 1;
-constexpr std::size_t Own_Words = 8;
-constexpr std::size_t Head_Rows =
-    Colors.size() + Cheese_Types_On_Screen + Milk_Types.size() + Own_Words;
 
 using Rows = std::vector<const Words_Record*>;
 
@@ -102,20 +99,6 @@ void Check_Run(const Library& library, std::span<const Words_Record* const> rows
       problems.Report(library.Where(*rows[i]), "'" + std::string(words[i]) + "' is expected here");
 }
 
-/// The "Cap" rows, each control once, then the "Frm" row; gives the rows behind it.
-Rows Check_Captions(const Library& library, const Rows& rows, Problems& problems) {
-  std::set<Text> controls;
-  std::size_t at = 0;
-  for (; at < rows.size() && rows[at]->types_variable == "Cap"; ++at)
-    if (!controls.insert(rows[at]->Variable).second)
-      problems.Report(library.Where(*rows[at]), "'" + rows[at]->Variable + "' stands twice");
-  if (at == rows.size() || rows[at]->types_variable != "Frm") {
-    problems.Report("words.tsv", "the captions of Wine_Cellar_Form do not end in one Frm row");
-    return {};
-  }
-  return {rows.begin() + static_cast<std::ptrdiff_t>(at) + 1, rows.end()};
-}
-
 /// The words of one list of the screen, in any language, must lead back to English words of it.
 void Check_Way_Back(const Library& library, std::span<const Words_Record* const> rows,
                     Problems& problems) {
@@ -134,21 +117,16 @@ void Check_Way_Back(const Library& library, std::span<const Words_Record* const>
     }
 }
 
-void Check_Main_Form(const Library& library, Problems& problems) {
-  const Rows heads = Check_Captions(library, Rows_Of_Form(library, Main_Form), problems);
-  for (const Words_Record* row : heads)
-    if (row->types_variable != "Head")
-      problems.Report(library.Where(*row), "a row behind the Frm row is not of type Head");
-  if (heads.size() != Head_Rows) {
-    problems.Report("words.tsv", std::to_string(heads.size()) +
-                                     " rows stand behind the Frm row of Wine_Cellar_Form, not " +
-                                     std::to_string(Head_Rows));
-    return;
-  }
-  const std::span all(heads);
-  const auto colors = all.first(Colors.size());
-  const auto cheeses = all.subspan(Colors.size(), Cheese_Types_On_Screen);
-  const auto milks = all.subspan(Colors.size() + Cheese_Types_On_Screen, Milk_Types.size());
+/// The lists among the words of the main window, whose rows are in order already.
+void Check_Lists(const Library& library, Problems& problems) {
+  const Rows rows = Rows_Of_Form(library, Main_Form);
+  const auto at =
+      static_cast<std::size_t>(Screen_Words::Place_of(Screen_Words::Wine_Cellar_Form, Main_Form));
+  if (rows.size() != Screen_Words::Wine_Cellar_Form.size()) return;
+  const auto heads = std::span(rows).subspan(at);
+  const auto colors = heads.first(Colors.size());
+  const auto cheeses = heads.subspan(Colors.size(), Cheese_Types_On_Screen);
+  const auto milks = heads.subspan(Colors.size() + Cheese_Types_On_Screen, Milk_Types.size());
   Check_Run(library, colors, Colors, problems);
   Check_Run(library, cheeses, Cheese_Types, problems);
   Check_Run(library, milks, Milk_Types, problems);
@@ -176,7 +154,7 @@ void Check_Replace_Keys(const Library& library, Problems& problems) {
 
 void Check_Words(const Library& library, Problems& problems) {
   Check_Forms(library, problems);
-  Check_Main_Form(library, problems);
+  Check_Lists(library, problems);
   Check_Blanks(library, problems);
   Check_Replace_Keys(library, problems);
 }

@@ -55,8 +55,6 @@ void Pair_All(const Links& links, Adder&& add) {
       if (owner > 0 && key > 0) add(owner, key);
 }
 
-Integer Short(Long key) { return To_Integer(static_cast<double>(key)); }
-
 void Link_Regions(Compilation& c) {
   Pack_All(c.varieties_of_regions, c.variety_addresses, [&](Long region, Group_Row row) {
     c.library.Add(Varieties_Per_Region_Record{0, Short(region), row.GROUP, row.SUBCATEGO, {}});

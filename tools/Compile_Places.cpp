@@ -57,8 +57,7 @@ void Read_Region_Texts(Compilation& c) {
     const Long region = c.regions.Find(name, row.Where(), c.problems);
     seen.Add(name, region, row.Where(), c.problems);
     for (Regions_Record& record : c.library.Of<Regions_Record>())
-      if (record.Region_ID == region)
-        record.Description = To_Integer(static_cast<double>(c.Add_Text(row)));
+      if (record.Region_ID == region) record.Description = Short(c.Add_Text(row));
   }
 }
 
@@ -68,7 +67,8 @@ Long Label_Of_Winery(Compilation& c, const Source_Row& row, const std::string& n
   const auto parts = Split(name, " @ ");
   if (parts.size() == 2)
     region = c.regions.Find(Name_Within(parts[1], row["Country"]), row.Where(), c.problems);
-  if (const Long own = c.labels.Find(Label_Within(parts[0], region))) return own;
+  if (c.labels.Find(Label_Within(parts[0], region)) != 0)
+    return c.labels.Find(Label_Within(parts[0], region), row.Where(), c.problems);
   std::vector<Long> found;
   const auto of_country = c.labels_of_countries.find(Name_Within(parts[0], row["Country"]));
   if (parts.size() == 1 && of_country != c.labels_of_countries.end()) found = of_country->second;
@@ -169,8 +169,8 @@ void Read_Wineries(Compilation& c) {
     const auto& winery = c.library.Add(Winery_From(c, row), row.Where());
     const Long key = Key_Of(winery);
     c.wineries.Add(Name_Within(winery.Winery_Name, winery.Country), key, row.Where(), c.problems);
-    if (row.Given("State") && c.states.Find(Name_Within(winery.State, winery.Country)) == 0)
-      c.problems.Report(row.Where(), "unknown state '" + winery.State + "'");
+    if (row.Given("State"))
+      c.states.Find(Name_Within(winery.State, winery.Country), row.Where(), c.problems);
     std::vector<Long> labels;
     for (const std::string& name : row.List("Labels"))
       labels.push_back(Label_Of_Winery(c, row, name, winery.Region_ID));

@@ -25,10 +25,12 @@ void Check_Language_Number(const Source_Row& row, std::string_view name, Integer
 void Read_States(Compilation& c) {
   const Source_Table file(c.folder, "states.tsv", "Contry Long_Name Short_Name", c.problems);
   std::map<Text, bool> with_states;
+  Names short_names("short name");
   for (const Source_Row& row : file.Rows()) {
     State_of_Contries_Record state{row["Contry"], row["Long_Name"], row["Short_Name"]};
     c.countries.Find(state.Contry, row.Where(), c.problems);
     c.states.Add(Name_Within(state.Long_Name, state.Contry), 1, row.Where(), c.problems);
+    short_names.Add(Name_Within(state.Short_Name, state.Contry), 1, row.Where(), c.problems);
     with_states[state.Contry] = true;
     c.library.Add(std::move(state), row.Where());
   }

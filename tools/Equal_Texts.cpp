@@ -10,7 +10,7 @@ namespace {
 /// A text and the English name of a language in which it may be as in English.
 using Excuse = std::pair<Text, std::string>;
 
-/// Texts that are meant to be the same, and those of them that no row has needed yet.
+/// Texts that are meant to be the same, and those of them that a row has needed.
 class Excuses {
  public:
   explicit Excuses(Compilation& c) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <limits>
 #include <map>
 #include <string>
 #include <tuple>
@@ -39,6 +40,11 @@ Long As_Key(const Other&) {
   return 0;
 }
 
+/// A key in a column of 16 bits. One that is too great stays at their end, where the checks see it.
+inline Integer Short(Long key) {
+  return static_cast<Integer>(std::min<Long>(key, std::numeric_limits<Integer>::max()));
+}
+
 /// The row's key; 0 in a table without a counter.
 template <class Record>
 Long Key_Of(const Record& record) {
@@ -54,7 +60,7 @@ void Set_Key(Record& record, Long key) {
     if constexpr (std::is_same_v<Value, Text>)
       value = std::to_string(key);
     else if constexpr (std::is_same_v<Value, Integer>)
-      value = To_Integer(static_cast<double>(key));  // fails beyond 16 bits
+      value = Short(key);
     else if constexpr (std::is_same_v<Value, Long>)
       value = key;
   });

@@ -157,7 +157,8 @@ TEST_F(Rows, Owner_Of_More_Than_A_Hundred) {
   }
   Problems problems;
   Data_Compiler::Check_Groups(large, problems);
-  EXPECT_EQ(Text_Of(problems), "Mobile_Wines_Per_Cheeses: owner 1 has more than 100 items\n");
+  EXPECT_EQ(Text_Of(problems),
+            "cheeses.tsv:2: it has more than 100 items in Mobile_Wines_Per_Cheeses\n");
 }
 
 TEST(Groups, Ten_To_A_Group_And_A_Digit_For_Each) {

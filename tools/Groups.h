@@ -19,6 +19,7 @@ struct Address {
   Long group = 0;
   Long subgroup = 0;  ///< 1 to 10
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): the checker stumbles over the comparison with zero
   auto operator<=>(const Address&) const = default;
 };
 

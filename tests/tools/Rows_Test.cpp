@@ -164,6 +164,7 @@ TEST_F(Rows, Owner_Of_More_Than_A_Hundred) {
 TEST(Groups, Ten_To_A_Group_And_A_Digit_For_Each) {
   Data_Compiler::Group_Giver giver;
   std::vector<Data_Compiler::Address> addresses;
+  addresses.reserve(11);
   for (int i = 0; i < 11; ++i) addresses.push_back(giver.Next("Beef"));
   EXPECT_EQ(giver.Next("Fish"), (Data_Compiler::Address{3, 1}));
   EXPECT_EQ(giver.Next("Beef"), (Data_Compiler::Address{2, 2}));

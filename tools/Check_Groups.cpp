@@ -114,7 +114,8 @@ void Check_Cheeses_Of_Wines(const Library& library, Problems& problems) {
 template <class Record>
 void Check_Made_Anew(const Library& library, Problems& problems) {
   if (library.Of<Record>().size() > Rows_Made_Anew)
-    problems.Report(Description_Of<Record>().Name(), "more than 16383 rows cannot be made anew");
+    problems.Report(Description_Of<Record>().Name(),
+                    "more than " + std::to_string(Rows_Made_Anew) + " rows cannot be made anew");
 }
 
 /// Whose rows own those of a table of masks, and the pair table that leads back to them.

@@ -67,8 +67,8 @@ Long Label_Of_Winery(Compilation& c, const Source_Row& row, const std::string& n
   const auto parts = Split(name, " @ ");
   if (parts.size() == 2)
     region = c.regions.Find(Name_Within(parts[1], row["Country"]), row.Where(), c.problems);
-  if (c.labels.Find(Label_Within(parts[0], region)) != 0)
-    return c.labels.Find(Label_Within(parts[0], region), row.Where(), c.problems);
+  const std::string own = Label_Within(parts[0], region);
+  if (c.labels.Find(own) != 0) return c.labels.Find(own, row.Where(), c.problems);
   std::vector<Long> found;
   const auto of_country = c.labels_of_countries.find(Name_Within(parts[0], row["Country"]));
   if (parts.size() == 1 && of_country != c.labels_of_countries.end()) found = of_country->second;

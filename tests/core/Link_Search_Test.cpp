@@ -234,36 +234,6 @@ TEST_F(Link_Search, Ninety_nine_different_ones_fill_the_search_and_doubles_do_no
   }
 }
 
-TEST_F(Link_Search, Nothing_found_is_said_and_counted_all_the_same) {
-  const std::vector<std::vector<const char*>> expected{
-      {"There are NO wines with\rANY of the pairings selected !!!", "NO Wines found", "1"},
-      {"There are NO Wines with\rANY of the pairings selected !!!", "NO Wines found", "0"},
-      {"There are NO Regions with\rANY of the varieties selected !!!", "NO Regions found", "1"}};
-  for (std::size_t which = 0; which < 3; ++which) {
-    const Searched& searched = searches[which];
-    SCOPED_TRACE(searched.table);
-    boxes.Forget();
-    Link(searched, {30001, 900001, {1, 3}});
-    Link(searched, {30001, 900003, {2}});
-    const Long key = Add_Item(searched, {900001, 2});
-    Select({key});
-    searched.search();
-    EXPECT_EQ(Found_Count, 0);
-    ASSERT_EQ(boxes.Boxes().size(), 1U);
-    EXPECT_EQ(boxes.Boxes()[0].text, expected[which][0]);
-    EXPECT_EQ(boxes.Boxes()[0].title, expected[which][1]);
-    EXPECT_FALSE(searched.rows.Is_Open());
-    const bool pairings = Text(searched.items) == "Maridages";
-    EXPECT_EQ(Used(searched.items, pairings ? "Maridage_ID" : "Variety_ID", key),
-              expected[which][2]);
-    Select({});
-    searched.search();
-    EXPECT_EQ(boxes.Boxes().size(), 2U);
-  }
-  EXPECT_EQ(Rows("SELECT SERIAL_NUMBER FROM Regions_Per_Variety WHERE Region_ID=30001"),
-            Lines{"CUS30001"});
-}
-
 TEST_F(Link_Search, Keys_without_a_row_and_groups_beyond_a_number) {
   Link(searches[1], {30001, 900001, {1}});
   Select({32000, Add_Pairing(900001, 1)});

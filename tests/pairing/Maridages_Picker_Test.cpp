@@ -188,11 +188,6 @@ TEST_F(Maridages_Picker, Words_and_tips_in_German) {
   EXPECT_FALSE(Is_Seen("MSelectLab2"));
   for (const auto& [control, tip] :
        {std::pair{"Add_Command", "Nimmt den markierten Eintrag in die Auswahl auf (Eingabetaste)"},
-        {"Remove_Command", "Nimmt den markierten Eintrag aus der Auswahl heraus (Entf)"},
-        {"Cat_List", "Alles, was zur Auswahl steht"},
-        {"SelectList", "Die bisherige Auswahl"},
-        {"MultSelect", "Fährt mit der Auswahl fort"},
-        {"MultCancel", "Schließt ohne Auswahl (Esc)"},
         {"Selected_Number",
          "Anzahl der ausgewählten Einträge; höchstens 100 können übergeben "
          "werden"}}) {

@@ -174,6 +174,8 @@ TEST_F(Varieties_Picker, A_search_looks_for_regions_and_stays) {
   Press("Esc");
   Stop();
   Empty_Table("Varieties_Per_Region");
+  const Text used = "SELECT Used FROM Varieties WHERE Variety_ID = " + Sample().variety_ids[0];
+  const Text before = Stored(used, 1)[0];
   Start();
   Open_Screen_Under(varieties, "WineSearch");
   Add(Sample().varieties[0]);
@@ -182,6 +184,7 @@ TEST_F(Varieties_Picker, A_search_looks_for_regions_and_stays) {
   EXPECT_EQ(boxes.Boxes()[0].title, "NO Regions found");
   EXPECT_EQ(boxes.Boxes()[0].text, "There are NO Regions with\rANY of the varieties selected !!!");
   EXPECT_TRUE(Is_Seen(varieties));
+  EXPECT_EQ(Stored(used, 1)[0], std::to_string(std::stoi(before) + 1)) << "counted all the same";
 }
 
 }  // namespace

@@ -1,10 +1,8 @@
-// The one description of each table: what stands in the file, in which order, under which indexes.
-#include <algorithm>
-#include <set>
+// The one description of each table: what stands in the file and in which order.
+#include <map>
 #include <sstream>
 
 #include "tests/core/tables/New_Data_File.h"
-#include "tests/support/Expect_Failure.h"
 
 namespace {
 
@@ -41,66 +39,6 @@ TEST_F(Descriptions, Columns_Reached_By_Ordinal_Stand_There) {
     for (std::string column; columns >> column; ++ordinal)
       EXPECT_EQ(rows.Ordinal(column), ordinal) << expected.table << "." << column;
   }
-}
-
-// Every index that the screens set, and no unique one but the primary keys: names, groups and
-// languages may stand twice.
-TEST_F(Descriptions, Indexes_Of_The_Screens) {
-  const struct {
-    const char* table;
-    const char* indexes;
-  } cases[] = {
-      {"Cheeses", "Cheese_ID!"},
-      {"Cheeses_Per_Maridage", "Cheese_ID"},
-      {"Cheeses_Per_Mobile_Wines", "Cheese_ID Mobile_Wines_ID"},
-      {"Classification", "CLASSIFICATION_ID! Country Description"},
-      {"Glossary", "ID!"},
-      {"Labels", "label_id! Label_Name Region_ID"},
-      {"Labels_per_Winery", "WINERY_ID"},
-      {"Languages_Available", "Language_Number"},
-      {"Maridages",
-       "Maridage_ID! Maridage_GROUP ENGLISH SPANISH FRENCH GERMAN ITALIAN JAPANESE PORTUGUESE"},
-      {"Maridages_Per_Cheeses", "Cheese_ID"},
-      {"Maridages_Per_Mobile_Wines", "Mobile_Wine_ID GROUP"},
-      {"Maridages_Per_Variety", "Variety_ID"},
-      {"Maridages_Per_Wines", "WINE_ID GROUP"},
-      {"Mobile_Wines", "Mobile_wine_ID! Mobile_Wine_Label_ID"},
-      {"Mobile_Wines_Per_Cheeses", "Cheese_ID Mobile_Wines_ID"},
-      {"Mobile_Wines_per_Maridage", "Mobile_Wine_ID"},
-      {"Photos", "Photo_ID! Relation_ID"},
-      {"Regions", "REGION_ID! Region_Name Country Region_Group Sub_Region_Of"},
-      {"Regions_Per_Variety", "Region_ID Variety_ID"},
-      {"Varieties", "Variety_ID! Variety_Name Variety_GROUP"},
-      {"Varieties_Per_Cheeses", "Cheese_ID"},
-      {"Varieties_Per_Maridage", "Maridage_ID"},
-      {"Varieties_Per_Region", "Region_ID GROUP"},
-      {"Varieties_of_Mobile_Wines", "Mobile_Wine_ID"},
-      {"Varieties_of_Wines", "Wine_ID"},
-      {"Wine_Taste_Type", "Color"},
-      {"Wine_Tasting", "Wine_ID"},
-      {"Wineries", "Winery_ID! Winery_Name"},
-      {"Wines", "Wine_ID!"},
-      {"Wines_Per_Cheeses", "Cheese_ID"},
-      {"Words_for_Data", "Multi_Language_ID!"},
-      {"World_Contries", "Long_Name Short_Name"},
-  };
-  std::set<std::string> with_indexes;
-  for (const auto& expected : cases) {
-    with_indexes.insert(expected.table);
-    const auto schema = Wine_Cellar_DB->Schema_Of(expected.table);
-    std::size_t count = 0;
-    std::istringstream names(expected.indexes);
-    for (std::string name; names >> name; ++count) {
-      const bool unique = name.ends_with('!');
-      if (unique) name.pop_back();
-      ASSERT_LT(count, schema.indexes.size()) << expected.table;
-      EXPECT_EQ(schema.indexes[count].unique, unique) << expected.table << "." << name;
-      EXPECT_NO_THROW(Open(expected.table).Index(name)) << expected.table << "." << name;
-    }
-    EXPECT_EQ(count, schema.indexes.size()) << expected.table;
-  }
-  for (const auto& schema : Tables::All_Schemas())
-    EXPECT_EQ(with_indexes.contains(schema.name), !schema.indexes.empty()) << schema.name;
 }
 
 TEST_F(Descriptions, Group_Index_Of_The_Pairings_Has_Two_Fields) {

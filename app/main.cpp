@@ -1,5 +1,5 @@
 #include "cellar/Cellar_Screens.h"
-#include "core/Core_Screens.h"
+#include "main_window/Main_Window_Screens.h"
 #include "pairing/Pairing_Screens.h"
 #include "platform/forms/Application.h"
 #include "platform/forms/Screens.h"
@@ -7,7 +7,7 @@
 
 int main(int argc, char** argv) {
   Forms::Application application(argc, argv);
-  Register_Core_Screens();
+  Register_Main_Window_Screens();
   Register_Cellar_Screens();
   Register_Pairing_Screens();
   Register_Search_Screens();

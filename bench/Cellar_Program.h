@@ -12,8 +12,8 @@
 
 #include "bench/Painted_List.h"
 #include "cellar/Cellar_Screens.h"
-#include "core/Core_Screens.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "main_window/Main_Window_Screens.h"
 #include "platform/forms/Application.h"
 #include "platform/forms/Screens.h"
 #include "platform/run_time/Guard.h"
@@ -29,7 +29,7 @@ inline void Start(const std::string& folder) {
     std::_Exit(1);
   };
   Forms::Set_App_Path_For_Tests(folder);
-  Register_Core_Screens();
+  Register_Main_Window_Screens();
   Register_Cellar_Screens();
   Run_Guarded([] { Forms::Screen("Wine_Cellar_Form").Open(); });
   Settle_Events();

@@ -4,10 +4,10 @@
 #include <map>
 #include <random>
 
-#include "core/Varieties_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "links/Varieties_Processes.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "bench/Bare_Pairings.h"
-#include "core/Link_Store.h"
-#include "core/Varieties_Processes.h"
+#include "links/Link_Store.h"
+#include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
 
 struct Selection {

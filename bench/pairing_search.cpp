@@ -17,9 +17,9 @@
 #include "bench/Large_Cellar.h"
 #include "bench/Pairing_Picker.h"
 #include "bench/Pairing_Selections.h"
-#include "core/Link_Search.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
+#include "links/Link_Search.h"
 #include "pairing/Pairing_Screens.h"
 #include "search/Search_Screens.h"
 

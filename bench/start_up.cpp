@@ -22,7 +22,7 @@
 #include <string>
 #include <vector>
 
-#include "core/Core_Screens.h"
+#include "main_window/Main_Window_Screens.h"
 #include "platform/forms/Application.h"
 #include "platform/forms/Screens.h"
 
@@ -74,7 +74,7 @@ int Run_Program(int argc, char** argv, std::int64_t started, const std::string& 
   Forms::Set_App_Path_For_Tests(folder);
   Paint_Watcher watcher(started);
   qApp->installEventFilter(&watcher);
-  Register_Core_Screens();
+  Register_Main_Window_Screens();
   return application.Run([] { Forms::Screen("Wine_Cellar_Form").Open(); });
 }
 

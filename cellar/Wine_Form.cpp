@@ -4,8 +4,8 @@
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
 #include "core/MultiLanguage_Processes.h"
-#include "core/Varieties_Processes.h"
 #include "core/tables/Catalogue.h"
+#include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
 
 using Forms::Screen;

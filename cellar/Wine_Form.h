@@ -15,9 +15,9 @@
 #include <optional>
 #include <vector>
 
-#include "core/Wine_Screen.h"
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Values.h"
+#include "screens/Wine_Screen.h"
 
 class Wine_Form : public Wine_Screen {
  public:

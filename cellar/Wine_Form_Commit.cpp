@@ -2,12 +2,12 @@
 // a failure stays written.
 #include "cellar/Wine_Form.h"
 #include "core/Globals.h"
-#include "core/Link_Store.h"
 #include "core/MultiLanguage_Processes.h"
-#include "core/Used_Counters.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "links/Link_Store.h"
+#include "links/Used_Counters.h"
 #include "platform/run_time/Conversions.h"
 
 void Wine_Form::Multi_Functional_Command_Click() {

@@ -1,11 +1,11 @@
 // The list of the current cellar: filled, sorted, and the way to pick a wine.
 #include "cellar/Wine_Form.h"
 #include "core/Globals.h"
-#include "core/List_Sorting.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
+#include "screens/List_Sorting.h"
 
 // A cellar without a name has "x" for one.
 void Wine_Form::Display_Current_Cellar() {

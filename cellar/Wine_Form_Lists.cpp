@@ -3,11 +3,11 @@
 #include "cellar/Wine_Form.h"
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
-#include "core/Link_Decoders.h"
-#include "core/Varieties_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "links/Link_Decoders.h"
+#include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
 
 namespace {

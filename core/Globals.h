@@ -8,9 +8,6 @@
 /// closes.
 inline Text Current_Command;
 
-/// `ID` of the current row of `Cellars`; new wines take it. Set at start-up and by the menu.
-inline Integer Current_Cellar_ID = 0;
-
 /// `Cellar_Name` of the current cellar, "x" while no cellars are named.
 inline Text Current_Cellar_Name;
 
@@ -52,6 +49,5 @@ inline bool Checks_Locked = false;
 /// The key, as text, of the wine that another screen asks the wine screen to show.
 inline Text Requested_Wine_Text;
 
-/// The data file, and the shared reference file that is named but never opened. Set at start-up.
-inline Text Wine_Cellar_DB_Path;
+/// The shared reference file, which is named but never opened. Set at start-up.
 inline Text Shared_DB_Path;

@@ -2,11 +2,11 @@
 
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
-#include "core/List_Sorting.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
+#include "screens/List_Sorting.h"
 
 using Forms::Locked_Color;
 using Forms::Required_Color;

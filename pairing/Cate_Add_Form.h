@@ -2,9 +2,10 @@
 // other (Spanish beside English, English beside every other).
 #pragma once
 
-#include "core/Form_Words.h"
+#include "core/words/Cate_Add_Form_Words.h"
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Values.h"
+#include "screens/Form_Words.h"
 
 class Cate_Add_Form : public Forms::Form {
  public:

@@ -4,8 +4,8 @@
 
 #include <string_view>
 
-#include "core/Form_Words.h"
-#include "core/Picker_Form.h"
+#include "screens/Form_Words.h"
+#include "screens/Picker_Form.h"
 
 class Select_Mult_Form : public List_Picker_Form {
  protected:

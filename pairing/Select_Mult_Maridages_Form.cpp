@@ -1,7 +1,8 @@
 #include "pairing/Select_Mult_Maridages_Form.h"
 
-#include "core/Link_Search.h"
 #include "core/tables/Catalogue.h"
+#include "core/words/Select_Mult_Cat_Words.h"
+#include "links/Link_Search.h"
 #include "platform/run_time/Conversions.h"
 
 namespace {

@@ -1,12 +1,13 @@
 #include "pairing/Select_Mult_Varieties_Form.h"
 
 #include "core/Gereral_Processes.h"
-#include "core/Link_Decoders.h"
-#include "core/Link_Search.h"
-#include "core/Link_Store.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "core/words/Select_Mult_Varieties_Words.h"
+#include "links/Link_Decoders.h"
+#include "links/Link_Search.h"
+#include "links/Link_Store.h"
 #include "platform/run_time/Conversions.h"
 
 using Forms::Screen;

@@ -3,12 +3,12 @@
 #include <set>
 
 #include "core/Gereral_Processes.h"
-#include "core/List_Sorting.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Mobile_Wines_DB.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
+#include "screens/List_Sorting.h"
 
 namespace {
 

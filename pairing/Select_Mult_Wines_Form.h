@@ -2,7 +2,7 @@
 // main grape.
 #pragma once
 
-#include "core/Picker_Form.h"
+#include "screens/Picker_Form.h"
 
 class Select_Mult_Wines_Form : public Picker_Form {
  public:

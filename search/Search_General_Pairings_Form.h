@@ -2,7 +2,7 @@
 // of the menu leads here.
 #pragma once
 
-#include "core/Picker_Form.h"
+#include "screens/Picker_Form.h"
 
 class Search_General_Pairings_Form : public List_Picker_Form {
  public:

@@ -2,11 +2,11 @@
 
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
-#include "core/Link_Decoders.h"
 #include "core/MultiLanguage_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "links/Link_Decoders.h"
 
 using Forms::Screen;
 
@@ -137,7 +137,7 @@ void Select_Maridages_for_Wines_Form::Load_Suggestions() {
   const bool known = !Varieties_Recordset.NoMatch();
   if (known) Read_Varieties_Record();
   Close_Table(Varieties_Recordset);
-  if (known) Fill_Lists_with_Variety_Maridages(Candidate_Lines);
+  if (known) Fill_Lists_with_Variety_Maridages(Cat_List, Cat_Index_List);
   Show_Candidates();
 }
 

@@ -2,7 +2,7 @@
 // them, or from those that a grape suggests.
 #pragma once
 
-#include "core/Picker_Form.h"
+#include "screens/Picker_Form.h"
 
 class Select_Maridages_for_Wines_Form : public List_Picker_Form {
  public:

@@ -1,13 +1,13 @@
 #include "search/Wine_Search_Results_Form.h"
 
 #include "core/Globals.h"
-#include "core/Link_Search.h"
-#include "core/List_Sorting.h"
-#include "core/Varieties_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "links/Link_Search.h"
+#include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
+#include "screens/List_Sorting.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 // wine's pairings the selection: what is listed after an uncorking goes by these.
 #pragma once
 
-#include "core/Wine_Screen.h"
+#include "screens/Wine_Screen.h"
 
 class Wine_Search_Results_Form : public Wine_Screen {
  public:

@@ -3,7 +3,10 @@
 #include <set>
 #include <span>
 
-#include "core/Screen_Words.h"
+#include "core/words/Cate_Add_Form_Words.h"
+#include "core/words/Select_Mult_Cat_Words.h"
+#include "core/words/Select_Mult_Varieties_Words.h"
+#include "core/words/Wine_Cellar_Form_Words.h"
 #include "tools/Compile_Library.h"
 #include "tools/Vocabulary.h"
 

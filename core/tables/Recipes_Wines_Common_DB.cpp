@@ -1,6 +1,5 @@
 #include "core/tables/Recipes_Wines_Common_DB.h"
 
-#include "core/Globals.h"
 #include "core/tables/Link_Tables.h"
 #include "core/tables/Pairing_Tables.h"
 #include "core/tables/Wine_Tables.h"

@@ -7,6 +7,10 @@
 #include <string_view>
 
 #include "platform/record_store/Record_Store.h"
+#include "platform/run_time/Values.h"
+
+/// Where the data file is. Set at start-up.
+inline Text Wine_Cellar_DB_Path;
 
 /// The one data file. Opened at start-up, held open until the process ends.
 inline std::unique_ptr<Record_Store::Database> Wine_Cellar_DB;

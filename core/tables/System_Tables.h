@@ -33,6 +33,9 @@ struct Cellars_Record {
 inline Cellars_Record Cellars;
 inline Record_Store::Recordset Cellars_Recordset;  ///< open only while in use
 
+/// `ID` of the current row of `Cellars`; new wines take it. Set at start-up and by the menu.
+inline Integer Current_Cellar_ID = 0;
+
 extern const Tables::Table<Cellars_Record> Cellars_Description;
 
 // ---- Photos: every key of this table is text, given by the program ----

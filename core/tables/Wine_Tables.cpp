@@ -1,6 +1,6 @@
 #include "core/tables/Wine_Tables.h"
 
-#include "core/Globals.h"
+#include "core/tables/System_Tables.h"
 
 const Tables::Table<Wines_Record> Wines_Description = [] {
   using R = Wines_Record;

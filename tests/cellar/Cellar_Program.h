@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "core/tables/Wine_Tables.h"
-#include "tests/core/Program_Folder.h"
 #include "tests/support/Drive.h"
+#include "tests/support/Program_Folder.h"
 
 /// A winery of the delivered file, and what its region and country offer with it.
 struct Sample_Winery {

@@ -5,8 +5,8 @@
 #include <functional>
 
 #include "core/Globals.h"
-#include "core/Varieties_Processes.h"
 #include "core/tables/Geography_Tables.h"
+#include "links/Varieties_Processes.h"
 #include "platform/forms/Forms.h"
 #include "platform/forms/Screens.h"
 #include "platform/run_time/Guard.h"

@@ -7,8 +7,8 @@
 #include "core/tables/Cellar_DB_Processes.h"
 #include "platform/forms/Application.h"
 #include "platform/record_store/Text_Order.h"
-#include "tests/core/Program_Folder.h"
 #include "tests/support/Expect_Failure.h"
+#include "tests/support/Program_Folder.h"
 
 namespace {
 

@@ -12,9 +12,9 @@
 #include "core/MultiLanguage_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "platform/forms/Screens.h"
-#include "tests/core/Program_Folder.h"
 #include "tests/support/Drive.h"
 #include "tests/support/Expect_Failure.h"
+#include "tests/support/Program_Folder.h"
 
 namespace {
 

@@ -8,7 +8,8 @@ failures=0
 
 # Every header that the lines below name.
 headers="platform/run_time/R.h platform/run_time/Locale.h platform/record_store/S.h platform/record_store/Text_Order.h
-  platform/forms/F.h platform/files/D.h core/C.h cellar/W.h media/M.h search/X.h app/A.h tools/T.h
+  platform/forms/F.h platform/files/D.h core/C.h core/tables/B.h
+  links/L.h screens/N.h cellar/W.h media/M.h search/X.h app/A.h tools/T.h
   tests/support/U.h"
 
 for header in $headers; do
@@ -39,6 +40,10 @@ yes app/main.cpp "cellar/W.h"
 yes app/main.cpp <QApplication>
 yes cellar/A.cpp "core/C.h"
 yes cellar/A.cpp "cellar/W.h"
+yes cellar/A.cpp "screens/N.h"
+yes screens/A.cpp "links/L.h"
+yes links/A.cpp "core/C.h"
+yes core/A.cpp "core/tables/B.h"
 yes core/A.cpp "platform/forms/F.h"
 yes core/A.cpp "platform/record_store/S.h"
 yes platform/forms/A.cpp "platform/record_store/Text_Order.h"
@@ -57,6 +62,10 @@ no  cellar/A.cpp "app/A.h"
 no  cellar/A.cpp "media/M.h"
 no  cellar/A.cpp <QString>
 no  cellar/A.cpp "tests/support/U.h"
+no  core/tables/A.cpp "core/C.h"
+no  core/A.cpp "links/L.h"
+no  links/A.cpp "screens/N.h"
+no  screens/A.cpp "cellar/W.h"
 no  core/A.cpp "search/X.h"
 no  core/A.cpp "tools/T.h"
 no  core/A.cpp <QtCore/QString>

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-#include "core/Varieties_Processes.h"
+#include "links/Varieties_Processes.h"
 #include "platform/forms/Forms.h"
 #include "platform/forms/Screens.h"
 #include "tests/forms/Row_Clicks.h"

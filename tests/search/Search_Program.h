@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "core/Globals.h"
-#include "core/Varieties_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "links/Varieties_Processes.h"
 #include "platform/forms/Forms.h"
 #include "platform/forms/Screens.h"
 #include "platform/run_time/Conversions.h"

@@ -1,0 +1,21 @@
+// The picker of grape varieties.
+#pragma once
+
+#include "core/words/Screen_Words.h"
+
+namespace Screen_Words {
+
+inline constexpr std::array<Row, 22> Select_Mult_Varieties{
+    {{"Add_Command", "Cap"},          {"Label1", "Cap"},
+     {"MSelectLab1", "Cap"},          {"MSelectLab2", "Cap"},
+     {"MSelectLab3", "Cap"},          {"MultCancel", "Cap"},
+     {"MultSelect", "Cap"},           {"Remove_Command", "Cap"},
+     {"Keys_Label", "Cap"},           {"Select_Mult_Varieties_Form", "Frm"},
+     {"Add_Command_Tip", "Head"},     {"Cat_List_Tip", "Head"},
+     {"MultCancel_Tip", "Head"},      {"MultSelect_Tip", "Head"},
+     {"Remove_Command_Tip", "Head"},  {"SelectList_Tip", "Head"},
+     {"Selected_Number_Tip", "Head"}, {"Cheese_Word", "Head"},
+     {"Region_Text", "Head"},         {"Region_Title", "Head"},
+     {"Cheese_Text", "Head"},         {"Cheese_Title", "Head"}}};
+
+}  // namespace Screen_Words

@@ -1,0 +1,245 @@
+#include "links/Link_Decoders.h"
+
+#include <array>
+#include <utility>
+
+#include "core/Globals.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "links/Links.h"
+#include "links/Varieties_Processes.h"
+#include "platform/run_time/Conversions.h"
+
+using Record_Store::Recordset;
+
+namespace {
+
+constexpr int rows_looked_at = 10;
+
+// Calls `decode()` for each row of the owner, its group and mask in `Decoded_Group` and
+// `Decoded_Mask`. The table is open.
+template <class Decode>
+void Each_Link(const Links& links, Long owner, const Decode& decode) {
+  Decoded_Count = 0;
+  links.rows.Index(links.owner);
+  links.rows.Seek("=", owner);
+  for (; !links.rows.NoMatch() && !links.rows.Eof(); links.rows.MoveNext()) {
+    if (links.rows.Fields(links.owner).As_Long() != owner) break;
+    Decoded_Group = links.rows.Fields("GROUP").As_Long() / 10;
+    Decoded_Mask = links.rows.Fields("SUBCATEGO").As_Long();
+    decode();
+  }
+}
+
+// ---- pairings, straight from the rows ----
+
+using Maridages_Found = Bounded_Array<Decoded_Maridage, 100>;
+
+void Take_Maridage(Maridages_Found& found) {
+  using M = Decoded_Maridage;
+  constexpr std::array<std::pair<const char*, Text M::*>, 8> texts{
+      {{"Maridage_Name", &M::Maridage_Name},
+       {"English", &M::English},
+       {"Spanish", &M::Spanish},
+       {"French", &M::French},
+       {"German", &M::German},
+       {"Italian", &M::Italian},
+       {"Japanese", &M::Japanese},
+       {"Portuguese", &M::Portuguese}}};
+  Decoded_Maridage& maridage = found[++Decoded_Count];
+  maridage.Maridage_ID = Maridages_Recordset.Fields("Maridage_ID").As_Long();
+  for (const auto& [field, member] : texts) {
+    maridage.*member = Maridages_Recordset.Fields(field).As_Text();
+  }
+}
+
+// From the current row of `Maridages` on, past the end of the table too.
+bool Find_Maridage(Long subgroup) {
+  for (int row = 0; row < rows_looked_at; ++row) {
+    if (Maridages_Recordset.Fields("Maridage_SubGr").As_Long() == subgroup) return true;
+    Maridages_Recordset.MoveNext();
+  }
+  return false;
+}
+
+void Load_Maridages(const Links& links, Long owner, Maridages_Found& found) {
+  Maridages_Recordset.Index("Maridage_GROUP");
+  Each_Link(links, owner, [&] {
+    Maridages_Recordset.Seek("=", Decoded_Group);
+    while (!Maridages_Recordset.NoMatch() && Decoded_Mask >= 1) {
+      if (Find_Maridage(Next_Subgroup_of_Mask(Decoded_Mask))) Take_Maridage(found);
+      Maridages_Recordset.Seek("=", Decoded_Group);
+    }
+  });
+}
+
+void Fill_Lists(const Links& links, void (*load)(), const Maridages_Found& found,
+                Forms::Item_List& texts, Forms::Item_List& keys) {
+  Open_Table(links.rows, links.table);
+  Open_Table(Maridages_Recordset, "Maridages");
+  load();
+  texts.Clear();
+  keys.Clear();
+  for (int item = 1; item <= Decoded_Count; ++item) {
+    Selected_Names[item] = found[item].Name_in_Language();
+    Selected_IDs[item] = To_Text(found[item].Maridage_ID);
+    texts.AddItem(Selected_Names[item]);
+    keys.AddItem(Selected_IDs[item]);
+  }
+  Selected_Count = Decoded_Count;
+  Close_Table(links.rows);
+  Close_Table(Maridages_Recordset);
+}
+
+// ---- by way of a memory record ----
+
+/// The table whose rows a mask names: its memory record's address, and how the current row is read.
+struct Named {
+  Recordset& rows;
+  void (*read)();
+  const Long& group;
+  const Long& subgroup;
+};
+const Named varieties{Varieties_Recordset, Read_Varieties_Record, Varieties.Variety_Group,
+                      Varieties.Variety_SubGr};
+const Named maridages{Maridages_Recordset, Read_Maridages_Record, Maridages.Maridage_Group,
+                      Maridages.Maridage_SubGr};
+
+/// Whether the walks behind the first one of a link row look at the group's first row again.
+enum class First_Row { Is_Looked_At, Is_Passed_Over };
+
+// From the current row on; the memory record holds it, unless it is passed over.
+bool Find_Subgroup(const Named& named, Long subgroup, First_Row first) {
+  for (int row = 0; row < rows_looked_at; ++row) {
+    if (row > 0 || first == First_Row::Is_Looked_At) {
+      if (named.group != Decoded_Group) return false;
+      if (named.subgroup == subgroup) return true;
+    }
+    named.rows.MoveNext();
+    if (named.rows.Eof()) return false;
+    named.read();
+  }
+  return false;
+}
+
+template <class Take>
+void Decode_Row(const Named& named, First_Row later, const Take& take) {
+  named.rows.Seek("=", Decoded_Group);
+  if (named.rows.NoMatch()) return;
+  named.read();
+  First_Row first = First_Row::Is_Looked_At;
+  while (Decoded_Mask >= 1) {
+    if (Find_Subgroup(named, Next_Subgroup_of_Mask(Decoded_Mask), first)) take();
+    named.rows.Seek("=", Decoded_Group);
+    first = later;
+    if (first == First_Row::Is_Looked_At) named.read();
+  }
+}
+
+// ---- the rebuilds ----
+
+void Remove_All_Rows(Recordset& rows) {
+  for (; !rows.Eof(); rows.MoveNext()) rows.Delete();
+}
+
+}  // namespace
+
+void Load_Maridages_of_Wine() {
+  Load_Maridages(Pairings_of_Wines, Wines.Wine_ID, Decoded_Maridages);
+}
+
+void Load_Maridages_of_Mobile_Wine() {
+  Load_Maridages(Pairings_of_Mobile_Wines, Mobile_Wines.Mobile_Wine_ID, Decoded_Maridages);
+}
+
+void Load_Maridages_of_Variety() {
+  Load_Maridages(Pairings_of_Varieties, Varieties.Variety_ID, Decoded_Maridages);
+}
+
+void Load_Maridages_of_Cheese() {
+  Load_Maridages(Pairings_of_Cheeses, Cheeses.Cheese_ID, Decoded_Cheese_Maridages);
+}
+
+void Fill_Lists_with_Wine_Maridages(Forms::Item_List& texts, Forms::Item_List& keys) {
+  Fill_Lists(Pairings_of_Wines, Load_Maridages_of_Wine, Decoded_Maridages, texts, keys);
+}
+
+void Fill_Lists_with_Variety_Maridages(Forms::Item_List& texts, Forms::Item_List& keys) {
+  Fill_Lists(Pairings_of_Varieties, Load_Maridages_of_Variety, Decoded_Maridages, texts, keys);
+}
+
+void Fill_Lists_with_Cheese_Maridages(Forms::Item_List& texts, Forms::Item_List& keys) {
+  Fill_Lists(Pairings_of_Cheeses, Load_Maridages_of_Cheese, Decoded_Cheese_Maridages, texts, keys);
+}
+
+bool Wine_Has_Maridages() {
+  Open_Table(Maridages_Per_Wines_Recordset, "Maridages_Per_Wines", "Wine_ID");
+  Maridages_Per_Wines_Recordset.Seek("=", Wines.Wine_ID);
+  const bool has = !Maridages_Per_Wines_Recordset.NoMatch();
+  Close_Table(Maridages_Per_Wines_Recordset);
+  return has;
+}
+
+void Load_Varieties_of_Region() {
+  Open_Table(Varieties_Recordset, "Varieties", "Variety_GROUP");
+  Open_Table(Varieties_Per_Region_Recordset, "Varieties_Per_Region");
+  Each_Link(Varieties_of_Regions, Regions.Region_ID, [] {
+    Decode_Row(varieties, First_Row::Is_Looked_At, [] {
+      Decoded_Items[++Decoded_Count] = {Varieties.Variety_ID, Varieties.Variety_Name,
+                                        Varieties.Variety_Color};
+    });
+  });
+  Close_Table(Varieties_Per_Region_Recordset);
+  Close_Table(Varieties_Recordset);
+}
+
+void Load_Maridage_IDs_of_Variety() {
+  Open_Table(Maridages_Recordset, "Maridages", "Maridage_GROUP");
+  Open_Table(Maridages_Per_Variety_Recordset, "Maridages_Per_Variety");
+  Each_Link(Pairings_of_Varieties, Varieties.Variety_ID, [] {
+    Decode_Row(maridages, First_Row::Is_Passed_Over, [] {
+      Decoded_Items[++Decoded_Count] = {Maridages.Maridage_ID, Maridages.Maridage_Name, {}};
+    });
+  });
+  Close_Table(Maridages_Per_Variety_Recordset);
+  Close_Table(Maridages_Recordset);
+}
+
+void Genera_Regions_Per_Variety() {
+  Open_Table(Regions_Per_Variety_Recordset, "Regions_Per_Variety");
+  Remove_All_Rows(Regions_Per_Variety_Recordset);
+  Open_Table(Regions_Recordset, "Regions");
+  for (; !Regions_Recordset.Eof(); Regions_Recordset.MoveNext()) {
+    Read_Regions_Record();
+    Load_Varieties_of_Region();
+    for (int item = 1; item <= Decoded_Count; ++item) {
+      Init_Regions_Per_Variety_Record();
+      Regions_Per_Variety.Region_ID = To_Integer(static_cast<double>(Regions.Region_ID));
+      Regions_Per_Variety.Variety_ID = To_Integer(static_cast<double>(Decoded_Items[item].ID));
+      Regions_Per_Variety_Recordset.AddNew();
+      Write_Regions_Per_Variety_Record();
+    }
+  }
+  Close_Table(Regions_Recordset);
+  Close_Table(Regions_Per_Variety_Recordset);
+}
+
+void Genera_Varieties_Per_Maridage() {
+  Open_Table(Varieties_Per_Maridage_Recordset, "Varieties_Per_Maridage");
+  Remove_All_Rows(Varieties_Per_Maridage_Recordset);
+  Open_Table(Varieties_Recordset, "Varieties");
+  for (; !Varieties_Recordset.Eof(); Varieties_Recordset.MoveNext()) {
+    Read_Varieties_Record();
+    Load_Maridage_IDs_of_Variety();
+    for (int item = 1; item <= Decoded_Count; ++item) {
+      Init_Varieties_Per_Maridage_Record();
+      Varieties_Per_Maridage.Variety_ID = Varieties.Variety_ID;
+      Varieties_Per_Maridage.Maridage_ID = Decoded_Items[item].ID;
+      Varieties_Per_Maridage_Recordset.AddNew();
+      Write_Varieties_Per_Maridage_Record();
+    }
+  }
+  Close_Table(Varieties_Recordset);
+  Close_Table(Varieties_Per_Maridage_Recordset);
+}

@@ -1,0 +1,89 @@
+// The owner's rows of a link table are replaced by the merged addresses.
+#include "links/Link_Store.h"
+
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "links/Links.h"
+#include "links/Varieties_Processes.h"
+#include "platform/run_time/Conversions.h"
+
+namespace {
+
+/// Pair rows, which are removed as link rows are.
+const Links mobile_wines_of_pairings{Mobile_Wines_per_Maridage_Recordset,
+                                     "Mobile_Wines_per_Maridage", "Mobile_Wine_ID"};
+
+// Of the open table.
+void Remove_Rows(const Links& links, Long owner) {
+  links.rows.Index(links.owner);
+  links.rows.Seek("=", owner);
+  for (; !links.rows.NoMatch() && !links.rows.Eof(); links.rows.MoveNext()) {
+    if (links.rows.Fields(links.owner).As_Long() != owner) break;
+    links.rows.Delete();
+  }
+}
+
+void Remove_All(const Links& links, Long owner) {
+  Open_Table(links.rows, links.table);
+  Remove_Rows(links, owner);
+  Close_Table(links.rows);
+}
+
+// A table with serial numbers is read with them: none may be missing.
+void Add_Groups(const Links& links, Long owner, const Text& serial) {
+  for (int group = 1; group <= Group_Count; ++group) {
+    links.rows.AddNew();
+    links.rows.Fields(links.owner) = owner;
+    links.rows.Fields("GROUP") = To_Long(Group_Keys[group] * 10.0);
+    links.rows.Fields("SUBCATEGO") = Group_Masks[group];
+    if (!serial.empty()) links.rows.Fields("SERIAL_NUMBER") = serial;
+    links.rows.Update();
+  }
+}
+
+void Store(const Links& links, Long owner, void (*build)(), const Text& serial = {}) {
+  Open_Table(links.rows, links.table);
+  build();
+  Remove_Rows(links, owner);
+  Add_Groups(links, owner, serial);
+  Close_Table(links.rows);
+}
+
+}  // namespace
+
+Text Serial_of_User(const Text& key) { return "CUS" + key; }
+Text Dated_Serial_of_User(const Text& key) {
+  return Serial_of_User(key) + "-" + Format_Date(Now());
+}
+
+void Store_Wine_Maridages() { Store(Pairings_of_Wines, Wines.Wine_ID, Build_Wine_Maridage_Groups); }
+
+// The new rows of the pair table are written by the build: the old ones go before it.
+void Store_Mobile_Wine_Maridages() {
+  Remove_All(Pairings_of_Mobile_Wines, Mobile_Wines.Mobile_Wine_ID);
+  Remove_All(mobile_wines_of_pairings, Mobile_Wines.Mobile_Wine_ID);
+  Store(Pairings_of_Mobile_Wines, Mobile_Wines.Mobile_Wine_ID, Build_Mobile_Wine_Maridage_Groups);
+}
+
+void Store_Variety_Maridages() {
+  Store(Pairings_of_Varieties, Varieties.Variety_ID, Build_Variety_Maridage_Groups,
+        Dated_Serial_of_User(To_Text(Varieties.Variety_ID)));
+}
+
+// Foods of a cheese are no cheeses of a wine: the build of the wines serves both.
+void Store_Cheese_Maridages() {
+  Store(Pairings_of_Cheeses, Cheeses.Cheese_ID, Build_Wine_Maridage_Groups);
+}
+
+void Store_Region_Varieties() {
+  Store(Varieties_of_Regions, Regions.Region_ID, Build_Region_Variety_Groups,
+        Serial_of_User(To_Text(Regions.Region_ID)));
+}
+
+void Store_Cheese_Varieties() {
+  Store(Varieties_of_Cheeses, Cheeses.Cheese_ID, Build_Cheese_Variety_Groups,
+        Serial_of_User(To_Text(Cheeses.Cheese_ID)));
+}
+
+void Remove_Variety_Maridages() { Remove_All(Pairings_of_Varieties, Varieties.Variety_ID); }

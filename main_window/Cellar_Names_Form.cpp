@@ -1,0 +1,103 @@
+#include "main_window/Cellar_Names_Form.h"
+
+#include "core/Gereral_Processes.h"
+#include "core/Globals.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "platform/forms/Layout.h"
+#include "platform/forms/Message_Box.h"
+#include "platform/forms/Screens.h"
+#include "platform/run_time/Conversions.h"
+
+Cellar_Names_Form::Cellar_Names_Form() : Form("Cellar_Names_Form", "Cellar Names Information") {
+  Lay_Out();
+  Cellar1_Name_Text.Change = [this] { Name_Text_Change(Cellar1_Name_Text, Cellar2_Name_Text); };
+  Cellar2_Name_Text.Change = [this] { Name_Text_Change(Cellar2_Name_Text, Cellar1_Name_Text); };
+  General_Command.Click = [this] { General_Command_Click(); };
+  Exit_Command.Click = [this] { Leave(); };
+  for (Forms::Text_Box* box : {&Cellar1_Name_Text, &Cellar2_Name_Text}) box->Set_Tag("0");
+}
+
+void Cellar_Names_Form::Lay_Out() {
+  constexpr int name_width = 32;
+  Set_Content(Forms::Column(
+      {Forms::Fields({{Cellar1_Name_Label, Forms::Place(Cellar1_Name_Text).Wide(name_width)},
+                      {Cellar2_Label, Forms::Place(Cellar2_Name_Text).Wide(name_width)}}),
+       Forms::Stretch(), Forms::Buttons({General_Command, Exit_Command})}));
+  Set_Exit(Exit_Command);
+}
+
+void Cellar_Names_Form::Form_Load() {
+  command_ = Current_Command;
+  if (command_ == "CellarNames") {
+    Cellar1_Name_Text.Set_BackColor(Forms::Required_Color);
+    Cellar2_Name_Text.Set_BackColor(Forms::Required_Color);
+    General_Command.Set_Enabled(false);
+  } else if (command_ == "CellarMod") {
+    filling_ = true;
+    Open_Table(Cellars_Recordset, "Cellars");
+    Cellar1_Name_Text.Set_Text(Cellars_Recordset.Fields("Cellar_Name").As_Text());
+    Cellars_Recordset.MoveNext();
+    Cellar2_Name_Text.Set_Text(Cellars_Recordset.Fields("Cellar_Name").As_Text());
+    filling_ = false;
+  }
+}
+
+void Cellar_Names_Form::Name_Text_Change(Forms::Text_Box& changed, const Forms::Text_Box& other) {
+  if (filling_) return;
+  const bool given = !Trim(changed.Text()).empty();
+  changed.Set_BackColor(given ? Forms::Window_Color : Forms::Required_Color);
+  changed.Set_Tag(given ? "1" : "0");
+  General_Command.Set_Enabled(given && other.Tag() == "1");
+}
+
+void Cellar_Names_Form::General_Command_Click() {
+  if (command_ == "CellarNames") Name_Cellars();
+  if (command_ == "CellarMod") Modify_Names();
+}
+
+void Cellar_Names_Form::Name_Cellars() {
+  Open_Table(Cellars_Recordset, "Cellars");
+  Cellars_Recordset.Edit();
+  Cellars_Recordset.Fields("Cellar_Name") = Cellar1_Name_Text.Text();
+  Cellars_Recordset.Update();
+  Cellars_Recordset.AddNew();
+  Cellars_Recordset.Fields("Cellar_Name") = Cellar2_Name_Text.Text();
+  Cellars_Recordset.Update();
+  Current_Cellar_Name = Cellar1_Name_Text.Text();
+  Set_Commands_Multiple_Cellars();
+  Close_Table(Cellars_Recordset);
+  Forms::Message_Box("Cellar Names were saved successfully", "CELLAR NAMES SAVED");
+  Leave();
+}
+
+void Cellar_Names_Form::Modify_Names() {
+  Open_Table(Cellars_Recordset, "Cellars");
+  for (const Forms::Text_Box* box : {&Cellar1_Name_Text, &Cellar2_Name_Text}) {
+    if (box == &Cellar2_Name_Text) Cellars_Recordset.MoveNext();
+    Cellars_Recordset.Edit();
+    Cellars_Recordset.Fields("Cellar_Name") = box->Text();
+    Cellars_Recordset.Update();
+    if (Cellars_Recordset.Fields("ID").As_Long() == Current_Cellar_ID) {
+      Current_Cellar_Name = box->Text();
+    }
+  }
+  Set_Commands_Multiple_Cellars();
+  Close_Table(Cellars_Recordset);
+  Forms::Message_Box("Cellar Names were MODIFIED successfully", "CELLAR NAMES MODIFIED");
+  Leave();
+}
+
+void Cellar_Names_Form::Set_Commands_Multiple_Cellars() {
+  Wine_System.System_Initialized = true;
+  Show_Named_Cellars(Cellar1_Name_Text.Text(), Cellar2_Name_Text.Text());
+}
+
+// The main window, where another screen hid it, comes back with that one: two screens that work on
+// the same memory records are never open at once.
+void Cellar_Names_Form::Leave() {
+  const bool beside_main_window = Forms::Screen("Wine_Cellar_Form").Visible();
+  Unload();
+  if (beside_main_window) Forms::Screen("Wine_Cellar_Form").Show();
+}

@@ -1,0 +1,212 @@
+#include "screens/Picker_Form.h"
+
+#include <algorithm>
+
+#include "core/Globals.h"
+#include "core/MultiLanguage_Processes.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "links/Link_Search.h"
+#include "platform/run_time/Conversions.h"
+
+using Forms::Screen;
+
+namespace {
+
+constexpr int most_before_refusal = 100;
+constexpr const char* main_window = "Wine_Cellar_Form";
+constexpr const char* results = "Wine_Search_Results_Form";
+
+}  // namespace
+
+Picker_Form::Picker_Form(std::string_view name, std::string_view caption,
+                         std::string_view cancel_name)
+    : Form(name, caption), command_(Current_Command), MultCancel(*this, cancel_name, "CANCEL") {
+  for (Forms::Command_Button* button : {&Add_Command, &Remove_Command, &MultSelect}) {
+    button->Set_Enabled(false);
+  }
+  Add_Command.Click = [this] { Add_Command_Click(); };
+  Remove_Command.Click = [this] { Remove_Command_Click(); };
+  MultSelect.Click = [this] { MultSelect_Click(); };
+  MultCancel.Click = [this] { MultCancel_Click(); };
+  SelectList.Click = [this] { SelectList_Click(); };
+  SelectList.DblClick = [this] { Remove_Command_Click(); };
+  SelectList.Delete_Pressed = [this] { Remove_by_Key(); };
+}
+
+void Picker_Form::Form_Activate() { Current_Command = command_; }
+
+// ---- the chosen list ----
+
+void Picker_Form::Clear_Chosen() {
+  Chosen_Lines.Clear();
+  Show_Chosen();
+}
+
+void Picker_Form::Choose(const Entry& entry) {
+  Chosen_Lines.Add(entry.text, entry.key);
+  Show_Chosen();
+}
+
+void Picker_Form::Choose_Those_of(const char* screen, const char* list, const char* keys) {
+  Clear_Chosen();
+  if (!Screen(screen).Is_Loaded()) return;
+  const auto& texts = Screen(screen).Get<Forms::Item_List>(list);
+  const auto& their_keys = Screen(screen).Get<Forms::Item_List>(keys);
+  for (int place = 0; place < texts.ListCount(); ++place) {
+    Choose({texts.List(place), their_keys.List(place)});
+  }
+}
+
+// The list on the wine's screen is the selection; the keys beside it may be older.
+void Picker_Form::Choose_Pairings_of_Wine() {
+  if (!Screen("Wine_Form").Is_Loaded()) return;
+  const auto& pairings = Screen("Wine_Form").Get<Forms::List_Box>("Pairing_List");
+  for (int pairing = 1; pairing <= pairings.ListCount(); ++pairing) {
+    Choose({pairings.List(pairing - 1), Selected_IDs[pairing]});
+  }
+}
+
+bool Picker_Form::Is_Chosen(const Entry& entry) const {
+  for (int place = 0; place < SelectList.ListCount(); ++place) {
+    if (Trim(SelectList.List(place)) == Trim(entry.text)) return true;
+  }
+  return Chosen_Lines.Place_Of(entry.key) >= 0;
+}
+
+void Picker_Form::Show_Chosen() {
+  Selected_Number.Set_Caption(To_Text(SelectList.ListCount()));
+  MultSelect.Set_Enabled(SelectList.ListCount() > 0 || May_Be_Empty());
+  Remove_Command.Set_Enabled(SelectList.ListIndex() >= 0);
+}
+
+void Picker_Form::SelectList_Click() { Remove_Command.Set_Enabled(true); }
+
+// The refusal says no more than the number.
+void Picker_Form::Add_Command_Click() {
+  const std::optional<Entry> entry = Current_Entry();
+  if (!entry || Is_Chosen(*entry)) return;
+  if (SelectList.ListCount() > most_before_refusal) {
+    Forms::Message_Box("\r  100", "");
+    return;
+  }
+  Choose(*entry);
+  SelectList.EnsureVisible(SelectList.ListCount() - 1);
+}
+
+void Picker_Form::Remove_Command_Click() {
+  const int place = SelectList.ListIndex();
+  if (place < 0) return;
+  SelectList.RemoveItem(place);
+  SelectIndexList.RemoveItem(place);
+  Show_Chosen();
+  SelectList.SetFocus();
+}
+
+// Who takes out several by the key goes on with the next one.
+void Picker_Form::Remove_by_Key() {
+  const int place = SelectList.ListIndex();
+  Remove_Command_Click();
+  const int next = std::min(place, SelectList.ListCount() - 1);
+  if (next >= 0) SelectList.Set_ListIndex(next);
+}
+
+void Picker_Form::MultSelect_Click() {
+  Selected_Count = To_Integer(static_cast<double>(SelectList.ListCount()));
+  for (int entry = 1; entry <= Selected_Count; ++entry) {
+    Selected_Names[entry] = SelectList.List(entry - 1);
+    Selected_IDs[entry] = SelectIndexList.List(entry - 1);
+  }
+  Proceed();
+}
+
+// ---- where it leads ----
+
+void Picker_Form::Leave_to(std::string_view screen) {
+  Unload();
+  Screen(Screen(screen).Exists() ? screen : main_window).Show();
+}
+
+bool Picker_Form::Command_Is(std::initializer_list<const char*> commands) const {
+  return std::ranges::find(commands, command_) != commands.end();
+}
+
+std::string_view Picker_Form::Caller() const {
+  if (Command_Is({"WineAdd", "WineMod"})) return "Wine_Form";
+  if (Command_Is({"WineOtherAdd", "WineOtherMod"})) return "Mobile_Wine_Form";
+  if (Command_Is({"VarietyAdd", "VarietyMod", "VarietyPairings"})) return "Varieties_Form";
+  if (Command_Is({"CheeseAdd", "CheeseMod"})) return "Cheeses_Form";
+  if (Command_Is({"VarietiesAddRegion"})) return "Regions_Form";
+  return main_window;
+}
+
+void Picker_Form::Tag_Pairings_of(const char* wine_screen) {
+  if (!Screen(wine_screen).Is_Loaded()) return;
+  Screen(wine_screen).Control("Pairing_List").Set_Tag("1");
+  Screen(wine_screen).Control("Pairings_Add_Command").Set_Tag("1");
+}
+
+bool Picker_Form::Show_Found_Wines() {
+  Search_Wines_for_Maridages();
+  if (Found_Count == 0) {
+    Screen(results).Unload();
+    return false;
+  }
+  Screen(results).Open();
+  Hide();
+  return true;
+}
+
+// ---- places ----
+
+Forms::Place Picker_Form::Under_Heading(Forms::Label& heading, Forms::Label& number,
+                                        Forms::Placed_Control& list, int characters) {
+  constexpr int list_height = 22;
+  heading.Set_Buddy(list);
+  return Forms::Column({Forms::Row({heading, Forms::Stretch(), number}),
+                        Forms::Place(list).Wide(characters).High(list_height).Grow()});
+}
+
+Forms::Place Picker_Form::Moves_Place() {
+  return Forms::Column({Forms::Stretch(), Add_Command, Remove_Command, Forms::Stretch()});
+}
+
+Forms::Place Picker_Form::Ways_Out_Place() {
+  Set_Exit(MultCancel);
+  return Forms::Column({Keys_Label, Forms::Buttons({MultSelect, MultCancel})});
+}
+
+// ---- with a list of texts ----
+
+List_Picker_Form::List_Picker_Form(std::string_view name, std::string_view caption)
+    : Picker_Form(name, caption) {
+  Cat_List.Click = [this] { Add_Command.Set_Enabled(true); };
+  Cat_List.DblClick = [this] { Add_Command_Click(); };
+  Cat_List.Enter_Pressed = [this] { Add_Command_Click(); };
+}
+
+std::optional<Picker_Form::Entry> List_Picker_Form::Current_Entry() const {
+  if (Cat_List.ListIndex() < 0) return std::nullopt;
+  return Entry{Cat_List.Text(), Candidate_Lines.Key()};
+}
+
+void List_Picker_Form::Load_Pairings(Integer highest_multiuse) {
+  Candidate_Lines.Clear();
+  Open_Table(Maridages_Recordset, "Maridages", Language_Name_From_Number(System_Language));
+  const int multiuse_at = Maridages_Recordset.Ordinal("Multiuse");
+  const int key_at = Maridages_Recordset.Ordinal("Maridage_ID");
+  for (; !Maridages_Recordset.Eof(); Maridages_Recordset.MoveNext()) {
+    const Integer multiuse = Maridages_Recordset.Fields(multiuse_at).As_Integer();
+    if (multiuse < 2 || multiuse > highest_multiuse) continue;
+    Candidate_Lines.Add(Maridages_Recordset.Fields(System_Language + 2).As_Text(),
+                        Maridages_Recordset.Fields(key_at).As_Text());
+  }
+  Close_Table(Maridages_Recordset);
+  Show_Candidates();
+}
+
+void List_Picker_Form::Show_Candidates() {
+  Cat_Number.Set_Caption(To_Text(Cat_List.ListCount()));
+  Add_Command.Set_Enabled(false);
+}

@@ -1,0 +1,131 @@
+// A stored wine on the fields.
+#include "core/Gereral_Processes.h"
+#include "core/Globals.h"
+#include "core/MultiLanguage_Processes.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "links/Link_Decoders.h"
+#include "platform/run_time/Conversions.h"
+#include "screens/Wine_Screen.h"
+
+using Forms::Locked_Color;
+
+namespace {
+
+constexpr const char* nothing = " ";  // stands in a field whose value was not given
+
+void Show_Alone(Forms::Combo_Box& combo, const Text& text) {
+  combo.Clear();
+  combo.AddItem(text);
+  combo.Set_ListIndex(0);
+}
+
+}  // namespace
+
+void Wine_Screen::Memory_to_Form_Unique() {
+  const Ignoring_Events ignoring;
+  Show_Winery();
+  Load_Country_Unique(Wineries.Country);
+  Country_Combo.Set_Tag("1");
+  Load_Region_Unique();
+  Show_Varieties_Alone();
+  Show_Lists_Alone();
+  Show_Texts_And_Numbers();
+  for (Forms::Lockable_Control* field : Entry_Fields()) {
+    if (field != &Winery_Combo && field != &Country_Combo) Lock(*field);
+  }
+  Winery_Combo.SetFocus();
+  Show_Marks_And_Pairings();
+}
+
+// By its key: names of wineries can stand twice. Where the list was never filled, the winery
+// becomes its one entry.
+void Wine_Screen::Show_Winery() {
+  const int place = Winery_Lines.Place_Of(Wineries.Winery_ID);
+  if (place >= 0) {
+    Winery_Combo.Set_ListIndex(place);
+  } else {
+    Winery_Lines.Show_Alone(Wineries.Winery_Name, Wineries.Winery_ID);
+  }
+}
+
+// A winery that was never read has no country, and shows none.
+void Wine_Screen::Load_Country_Unique(const Text& short_name) {
+  Open_Table(World_Contries_Recordset, "World_Contries", "Short_Name");
+  World_Contries_Recordset.Seek("=", short_name);
+  if (World_Contries_Recordset.NoMatch()) {
+    Country_Lines.Show_Alone("", short_name);
+  } else {
+    Country_Lines.Show_Alone(World_Contries_Recordset.Fields(Country_Name_Column()).As_Text(),
+                             World_Contries_Recordset.Fields("Short_Name").As_Text());
+  }
+  Close_Table(World_Contries_Recordset);
+}
+
+void Wine_Screen::Load_Region_Unique() {
+  Region_Lines.Show_Alone(Wineries.Region, To_Text(Wineries.Region_ID));
+  Lock(Region_Combo);
+}
+
+void Wine_Screen::Each_Variety_of_Wine(const std::function<void(const Text&)>& action) {
+  Open_Table(Varieties_of_Wines_Recordset, "Varieties_of_Wines", "Wine_ID");
+  Varieties_of_Wines_Recordset.Seek("=", Wines.Wine_ID);
+  for (; !Varieties_of_Wines_Recordset.NoMatch() && !Varieties_of_Wines_Recordset.Eof();
+       Varieties_of_Wines_Recordset.MoveNext()) {
+    if (Varieties_of_Wines_Recordset.Fields("Wine_ID").As_Long() != Wines.Wine_ID) break;
+    action(Varieties_of_Wines_Recordset.Fields("Variety_ID").As_Text());
+  }
+  Close_Table(Varieties_of_Wines_Recordset);
+}
+
+void Wine_Screen::Show_Varieties_Alone() {
+  Variety_Lines.Clear();
+  Variety_Combo.Set_BackColor(Locked_Color);
+  Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
+  Each_Variety_of_Wine([this](const Text& variety_id) {
+    Varieties_Recordset.Seek("=", variety_id);
+    Variety_Lines.Add(Varieties_Recordset.Fields("Variety_Name").As_Text(), variety_id);
+    Variety_Combo.Set_Selected(Variety_Combo.ListCount() - 1, true);
+  });
+  Close_Table(Varieties_Recordset);
+  Variety_Combo.Set_ListIndex(-1);
+}
+
+// The vintage comes before the peak: its event fills the peak years anew.
+void Wine_Screen::Show_Lists_Alone() {
+  const Text label = Wines.Label == "x" ? "No Label" : Wines.Label;
+  Label_Lines.Show_Alone(label, label);
+  Show_Alone(Vintage_Combo, To_Text(Wines.Vintage));
+  Show_Alone(Peak_Year_Combo, To_Text(Wines.Peak));
+  Show_Alone(Merit_Combo, Wines.Ranking == -1 ? nothing : To_Text(Wines.Ranking));
+  Show_Alone(Bottle_Size_Combo, Wines.Bottle_Size);
+  Show_Alone(Color_Combo, Wines.Color);
+  Color_Combo.Set_Tag("1");
+  const Text classification =
+      Wines.Clasification == "x" ? "NO Classification" : Wines.Clasification;
+  Classification_Lines.Show_Alone(classification, classification);
+}
+
+void Wine_Screen::Show_Texts_And_Numbers() {
+  Price_Text.Set_Text(Wines.Value_Guide == Currency::Of(-1) ? nothing : To_Text(Wines.Value_Guide));
+  Alcohol_Text.Set_Text(Wines.Alcohol == -1 ? nothing : To_Text(Wines.Alcohol));
+  Total_Bottles_Text.Set_Text(To_Text(Wines.Total_Bottles));
+  Fill_In(Total_Bottles_Text);
+  Description_Text.Set_Text(Data_Text(Wines.Description));
+  Comments_Text.Set_Text(Data_Text(Wines.Comments));
+  Last_Date_Uncorked_Text.Set_Text(
+      Wines.Last_Date_Uncorked == No_Date ? nothing : To_Text(Wines.Last_Date_Uncorked));
+  Date_Added_Text.Set_Text(To_Text(Wines.Date_Added));
+}
+
+// A wine without pairings leaves the selection as it is.
+void Wine_Screen::Show_Marks_And_Pairings() {
+  Boxes.Show_Marks_of(Wines.Wine_ID);
+  Pairing_Lines.Clear();
+  if (Wine_Has_Maridages()) Load_Wine_Maridages();
+}
+
+void Wine_Screen::Load_Wine_Maridages() {
+  Fill_Lists_with_Wine_Maridages(Pairing_List, Pairing_Index_List);
+}

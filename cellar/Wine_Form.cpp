@@ -17,7 +17,9 @@ constexpr const char* pick_first = "Please Select a Wine from the Cellar first";
 }  // namespace
 
 Wine_Form::Wine_Form()
-    : Wine_Screen("Wine_Form", "Wine Information", {8, 30, 28, 20, 38, 10, 7, 7, 7}) {
+    : Wine_Screen("Wine_Form", "Wine Information", {8, 30, 28, 20, 38, 10, 7, 7, 7},
+                  {"Vintage", "Winery", "Label", "Wine Region", "Grape Variety", "Color", "Merit",
+                   "Peak", "Stock"}) {
   for (Forms::Placed_Control* field : Gate_Fields()) field->Set_Tag("0");
   for (Forms::Control* field : {static_cast<Forms::Control*>(&Country_Combo),
                                 static_cast<Forms::Control*>(&Region_Combo)}) {
@@ -47,9 +49,6 @@ void Wine_Form::Set_Up_Handlers() {
   Wine_Cellar_ListView.ItemClick = [this](Forms::List_Item item) {
     Wine_Cellar_ListView_ItemClick(item);
   };
-  Wine_Cellar_ListView.ColumnClick = [this](const Forms::Column_Header& header) {
-    Wine_Cellar_ListView_ColumnClick(header);
-  };
   Winery_Add_Command.Click = [this] { Winery_Add_Command_Click(); };
   Label_Add_Command.Click = [this] { Label_Add_Command_Click(); };
   Pairings_Add_Command.Click = [this] { Pairings_Add_Command_Click(); };
@@ -62,17 +61,16 @@ void Wine_Form::Set_Up_Handlers() {
 // The screen of a new winery leaves it in the memory record and has this screen load anew: filling
 // the lists must not lose it.
 void Wine_Form::Form_Load() {
-  command_ = Current_Command;
   const Wineries_Record winery = Wineries;
   Ignore_Events = true;
   Load_Language_Words("Wine_Form");
-  if (command_ == "WineAdd") Load_for_Add();
-  if (command_ == "WineMod") Load_for_Mod();
-  if (command_ == "CellarView" || command_ == "CheeseParingsCellar") Load_for_View();
-  if (command_ == "WineUncork") Load_for_Uncork();
-  if (command_ == "WineDel") Load_for_Del();
-  if (command_ == "WineOtherAdd") Load_for_General_List("Add New Wine to the General List");
-  if (command_ == "WineOtherMod") Load_for_General_List("MODIFY Wine Information");
+  if (Command_Is("WineAdd")) Load_for_Add();
+  if (Command_Is("WineMod")) Load_for_Mod();
+  if (Command_Is("CellarView") || Command_Is("CheeseParingsCellar")) Load_for_View();
+  if (Command_Is("WineUncork")) Load_for_Uncork();
+  if (Command_Is("WineDel")) Load_for_Del();
+  if (Command_Is("WineOtherAdd")) Load_for_General_List("Add New Wine to the General List");
+  if (Command_Is("WineOtherMod")) Load_for_General_List("MODIFY Wine Information");
   Wineries = winery;
   Ignore_Events = false;
 }
@@ -166,36 +164,36 @@ void Wine_Form::Wait_for_Pick() {
 // ---- coming back ----
 
 void Wine_Form::Form_Activate() {
-  Current_Command = command_;
+  Command_Form::Form_Activate();
   const bool winery_or_label_is_new = Tag() == "1";
   if (winery_or_label_is_new) Update_for_New_Winery();
   Set_Tag("0");
   Should_Multi_Command_Be_Enabled();
   if (Pairings_Add_Command.Tag() == "1") Take_Over_Pairings();
-  if (command_ == "CheeseParingsCellar") Show_Requested_Wine();
+  if (Command_Is("CheeseParingsCellar")) Show_Requested_Wine();
 }
 
 void Wine_Form::Update_for_New_Winery() {
   const Wineries_Record winery = Wineries;
   Initialize_Winery();
-  const int place = Winery_Lines.Place_Of(winery.Winery_ID, 1);
+  const int place = Winery_Combo.Place_Of(winery.Winery_ID, 1);
   if (place > 0) Winery_Combo.Set_ListIndex(place);
 }
 
 // Under WineMod the keys keep their old lines ahead of the new ones; nothing reads them there.
 void Wine_Form::Take_Over_Pairings() {
-  if (command_ != "WineAdd" && command_ != "WineMod") return;
-  Pairing_List.Clear();
-  if (command_ == "WineAdd") Pairing_Index_List.Clear();
+  if (!Command_Is("WineAdd") && !Command_Is("WineMod")) return;
+  if (Command_Is("WineAdd")) Pairing_List.Keys().Clear();
+  Pairing_List.List_Box::Clear();
   Pairing_List.Set_BackColor(Forms::Window_Color);
   Pairings_Add_Command.Set_Tag("0");
   for (int pairing = 1; pairing <= Selected_Count; ++pairing) {
-    Pairing_Lines.Add(Selected_Names[pairing], Selected_IDs[pairing]);
+    Pairing_List.Add(Selected_Names[pairing], Selected_IDs[pairing]);
   }
 }
 
 void Wine_Form::Show_Requested_Wine() {
-  std::optional<Forms::List_Item> item = Item_of_Wine(Requested_Wine_Text);
+  std::optional<Forms::List_Item> item = Wine_Cellar_ListView.Row_of(Requested_Wine_Text);
   if (!item) return;
   Wine_Cellar_ListView.Set_SelectedItem(*item);
   Wine_Cellar_ListView_ItemClick(*item);
@@ -227,14 +225,9 @@ void Wine_Form::Winery_Combo_DblClick() {
 }
 
 void Wine_Form::Exit_Command_Click() {
-  if (command_ == "CheeseParingsCellar") {
+  if (Command_Is("CheeseParingsCellar")) {
     Screen("Cheeses_Form").Show();
   } else {
     Leave();
   }
-}
-
-void Wine_Form::Leave() {
-  Unload();
-  Screen("Wine_Cellar_Form").Show();
 }

@@ -48,7 +48,6 @@ class Wine_Form : public Wine_Screen {
   void Pairings_Add_Command_Click();
   void Winery_Combo_DblClick();
   void Exit_Command_Click();
-  void Leave();
 
   // ---- the states of the fields ----
   Controls Gate_Fields();
@@ -114,7 +113,6 @@ class Wine_Form : public Wine_Screen {
   // ---- the list of the cellar ----
   void Display_Current_Cellar();
   void Fill_Wine_List() override { Display_Current_Cellar(); }
-  void Wine_Cellar_ListView_ColumnClick(const Forms::Column_Header& header);
   void Wine_Cellar_ListView_ItemClick(Forms::List_Item item);
   void Picked_for_Mod();
   void Picked_for_View();
@@ -136,9 +134,6 @@ class Wine_Form : public Wine_Screen {
   void Store_Pairings();
   void Count_Wine_In();
   void Count_Wine_Out();
-
-  /// The command under which the screen was loaded.
-  Text command_;
 
   Forms::Command_Button Winery_Add_Command{*this, "Winery_Add_Command", "Add"};
   Forms::Command_Button Label_Add_Command{*this, "Label_Add_Command", "Add"};

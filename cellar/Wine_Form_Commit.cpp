@@ -11,10 +11,10 @@
 #include "platform/run_time/Conversions.h"
 
 void Wine_Form::Multi_Functional_Command_Click() {
-  if (command_ == "WineAdd") Save_Wine();
-  if (command_ == "WineMod") Modify_Wine();
-  if (command_ == "WineUncork") Uncork_Wine();
-  if (command_ == "WineDel") Remove_Wine();
+  if (Command_Is("WineAdd")) Save_Wine();
+  if (Command_Is("WineMod")) Modify_Wine();
+  if (Command_Is("WineUncork")) Uncork_Wine();
+  if (Command_Is("WineDel")) Remove_Wine();
 }
 
 // ---- SAVE ----
@@ -130,11 +130,11 @@ void Wine_Form::Remove_Wine() {
 void Wine_Form::Count_Wine_Out() {
   Count_Winery(Wines.Winery_ID, -1);
   Count_Region(Wineries.Region_ID, -1);
-  if (Label_Combo.ListIndex() > 1) Count_Label(To_Long(Label_Lines.Key()), -1);
+  if (Label_Combo.ListIndex() > 1) Count_Label(To_Long(Label_Combo.Key()), -1);
   if (Classification_Combo.ListIndex() > 1) {
-    Count_Classification(To_Long(Classification_Lines.Key()), -1);
+    Count_Classification(To_Long(Classification_Combo.Key()), -1);
   }
-  if (Variety_Combo.ListIndex() > 0) Count_Variety(To_Long(Variety_Lines.Key()), -1);
+  if (Variety_Combo.ListIndex() > 0) Count_Variety(To_Long(Variety_Combo.Key()), -1);
 }
 
 // ---- what they share ----
@@ -142,7 +142,7 @@ void Wine_Form::Count_Wine_Out() {
 void Wine_Form::From_Form_to_Memory() {
   const Text price = Trim(Price_Text.Text());
   const Text alcohol = Trim(Alcohol_Text.Text());
-  Wines.Winery_ID = To_Long(Winery_Lines.Key());
+  Wines.Winery_ID = To_Long(Winery_Combo.Key());
   Wines.Label = Label_Combo.ListIndex() == 1 ? "x" : Label_Combo.Text();
   Varieties_to_Memory();
   Wines.Vintage = To_Integer(Vintage_Combo.Text());
@@ -162,7 +162,7 @@ void Wine_Form::Varieties_to_Memory() {
   Wines.Variety.clear();
   for (int item = 0; item < Variety_Combo.ListCount(); ++item) {
     if (!Variety_Combo.Selected(item)) continue;
-    Wines.Variety_ID = To_Long(Variety_Lines.Key(item));
+    Wines.Variety_ID = To_Long(Variety_Combo.Key(item));
     if (!Wines.Variety.empty()) Wines.Variety += ", ";
     Wines.Variety += Variety_Combo.List(item);
   }
@@ -173,7 +173,7 @@ void Wine_Form::Varieties_to_Memory() {
 // such a change, and a wine without a text gets a row that says "x".
 Long Wine_Form::Store_Data_Text(Forms::Text_Box& box, Long key) {
   const bool empty = Trim(box.Text()).empty();
-  if (command_ == "WineAdd") return empty ? -1 : Add_Data_Text(box.Text());
+  if (Command_Is("WineAdd")) return empty ? -1 : Add_Data_Text(box.Text());
   if (empty) box.Set_Text("x");
   Open_Table(Words_for_Data_Recordset, "Words_for_Data", "Multi_Language_ID");
   Words_for_Data_Recordset.Seek("=", key);
@@ -193,7 +193,7 @@ void Wine_Form::Store_Varieties() {
     if (!Variety_Combo.Selected(item)) continue;
     Varieties_of_Wines_Recordset.AddNew();
     Varieties_of_Wines_Recordset.Fields("Wine_ID") = Wines.Wine_ID;
-    Varieties_of_Wines_Recordset.Fields("Variety_ID") = To_Long(Variety_Lines.Key(item));
+    Varieties_of_Wines_Recordset.Fields("Variety_ID") = To_Long(Variety_Combo.Key(item));
     Varieties_of_Wines_Recordset.Update();
   }
   Close_Table(Varieties_of_Wines_Recordset);

@@ -80,7 +80,7 @@ void Wine_Form::Let(Forms::Text_Box& field, void (Wine_Form::*handler)()) {
 void Wine_Form::Country_Combo_Click() {
   Fill_In(Country_Combo);
   if (Country_Combo.Locked()) return;
-  const Text country = Country_Lines.Key();
+  const Text country = Country_Combo.Key();
   Load_Wineries_in_Country(country);
   Require(Winery_Combo);
   Winery_Combo.Set_Locked(false);
@@ -99,13 +99,13 @@ void Wine_Form::Winery_Combo_Click() {
 
 void Wine_Form::Winery_Chosen() {
   Winery_Add_Command.Set_Enabled(false);
-  Read_Winery_By_ID(To_Integer(Winery_Lines.Key()));
+  Read_Winery_By_ID(To_Integer(Winery_Combo.Key()));
   Load_Region_Unique();
   Load_Labels_for_Region(To_Integer(static_cast<double>(Wineries.Region_ID)));
   Load_Classifications(Wineries.Country);
   Load_Varieties_for_Region(Wineries.Region_ID);
   Fill_In(Winery_Combo);
-  if (command_ != "WineAdd" && command_ != "WineOtherAdd") return;
+  if (!Command_Is("WineAdd") && !Command_Is("WineOtherAdd")) return;
   UnLock_for_Add();
   Region_Combo.Set_Tag("1");
   for (Forms::Command_Button* button :
@@ -122,7 +122,7 @@ void Wine_Form::New_Winery_Chosen() {
 
 void Wine_Form::Region_Combo_Click() {
   if (Region_Combo.ListIndex() >= 1) {
-    Load_Labels_for_Region(To_Integer(Region_Lines.Key()));
+    Load_Labels_for_Region(To_Integer(Region_Combo.Key()));
     Fill_In(Region_Combo);
   } else {
     Region_Combo.Set_Locked(false);
@@ -135,7 +135,7 @@ void Wine_Form::Region_Combo_Click() {
 void Wine_Form::Label_Combo_Click() {
   if (Label_Combo.ListIndex() >= 2) {
     Open_Table(Labels_Recordset, "Labels", "Label_ID");
-    Labels_Recordset.Seek("=", Label_Lines.Key());
+    Labels_Recordset.Seek("=", Label_Combo.Key());
     Read_Labels_Record();
     Close_Table(Labels_Recordset);
     if (Labels.Wine_Color != "x") Color_Combo.Set_ListIndex(Color_Index(Labels.Wine_Color));

@@ -2,7 +2,7 @@
 #include "cellar/Wine_Form.h"
 
 void Wine_Form::Lay_Out() {
-  using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  using namespace Forms;
   constexpr int add_width = 6;
   constexpr int opening_width = 1264;
   const Beside add_buttons{

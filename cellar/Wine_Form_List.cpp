@@ -5,7 +5,6 @@
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
-#include "screens/List_Sorting.h"
 
 // A cellar without a name has "x" for one.
 void Wine_Form::Display_Current_Cellar() {
@@ -18,7 +17,7 @@ void Wine_Form::Display_Current_Cellar() {
     return;
   }
   Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
-  Clear_Wine_List();
+  Wine_Cellar_ListView.Begin_Anew();
   for (Wines_Recordset.MoveFirst(); !Wines_Recordset.Eof(); Wines_Recordset.MoveNext()) {
     Read_Wines_Record();
     if (Wines.Cellar_ID != Current_Cellar_ID) continue;
@@ -29,31 +28,24 @@ void Wine_Form::Display_Current_Cellar() {
   Close_Table(Wines_Recordset);
 }
 
-// Sorts by text, numbers too. The column of the keys turns the order and keeps the column.
-void Wine_Form::Wine_Cellar_ListView_ColumnClick(const Forms::Column_Header& header) {
-  Sort_by_Header(Wine_Cellar_ListView, header,
-                 {"Vintage", "Winery", "Label", "Wine Region", "Grape Variety", "Color", "Merit",
-                  "Peak", "Stock"});
-}
-
 // This screen works on keys of 16 bits.
 void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
-  if (command_ == "WineAdd") {
+  if (Command_Is("WineAdd")) {
     item.Set_Selected(false);
     return;
   }
   Checks_Locked = false;
-  Selected_Wine_ID = To_Integer(Wine_Key(item));
+  Selected_Wine_ID = To_Integer(Wine_Cellar_ListView.Key_of(item));
   Seek_Wine();
   Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
   Wineries_Recordset.Seek("=", Wines.Winery_ID);
   Read_Wineries_Record();
   Close_Table(Wines_Recordset);
   item.Set_Selected(true);
-  if (command_ == "WineMod") Picked_for_Mod();
-  if (command_ == "CellarView" || command_ == "CheeseParingsCellar") Picked_for_View();
-  if (command_ == "WineUncork") Picked_for_Uncork();
-  if (command_ == "WineDel") Picked_for_Del();
+  if (Command_Is("WineMod")) Picked_for_Mod();
+  if (Command_Is("CellarView") || Command_Is("CheeseParingsCellar")) Picked_for_View();
+  if (Command_Is("WineUncork")) Picked_for_Uncork();
+  if (Command_Is("WineDel")) Picked_for_Del();
 }
 
 void Wine_Form::Picked_for_Mod() {

@@ -24,16 +24,15 @@ void Add_Numbers(Forms::Combo_Box& combo, int first, int last) {
 }
 
 // The first entries, then every row in the order of the index; the first is chosen.
-void Fill_from_Table(const Keyed_List& lines, Forms::Item_List& shown,
-                     std::initializer_list<const char*> first_entries,
+void Fill_from_Table(Keyed_List& lines, std::initializer_list<const char*> first_entries,
                      Record_Store::Recordset& rows, const char* table, const char* index,
                      const char* text, const char* key) {
-  lines.Clear();
+  lines.Shown().Clear();
   for (const char* entry : first_entries) lines.Add(entry);
   Open_Table(rows, table, index);
   lines.Add_Rows(rows, text, key);
   Close_Table(rows);
-  shown.Set_ListIndex(0);
+  lines.Shown().Set_ListIndex(0);
 }
 
 }  // namespace
@@ -51,10 +50,10 @@ void Wine_Form::Initialize_Form_Data() {
 void Wine_Form::Initialize_Display_Data() {
   const Ignoring_Events ignoring;
   Initialize_Winery();
-  Label_Lines.Show_Alone("New Label", "New Label");
-  Classification_Lines.Show_Alone("New Classification", "New Classification");
-  Variety_Lines.Show_Alone("New Variety", "New Variety");
-  Region_Lines.Show_Alone("New Region", "New Region");
+  Label_Combo.Show_Alone("New Label", "New Label");
+  Classification_Combo.Show_Alone("New Classification", "New Classification");
+  Variety_Combo.Show_Alone("New Variety", "New Variety");
+  Region_Combo.Show_Alone("New Region", "New Region");
   Load_Country_Unique(Wine_System.Country_Target);
   Initialize_Own_Fields();
 }
@@ -68,58 +67,58 @@ void Wine_Form::Initialize_Own_Fields() {
   Initialize_Bootle_Size();
   Initialize_Merit();
   for (Forms::Text_Box* box : Text_Fields()) box->Set_Text("");
-  Pairing_Lines.Clear();
+  Pairing_List.Clear();
   Checks_Locked = false;
 }
 
 void Wine_Form::Initialize_Winery() {
   const Ignoring_Events ignoring;
-  Fill_from_Table(Winery_Lines, Winery_Combo, {"New Winery"}, Wineries_Recordset, "Wineries",
-                  "Winery_Name", "Winery_Name", "Winery_ID");
+  Fill_from_Table(Winery_Combo, {"New Winery"}, Wineries_Recordset, "Wineries", "Winery_Name",
+                  "Winery_Name", "Winery_ID");
 }
 
 void Wine_Form::Initialize_Label() {
   const Ignoring_Events ignoring;
-  Fill_from_Table(Label_Lines, Label_Combo, {"New Label"}, Labels_Recordset, "Labels", "Label_Name",
+  Fill_from_Table(Label_Combo, {"New Label"}, Labels_Recordset, "Labels", "Label_Name",
                   "Label_Name", "Label_ID");
   Label_Add_Command.Set_Enabled(true);
 }
 
 void Wine_Form::Initialize_Classification() {
   const Ignoring_Events ignoring;
-  Fill_from_Table(Classification_Lines, Classification_Combo,
-                  {"New Classification", "NO Classification"}, Classification_Recordset,
-                  "Classification", "Description", "Description", "Classification_ID");
+  Fill_from_Table(Classification_Combo, {"New Classification", "NO Classification"},
+                  Classification_Recordset, "Classification", "Description", "Description",
+                  "Classification_ID");
   Classification_Add_Command.Set_Enabled(true);
 }
 
 void Wine_Form::Initialize_Variety() {
   const Ignoring_Events ignoring;
-  Fill_from_Table(Variety_Lines, Variety_Combo, {"New Variety"}, Varieties_Recordset, "Varieties",
-                  "Variety_Name", "Variety_Name", "Variety_ID");
+  Fill_from_Table(Variety_Combo, {"New Variety"}, Varieties_Recordset, "Varieties", "Variety_Name",
+                  "Variety_Name", "Variety_ID");
   Variety_Add_Command.Set_Enabled(true);
 }
 
 void Wine_Form::Initialize_Region() {
   const Ignoring_Events ignoring;
-  Fill_from_Table(Region_Lines, Region_Combo, {"New Region", "No Region"}, Regions_Recordset,
-                  "Regions", "Region_Name", "Region_Name", "Region_ID");
+  Fill_from_Table(Region_Combo, {"New Region", "No Region"}, Regions_Recordset, "Regions",
+                  "Region_Name", "Region_Name", "Region_ID");
 }
 
 void Wine_Form::Initialize_Country() { Load_Country(Wine_System.Country_Target); }
 
 void Wine_Form::Load_Country(const Text& short_name) {
   const Ignoring_Events ignoring;
-  Country_Lines.Clear();
+  Country_Combo.Clear();
   Open_World_Contries_Sorted();
   const int name = Country_Name_Column();
   for (; !World_Contries_Query.Eof(); World_Contries_Query.MoveNext()) {
-    Country_Lines.Add(World_Contries_Query.Fields(name).As_Text(),
+    Country_Combo.Add(World_Contries_Query.Fields(name).As_Text(),
                       World_Contries_Query.Fields(0).As_Text());
   }
   Close_Table(World_Contries_Query);
   Close_Table(World_Contries_Recordset);
-  const int place = Country_Lines.Place_Of(short_name);
+  const int place = Country_Combo.Place_Of(short_name);
   if (place >= 0) Country_Combo.Set_ListIndex(place);
   Load_Regions_for_Country(short_name);
   Load_Classifications(short_name);
@@ -127,11 +126,11 @@ void Wine_Form::Load_Country(const Text& short_name) {
 
 void Wine_Form::Load_Wineries_in_Country(const Text& short_name) {
   const Ignoring_Events ignoring;
-  Winery_Lines.Clear();
-  Winery_Lines.Add("New Winery");
+  Winery_Combo.Clear();
+  Winery_Combo.Add("New Winery");
   Open_Query(Wineries_Recordset,
              "SELECT * FROM Wineries WHERE Country='" + short_name + "' ORDER  BY Winery_name");
-  Winery_Lines.Add_Rows(Wineries_Recordset, "Winery_Name", "Winery_ID");
+  Winery_Combo.Add_Rows(Wineries_Recordset, "Winery_Name", "Winery_ID");
   Close_Table(Wineries_Recordset);
   Winery_Combo.Set_ListIndex(0);
 }
@@ -139,14 +138,14 @@ void Wine_Form::Load_Wineries_in_Country(const Text& short_name) {
 // All labels of the country, below one another by region; a winery brings those of its region.
 void Wine_Form::Load_Regions_for_Country(const Text& short_name) {
   const Ignoring_Events ignoring;
-  Label_Lines.Clear();
-  Label_Lines.Add("New Label");
-  Region_Lines.Clear();
+  Label_Combo.Clear();
+  Label_Combo.Add("New Label");
+  Region_Combo.Clear();
   Open_Regions_Of_Country(short_name);
   Open_Table(Labels_Recordset, "Labels", "Region_ID");
   for (; !Regions_Query.Eof(); Regions_Query.MoveNext()) {
     const Text region_id = Regions_Query.Fields("Region_ID").As_Text();
-    Region_Lines.Add(Regions_Query.Fields("Region_Name").As_Text(), region_id);
+    Region_Combo.Add(Regions_Query.Fields("Region_Name").As_Text(), region_id);
     Add_Labels_of_Region(To_Integer(region_id));
   }
   Close_Table(Labels_Recordset);
@@ -158,19 +157,19 @@ void Wine_Form::Load_Regions_for_Country(const Text& short_name) {
 }
 
 void Wine_Form::Get_Regions_for_Country(const Text& short_name) {
-  Region_Lines.Clear();
-  Region_Lines.Add("New Region");
+  Region_Combo.Clear();
+  Region_Combo.Add("New Region");
   Open_Regions_Of_Country(short_name);
-  Region_Lines.Add_Rows(Regions_Query, "Region_Name", "Region_ID");
+  Region_Combo.Add_Rows(Regions_Query, "Region_Name", "Region_ID");
   Close_Table(Regions_Query);
   Close_Table(Regions_Recordset);
 }
 
 void Wine_Form::Load_Labels_for_Region(Integer region_id) {
   const Ignoring_Events ignoring;
-  Label_Lines.Clear();
-  Label_Lines.Add("New Label");
-  Label_Lines.Add("No Label");
+  Label_Combo.Clear();
+  Label_Combo.Add("New Label");
+  Label_Combo.Add("No Label");
   Open_Table(Labels_Recordset, "Labels", "Region_ID");
   Add_Labels_of_Region(region_id);
   Close_Table(Labels_Recordset);
@@ -183,7 +182,7 @@ void Wine_Form::Add_Labels_of_Region(Integer region_id) {
   Labels_Recordset.Seek("=", region_id);
   for (; !Labels_Recordset.NoMatch() && !Labels_Recordset.Eof(); Labels_Recordset.MoveNext()) {
     if (Labels_Recordset.Fields("Region_ID").As_Integer() != region_id) break;
-    Label_Lines.Add(Labels_Recordset.Fields("Label_Name").As_Text(),
+    Label_Combo.Add(Labels_Recordset.Fields("Label_Name").As_Text(),
                     Labels_Recordset.Fields("Label_ID").As_Text());
   }
 }
@@ -192,14 +191,14 @@ void Wine_Form::Add_Labels_of_Region(Integer region_id) {
 // saved wine's classification goes by that.
 void Wine_Form::Load_Classifications(const Text& short_name) {
   const Ignoring_Events ignoring;
-  Classification_Lines.Clear();
-  Classification_Lines.Add("New Classification");
-  Classification_Lines.Add("NO Classification");
+  Classification_Combo.Clear();
+  Classification_Combo.Add("New Classification");
+  Classification_Combo.Add("NO Classification");
   Open_Table(Classification_Recordset, "Classification", "Country");
   for (; !Classification_Recordset.Eof(); Classification_Recordset.MoveNext()) {
     Read_Classification_Record();
     if (Classification.Country != short_name) continue;
-    Classification_Lines.Add(Classification.Description, To_Text(Classification.Classification_ID));
+    Classification_Combo.Add(Classification.Description, To_Text(Classification.Classification_ID));
   }
   Close_Table(Classification_Recordset);
   Classification_Combo.Set_ListIndex(0);
@@ -208,15 +207,15 @@ void Wine_Form::Load_Classifications(const Text& short_name) {
 
 void Wine_Form::Load_Varieties_for_Region(Long region_id) {
   const Ignoring_Events ignoring;
-  Variety_Lines.Clear();
-  Variety_Lines.Add("New Variety");
+  Variety_Combo.Clear();
+  Variety_Combo.Add("New Variety");
   Open_Table(Regions_Recordset, "Regions", "Region_ID");
   Regions_Recordset.Seek("=", region_id);
   Read_Regions_Record();
   Close_Table(Regions_Recordset);
   Load_Varieties_of_Region();
   for (int item = 1; item <= Decoded_Count; ++item) {
-    Variety_Lines.Add(Decoded_Items[item].Name, To_Text(Decoded_Items[item].ID));
+    Variety_Combo.Add(Decoded_Items[item].Name, To_Text(Decoded_Items[item].ID));
   }
   Variety_Combo.Set_ListIndex(0);
 }

@@ -34,11 +34,11 @@ void Wine_Form::Memory_to_Form_for_Mod() {
   const Ignoring_Events ignoring;
   Show_Winery();
   Winery_Combo.Set_Tag("1");
-  const int country = Country_Lines.Place_Of(Wineries.Country);
+  const int country = Country_Combo.Place_Of(Wineries.Country);
   if (country >= 0) Country_Combo.Set_ListIndex(country);
   Fill_In(Country_Combo);
   Get_Regions_for_Country(Wineries.Country);
-  const int region = Region_Lines.Place_Of(To_Text(Wineries.Region_ID), 1);
+  const int region = Region_Combo.Place_Of(To_Text(Wineries.Region_ID), 1);
   Region_Combo.Set_ListIndex(region > 0 ? region : 0);
   Load_Labels_for_Region(To_Integer(static_cast<double>(Wineries.Region_ID)));
   Choose_Name(Label_Combo, Wines.Label, "No Label");
@@ -58,7 +58,7 @@ void Wine_Form::Memory_to_Form_for_Mod() {
 void Wine_Form::Choose_Varieties() {
   Load_Varieties_for_Region(Wineries.Region_ID);
   Each_Variety_of_Wine([this](const Text& variety_id) {
-    const int place = Variety_Lines.Place_Of(variety_id, 1);
+    const int place = Variety_Combo.Place_Of(variety_id, 1);
     if (place > 0) Variety_Combo.Set_Selected(place, true);
   });
   Variety_Combo.Set_ListIndex(-1);

@@ -7,15 +7,15 @@
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/forms/Layout.h"
 #include "platform/forms/Message_Box.h"
-#include "platform/forms/Screens.h"
 #include "platform/run_time/Conversions.h"
 
-Cellar_Names_Form::Cellar_Names_Form() : Form("Cellar_Names_Form", "Cellar Names Information") {
+Cellar_Names_Form::Cellar_Names_Form()
+    : Command_Form("Cellar_Names_Form", "Cellar Names Information") {
   Lay_Out();
   Cellar1_Name_Text.Change = [this] { Name_Text_Change(Cellar1_Name_Text, Cellar2_Name_Text); };
   Cellar2_Name_Text.Change = [this] { Name_Text_Change(Cellar2_Name_Text, Cellar1_Name_Text); };
   General_Command.Click = [this] { General_Command_Click(); };
-  Exit_Command.Click = [this] { Leave(); };
+  Exit_Command.Click = [this] { Leave_Beside(); };
   for (Forms::Text_Box* box : {&Cellar1_Name_Text, &Cellar2_Name_Text}) box->Set_Tag("0");
 }
 
@@ -29,12 +29,11 @@ void Cellar_Names_Form::Lay_Out() {
 }
 
 void Cellar_Names_Form::Form_Load() {
-  command_ = Current_Command;
-  if (command_ == "CellarNames") {
+  if (Command_Is("CellarNames")) {
     Cellar1_Name_Text.Set_BackColor(Forms::Required_Color);
     Cellar2_Name_Text.Set_BackColor(Forms::Required_Color);
     General_Command.Set_Enabled(false);
-  } else if (command_ == "CellarMod") {
+  } else if (Command_Is("CellarMod")) {
     filling_ = true;
     Open_Table(Cellars_Recordset, "Cellars");
     Cellar1_Name_Text.Set_Text(Cellars_Recordset.Fields("Cellar_Name").As_Text());
@@ -53,8 +52,8 @@ void Cellar_Names_Form::Name_Text_Change(Forms::Text_Box& changed, const Forms::
 }
 
 void Cellar_Names_Form::General_Command_Click() {
-  if (command_ == "CellarNames") Name_Cellars();
-  if (command_ == "CellarMod") Modify_Names();
+  if (Command_Is("CellarNames")) Name_Cellars();
+  if (Command_Is("CellarMod")) Modify_Names();
 }
 
 void Cellar_Names_Form::Name_Cellars() {
@@ -69,7 +68,7 @@ void Cellar_Names_Form::Name_Cellars() {
   Set_Commands_Multiple_Cellars();
   Close_Table(Cellars_Recordset);
   Forms::Message_Box("Cellar Names were saved successfully", "CELLAR NAMES SAVED");
-  Leave();
+  Leave_Beside();
 }
 
 void Cellar_Names_Form::Modify_Names() {
@@ -86,18 +85,10 @@ void Cellar_Names_Form::Modify_Names() {
   Set_Commands_Multiple_Cellars();
   Close_Table(Cellars_Recordset);
   Forms::Message_Box("Cellar Names were MODIFIED successfully", "CELLAR NAMES MODIFIED");
-  Leave();
+  Leave_Beside();
 }
 
 void Cellar_Names_Form::Set_Commands_Multiple_Cellars() {
   Wine_System.System_Initialized = true;
   Show_Named_Cellars(Cellar1_Name_Text.Text(), Cellar2_Name_Text.Text());
-}
-
-// The main window, where another screen hid it, comes back with that one: two screens that work on
-// the same memory records are never open at once.
-void Cellar_Names_Form::Leave() {
-  const bool beside_main_window = Forms::Screen("Wine_Cellar_Form").Visible();
-  Unload();
-  if (beside_main_window) Forms::Screen("Wine_Cellar_Form").Show();
 }

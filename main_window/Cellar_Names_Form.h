@@ -2,12 +2,11 @@
 #pragma once
 
 #include "platform/forms/Command_Button.h"
-#include "platform/forms/Form.h"
 #include "platform/forms/Label.h"
 #include "platform/forms/Text_Box.h"
-#include "platform/run_time/Values.h"
+#include "screens/Command_Form.h"
 
-class Cellar_Names_Form : public Forms::Form {
+class Cellar_Names_Form : public Command_Form {
  public:
   Cellar_Names_Form();
 
@@ -21,10 +20,7 @@ class Cellar_Names_Form : public Forms::Form {
   void Name_Cellars();
   void Modify_Names();
   void Set_Commands_Multiple_Cellars();
-  void Leave();
 
-  /// The command under which the screen was loaded: the main window stays usable beside it.
-  Text command_;
   bool filling_ = false;
 
   Forms::Label Cellar1_Name_Label{*this, "Cellar1_Name_Label", "Cellar #1 Name:"};

@@ -6,7 +6,6 @@
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
-#include "screens/List_Sorting.h"
 
 using Forms::Locked_Color;
 using Forms::Required_Color;
@@ -16,7 +15,6 @@ namespace {
 
 constexpr Integer english = 3;
 constexpr Integer spanish = 4;
-constexpr int key_column = 2;
 constexpr Long longest_change = 60;
 
 /// The places of the words that are told or shown under one command alone.
@@ -34,7 +32,7 @@ void Seek_Maridage(const Text& key) {
 }  // namespace
 
 Cate_Add_Form::Cate_Add_Form()
-    : Form("Cate_Add_Form", "Add New Categories or Menu Themes"), command_(Current_Command) {
+    : Command_Form("Cate_Add_Form", "Add New Categories or Menu Themes") {
   Lay_Out();
   CatText.Change = [this] { CatText_Change(); };
   for (Forms::Text_Box* box : {&CatText, &CAT_Other_Language_Text}) {
@@ -42,20 +40,17 @@ Cate_Add_Form::Cate_Add_Form()
       if (Cat_Add_Now.Enabled()) Cat_Add_Now_Click();
     };
   }
-  Maridages_ListView.ColumnClick = [this](const Forms::Column_Header& header) {
-    Maridages_ListView_ColumnClick(header);
-  };
   Maridages_ListView.ItemClick = [this](Forms::List_Item item) {
     Maridages_ListView_ItemClick(item);
   };
   Cat_Add_Now.Click = [this] { Cat_Add_Now_Click(); };
-  Cat_Add_Cancel.Click = [this] { Cat_Add_Cancel_Click(); };
+  Cat_Add_Cancel.Click = [this] { Leave(); };
 }
 
 // The label about the system's own pairings belongs to a rule that does not hold: every listed
 // pairing can be changed. It has no place.
 void Cate_Add_Form::Lay_Out() {
-  using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  using namespace Forms;
   constexpr int list_height = 20;
   constexpr int list_width = 94;
   constexpr int text_width = 44;
@@ -75,9 +70,9 @@ void Cate_Add_Form::Form_Load() {
   Load_Current_Maridages();
   Define_Other_Language();
   Cat_Add_Now.Set_Enabled(false);
-  if (command_ == "MaridageAdd") Load_for_Add();
-  if (command_ == "MaridageView") Load_for_View();
-  if (command_ == "MaridageMod") Load_for_Mod();
+  if (Command_Is("MaridageAdd")) Load_for_Add();
+  if (Command_Is("MaridageView")) Load_for_View();
+  if (Command_Is("MaridageMod")) Load_for_Mod();
 }
 
 void Cate_Add_Form::Cate_Add_Form_Language_Initialize() {
@@ -93,21 +88,10 @@ void Cate_Add_Form::Load_Current_Maridages() {
   for (; !Maridages_Recordset.Eof(); Maridages_Recordset.MoveNext()) {
     Read_Maridages_Record();
     if (Maridages.Maridage_Name == "x" || Maridages.Multiuse < 2) continue;
-    Forms::List_Item item = Maridages_ListView.Add(Maridages.English);
-    item.Set_SubItems(1, Maridages_Recordset.Fields(beside).As_Text());
-    item.Set_SubItems(key_column, To_Text(Maridages.Maridage_ID));
+    Maridages_ListView.Add_Row(To_Text(Maridages.Maridage_ID),
+                               {Maridages.English, Maridages_Recordset.Fields(beside).As_Text()});
   }
   Close_Table(Maridages_Recordset);
-}
-
-// A new pairing is the last one read.
-void Cate_Add_Form::Show_Row_of(const Text& key) {
-  for (int place = Maridages_ListView.Count(); place >= 1; --place) {
-    Forms::List_Item item = Maridages_ListView.ListItems(place);
-    if (item.SubItems(key_column) != key) continue;
-    item.EnsureVisible();
-    return;
-  }
 }
 
 // The words name English first.
@@ -162,18 +146,14 @@ void Cate_Add_Form::Show_Boxes() {
   CAT_Other_Language_Text.Set_Text(spanish_first ? Maridages.English : Maridages.Spanish);
 }
 
-void Cate_Add_Form::Maridages_ListView_ColumnClick(const Forms::Column_Header& header) {
-  Sort_by_Header(Maridages_ListView, header, {"English", "Spanish", "Maridage_ID"});
-}
-
 void Cate_Add_Form::Maridages_ListView_ItemClick(Forms::List_Item item) {
-  const Text key = item.SubItems(key_column);
+  const Text key = Maridages_ListView.Key_of(item);
   Seek_Maridage(key);
   Read_Maridages_Record();
   item.Set_Selected(true);
   Close_Table(Maridages_Recordset);
-  if (command_ == "MaridageView") Show_Boxes();
-  if (command_ == "MaridageMod") {
+  if (Command_Is("MaridageView")) Show_Boxes();
+  if (Command_Is("MaridageMod")) {
     picked_ = key;
     Show_Boxes();
     Cat_Add_Now.Set_Enabled(true);
@@ -183,8 +163,8 @@ void Cate_Add_Form::Maridages_ListView_ItemClick(Forms::List_Item item) {
 // ---- the writes ----
 
 void Cate_Add_Form::Cat_Add_Now_Click() {
-  if (command_ == "MaridageAdd") Add_Maridage();
-  if (command_ == "MaridageMod") Modify_Maridage();
+  if (Command_Is("MaridageAdd")) Add_Maridage();
+  if (Command_Is("MaridageMod")) Modify_Maridage();
 }
 
 // The answer about a double changes nothing: the user goes on with the next name in either case,
@@ -203,7 +183,7 @@ void Cate_Add_Form::Add_Maridage() {
     Forms::Message_Box("New Pairing was added to the currently available list",
                        "NEW PAIRING ADDED SUCCESSFULLY");
     Load_Current_Maridages();
-    Show_Row_of(To_Text(Maridages.Maridage_ID));
+    Maridages_ListView.Scroll_to(To_Text(Maridages.Maridage_ID));
   } else {
     Forms::Ask_Yes_No(Words.At(double_line_1) + "\r" + Words.At(double_line_2),
                       Words.At(double_title));
@@ -223,10 +203,5 @@ void Cate_Add_Form::Modify_Maridage() {
   Close_Table(Maridages_Recordset);
   Forms::Message_Box("Pairing was MODIFIED in the currently available list", "PAIRING MODIFY");
   Load_Current_Maridages();
-  Show_Row_of(picked_);
-}
-
-void Cate_Add_Form::Cat_Add_Cancel_Click() {
-  Unload();
-  Forms::Screen("Wine_Cellar_Form").Show();
+  Maridages_ListView.Scroll_to(picked_);
 }

@@ -5,9 +5,11 @@
 #include "core/words/Cate_Add_Form_Words.h"
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Values.h"
+#include "screens/Command_Form.h"
 #include "screens/Form_Words.h"
+#include "screens/Row_List.h"
 
-class Cate_Add_Form : public Forms::Form {
+class Cate_Add_Form : public Command_Form {
  public:
   Cate_Add_Form();
 
@@ -18,32 +20,26 @@ class Cate_Add_Form : public Forms::Form {
   void Lay_Out();
   void Cate_Add_Form_Language_Initialize();
   void Load_Current_Maridages();
-  void Show_Row_of(const Text& key);
   void Define_Other_Language();
   void Load_for_Add();
   void Load_for_View();
   void Load_for_Mod();
   void CatText_Change();
   void Show_Boxes();
-  void Maridages_ListView_ColumnClick(const Forms::Column_Header& header);
   void Maridages_ListView_ItemClick(Forms::List_Item item);
   void Cat_Add_Now_Click();
   void Add_Maridage();
   void Modify_Maridage();
-  void Cat_Add_Cancel_Click();
 
-  /// The command under which the screen was loaded.
-  Text command_;
   /// The key of the pairing that is to be changed; "" before one is picked.
   Text picked_;
   Form_Words Words{"Cate_Add_Form", Screen_Words::Cate_Add_Form};
 
   Forms::Label Current_Maridages_Label{*this, "Current_Maridages_Label",
                                        "Current Available Pairings"};
-  Forms::List_View Maridages_ListView{
-      *this,
-      "Maridages_ListView",
-      {{"English", 40}, {"Spanish", 40}, {"Maridage_ID", 8, true, true}}};
+  Row_List Maridages_ListView{*this,
+                              "Maridages_ListView",
+                              {{"English", 40}, {"Spanish", 40}, {"Maridage_ID", 8, true, true}}};
   Forms::Label CatLabel{*this, "CatLabel", "Please type the new Category"};
   Forms::Label Cat_Language1_Label{*this, "Cat_Language1_Label", "Category in English:"};
   Forms::Text_Box CatText{*this, "CatText"};

@@ -38,17 +38,17 @@ bool Select_Mult_Maridages_Form::Is_Search() const {
 // Once, at the load: the user who comes back from the results finds what was chosen before.
 void Select_Mult_Maridages_Form::Load_Chosen() {
   Clear_Chosen();
-  if (command_ == "WineMod") Choose_Pairings_of_Wine();
+  if (Command_Is("WineMod")) Choose_Pairings_of_Wine();
   if (Command_Is({"VarietyMod", "VarietyPairings"})) {
     Choose_Those_of("Varieties_Form", "Suggested_Pairings_List", "Suggested_Pairings_Index_List");
   }
-  if (command_ == "CheeseMod") {
+  if (Command_Is("CheeseMod")) {
     Choose_Those_of("Cheeses_Form", "Food_Parings_List", "Food_Parings_Index_List");
   }
-  if (command_ == "VarietyMod") {
+  if (Command_Is("VarietyMod")) {
     Set_Caption(Words.Of("Modify_Variety_Caption", "MODIFY Maridages of Grape Variety"));
   }
-  if (command_ == "CheeseMod") {
+  if (Command_Is("CheeseMod")) {
     Set_Caption(Words.Of("Modify_Cheese_Caption", "MODIFY Maridages of Grape Cheeses"));
   }
 }
@@ -74,11 +74,11 @@ void Select_Mult_Maridages_Form::Show_Whose_List() {
 }
 
 void Select_Mult_Maridages_Form::Proceed() {
-  if (command_ == "WineSearch") {
+  if (Command_Is("WineSearch")) {
     Search_Cellar();
     return;
   }
-  if (command_ == "MobileSearch") {
+  if (Command_Is("MobileSearch")) {
     Search_General_List();
     return;
   }

@@ -26,7 +26,7 @@ void Select_Mult_Varieties_Form::Form_Load() {
   Load_Varieties();
   Show_Whose_List();
   Clear_Chosen();
-  if (command_ == "VarietiesAddRegion") Load_Varieties_of_this_Region();
+  if (Command_Is("VarietiesAddRegion")) Load_Varieties_of_this_Region();
   Turn_Boxes_On();
   Cat_List.SetFocus();
 }
@@ -36,17 +36,17 @@ void Select_Mult_Varieties_Form::Initialize_Select_Mult_Varieties_Language() {
 }
 
 void Select_Mult_Varieties_Form::Load_Varieties() {
-  Candidate_Lines.Clear();
+  Cat_List.Clear();
   Open_Table(Varieties_Recordset, "Varieties", "Variety_Name");
-  Candidate_Lines.Add_Rows(Varieties_Recordset, "Variety_Name", "Variety_ID");
+  Cat_List.Add_Rows(Varieties_Recordset, "Variety_Name", "Variety_ID");
   Close_Table(Varieties_Recordset);
   Show_Candidates();
 }
 
 void Select_Mult_Varieties_Form::Show_Whose_List() {
-  if (command_.starts_with("Cheese")) {
+  if (Command().starts_with("Cheese")) {
     Show_Owner(Words.Of("Cheese_Word", "Cheese: "), Cheeses.Cheese_Name);
-  } else if (command_ == "VarietiesAddRegion") {
+  } else if (Command_Is("VarietiesAddRegion")) {
     Show_Owner(Country_Long_Name(Regions.Country) + " - " + Regions.Region_Name);
   }
 }
@@ -59,12 +59,12 @@ void Select_Mult_Varieties_Form::Load_Varieties_of_this_Region() {
 }
 
 void Select_Mult_Varieties_Form::Proceed() {
-  if (command_ == "WineSearch") {
+  if (Command_Is("WineSearch")) {
     Search_Regions_for_Varieties();
     return;
   }
-  if (command_ == "VarietiesAddRegion") Store_for_Region();
-  if (command_ == "CheeseAdd") Store_for_Cheese();
+  if (Command_Is("VarietiesAddRegion")) Store_for_Region();
+  if (Command_Is("CheeseAdd")) Store_for_Cheese();
   if (Command_Is({"WineAdd", "WineMod"})) Tag_Varieties_of_Wine();
   Leave_to(Caller());
 }

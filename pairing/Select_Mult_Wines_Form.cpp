@@ -8,13 +8,11 @@
 #include "core/tables/Mobile_Wines_DB.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
-#include "screens/List_Sorting.h"
 
 namespace {
 
 constexpr const char* all = "ALL";
 constexpr const char* all_varieties = "ALL VARIETIES";
-constexpr int key_column = 4;
 
 Text Variety_Name(Long variety_id) {
   Varieties_Recordset.Seek("=", variety_id);
@@ -37,7 +35,7 @@ Select_Mult_Wines_Form::Select_Mult_Wines_Form()
 // Nothing reads what would be typed to be searched for: the box has no place, and typing in the
 // list finds a wine.
 void Select_Mult_Wines_Form::Lay_Out() {
-  using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  using namespace Forms;
   constexpr int wines_width = 92;
   Set_Content(Column(
       {Row({Below(Country_Label, Place(Country_Combo).Wide(24)),
@@ -62,9 +60,6 @@ void Select_Mult_Wines_Form::Set_Up_Handlers() {
     Mobile_Wines_ListView_ItemClick(item);
   };
   Mobile_Wines_ListView.DblClick = [this](Forms::List_Item) { Add_Command_Click(); };
-  Mobile_Wines_ListView.ColumnClick = [this](const Forms::Column_Header& header) {
-    Mobile_Wines_ListView_ColumnClick(header);
-  };
 }
 
 void Select_Mult_Wines_Form::Form_Load() {
@@ -77,7 +72,7 @@ void Select_Mult_Wines_Form::Form_Load() {
   Clear_Mobile_Wine_List();
   Country_Combo_Click();
   Mobile_Wines_ListView.SetFocus();
-  if (command_ == "CheeseMod") {
+  if (Command_Is("CheeseMod")) {
     Choose_Those_of("Cheeses_Form", "Wine_Parings_List", "Wine_Parings_Index_List");
   }
 }
@@ -86,8 +81,8 @@ void Select_Mult_Wines_Form::Form_Load() {
 
 // A wine that is no country's stands for all of them.
 void Select_Mult_Wines_Form::Initialize_Countries() {
-  Country_Lines.Clear();
-  Country_Lines.Add(all);
+  Country_Combo.Clear();
+  Country_Combo.Add(all);
   std::set<Text> listed;
   for (int country = 1; country <= Mobile_Countries_Count; ++country) {
     listed.insert(Mobile_Countries[country]);
@@ -97,7 +92,7 @@ void Select_Mult_Wines_Form::Initialize_Countries() {
   for (; !World_Contries_Query.Eof(); World_Contries_Query.MoveNext()) {
     const Text short_name = World_Contries_Query.Fields(0).As_Text();
     if (!listed.contains(short_name)) continue;
-    Country_Lines.Add(World_Contries_Query.Fields(name).As_Text(), short_name);
+    Country_Combo.Add(World_Contries_Query.Fields(name).As_Text(), short_name);
   }
   Close_Table(World_Contries_Query);
   Close_Table(World_Contries_Recordset);
@@ -113,8 +108,8 @@ void Select_Mult_Wines_Form::Initialize_Colors() {
 }
 
 void Select_Mult_Wines_Form::Initialize_Varieties() {
-  Grape_Lines.Clear();
-  Grape_Lines.Add(all_varieties);
+  Grape_Variety_Combo.Clear();
+  Grape_Variety_Combo.Add(all_varieties);
   Grape_Variety_Combo.Set_ListIndex(0);
 }
 
@@ -137,7 +132,7 @@ void Select_Mult_Wines_Form::Grape_Variety_Combo_Click() {
 Text Select_Mult_Wines_Form::Place_And_Color(Colors colors) const {
   Text condition;
   if (Country_Combo.ListIndex() > 0) {
-    Add_Test(condition, "Mobile_Wine_Country='" + Country_Lines.Key() + "'");
+    Add_Test(condition, "Mobile_Wine_Country='" + Country_Combo.Key() + "'");
   }
   if (Wine_Color_Combo.ListIndex() <= 0) return condition;
   const Text is_color = "='" + Wine_Color_Combo.Text() + "'";
@@ -152,12 +147,11 @@ Text Select_Mult_Wines_Form::Place_And_Color(Colors colors) const {
 // it is among them.
 void Select_Mult_Wines_Form::Show_Wines(Colors colors) {
   const Text condition = Place_And_Color(colors);
-  const Text grape = Grape_Lines.Key();
+  const Text grape = Grape_Variety_Combo.Key();
   filling_ = true;
   Initialize_Varieties();
   Load_Main_Grapes_of_Selected_Wines(condition);
-  const int place = Grape_Lines.Place_Of(grape);
-  if (place > 0) Grape_Variety_Combo.Set_ListIndex(place);
+  Grape_Variety_Combo.Choose(grape, 1);
   filling_ = false;
   Display_Mobile_Wine_Listview(condition);
 }
@@ -173,7 +167,7 @@ void Select_Mult_Wines_Form::Load_Main_Grapes_of_Selected_Wines(const Text& cond
   for (; !Varieties_Recordset.Eof(); Varieties_Recordset.MoveNext()) {
     const Long key = Varieties_Recordset.Fields("Variety_ID").As_Long();
     if (!grapes.contains(key)) continue;
-    Grape_Lines.Add(Varieties_Recordset.Fields("Variety_Name").As_Text(), To_Text(key));
+    Grape_Variety_Combo.Add(Varieties_Recordset.Fields("Variety_Name").As_Text(), To_Text(key));
   }
   Close_Table(Varieties_Recordset);
 }
@@ -183,7 +177,7 @@ void Select_Mult_Wines_Form::Load_Main_Grapes_of_Selected_Wines(const Text& cond
 // Of the chosen grape alone, where one is chosen.
 void Select_Mult_Wines_Form::Display_Mobile_Wine_Listview(Text condition) {
   if (Grape_Variety_Combo.ListIndex() > 0) {
-    Add_Test(condition, "Mobile_Wine_Variety_ID=" + Grape_Lines.Key());
+    Add_Test(condition, "Mobile_Wine_Variety_ID=" + Grape_Variety_Combo.Key());
   }
   Clear_Mobile_Wine_List();
   Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
@@ -198,13 +192,11 @@ void Select_Mult_Wines_Form::Display_Mobile_Wine_Listview(Text condition) {
 }
 
 void Select_Mult_Wines_Form::Add_Wine() {
-  Forms::List_Item item = Mobile_Wines_ListView.Add(Mobile_Wines.Mobile_Wine_Name);
-  item.Set_SubItems(1, Mobile_Wines.Mobile_Wine_Country);
-  item.Set_SubItems(2, Color_of_Wine());
-  if (Mobile_Wines.Mobile_Wine_Variety_ID != -1) {
-    item.Set_SubItems(3, Variety_Name(Mobile_Wines.Mobile_Wine_Variety_ID));
-  }
-  item.Set_SubItems(key_column, To_Text(Mobile_Wines.Mobile_Wine_ID));
+  const Long variety_id = Mobile_Wines.Mobile_Wine_Variety_ID;
+  Mobile_Wines_ListView.Add_Row(
+      To_Text(Mobile_Wines.Mobile_Wine_ID),
+      {Mobile_Wines.Mobile_Wine_Name, Mobile_Wines.Mobile_Wine_Country, Color_of_Wine(),
+       variety_id == -1 ? Text() : Variety_Name(variety_id)});
 }
 
 // The one of the three that was asked for; the first where all are.
@@ -219,7 +211,7 @@ Text Select_Mult_Wines_Form::Color_of_Wine() const {
 }
 
 void Select_Mult_Wines_Form::Mobile_Wines_ListView_ItemClick(Forms::List_Item item) {
-  const Text key = item.SubItems(key_column);
+  const Text key = Mobile_Wines_ListView.Key_of(item);
   Open_Table(Mobile_Wines_Recordset, "Mobile_Wines", "Mobile_Wine_ID");
   Mobile_Wines_Recordset.Seek("=", key);
   Read_Mobile_Wines_Record();
@@ -227,10 +219,6 @@ void Select_Mult_Wines_Form::Mobile_Wines_ListView_ItemClick(Forms::List_Item it
   item.Set_Selected(true);
   current_ = Entry{item.Text(), key};
   Add_Command.Set_Enabled(true);
-}
-
-void Select_Mult_Wines_Form::Mobile_Wines_ListView_ColumnClick(const Forms::Column_Header& header) {
-  Sort_by_Header(Mobile_Wines_ListView, header, {"Wine Name", "Country", "Type", "GRAPE", "ID"});
 }
 
 std::optional<Picker_Form::Entry> Select_Mult_Wines_Form::Current_Entry() const { return current_; }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "screens/Picker_Form.h"
+#include "screens/Row_List.h"
 
 class Select_Mult_Wines_Form : public Picker_Form {
  public:
@@ -33,7 +34,6 @@ class Select_Mult_Wines_Form : public Picker_Form {
   void Add_Wine();
   Text Color_of_Wine() const;
   void Mobile_Wines_ListView_ItemClick(Forms::List_Item item);
-  void Mobile_Wines_ListView_ColumnClick(const Forms::Column_Header& header);
 
   /// The wine picked last.
   std::optional<Entry> current_;
@@ -41,22 +41,17 @@ class Select_Mult_Wines_Form : public Picker_Form {
   bool filling_ = false;
 
   Forms::Label Country_Label{*this, "Country_Label", "Country"};
-  Forms::Combo_Box Country_Combo{*this, "Country_Combo"};
-  Forms::Combo_Box Country_Short_Combo{*this, "Country_Short_Combo"};
+  Keyed_Combo_Box Country_Combo{*this, "Country_Combo", "Country_Short_Combo"};
   Forms::Label Wine_Color_Label{*this, "Wine_Color_Label", "Color"};
   Forms::Combo_Box Wine_Color_Combo{*this, "Wine_Color_Combo"};
   Forms::Label Grape_Variety_Label{*this, "Grape_Variety_Label", "Grape Variety"};
-  Forms::Combo_Box Grape_Variety_Combo{*this, "Grape_Variety_Combo"};
-  Forms::Combo_Box Grape_Variety_ID_Combo{*this, "Grape_Variety_ID_Combo"};
+  Keyed_Combo_Box Grape_Variety_Combo{*this, "Grape_Variety_Combo", "Grape_Variety_ID_Combo"};
   Forms::Text_Box Search_Text{*this, "Search_Text"};
   Forms::Label Wines_Label{*this, "Wines_Label", "Wines"};
   Forms::Label Wines_Number{*this, "Wines_Number"};
-  Forms::List_View Mobile_Wines_ListView{
+  Row_List Mobile_Wines_ListView{
       *this,
       "Mobile_Wines_ListView",
       {{"Wine Name", 30}, {"Country", 9}, {"Type", 12}, {"GRAPE", 20}, {"ID", 8, true, true}}};
   Forms::Label Selected_Label{*this, "Selected_Label", "Selected Wines"};
-
-  Keyed_List Country_Lines{Country_Combo, Country_Short_Combo};
-  Keyed_List Grape_Lines{Grape_Variety_Combo, Grape_Variety_ID_Combo};
 };

@@ -22,7 +22,7 @@ constexpr const char* results = "Wine_Search_Results_Form";
 
 Picker_Form::Picker_Form(std::string_view name, std::string_view caption,
                          std::string_view cancel_name)
-    : Form(name, caption), command_(Current_Command), MultCancel(*this, cancel_name, "CANCEL") {
+    : Command_Form(name, caption), MultCancel(*this, cancel_name, "CANCEL") {
   for (Forms::Command_Button* button : {&Add_Command, &Remove_Command, &MultSelect}) {
     button->Set_Enabled(false);
   }
@@ -35,17 +35,15 @@ Picker_Form::Picker_Form(std::string_view name, std::string_view caption,
   SelectList.Delete_Pressed = [this] { Remove_by_Key(); };
 }
 
-void Picker_Form::Form_Activate() { Current_Command = command_; }
-
 // ---- the chosen list ----
 
 void Picker_Form::Clear_Chosen() {
-  Chosen_Lines.Clear();
+  SelectList.Clear();
   Show_Chosen();
 }
 
 void Picker_Form::Choose(const Entry& entry) {
-  Chosen_Lines.Add(entry.text, entry.key);
+  SelectList.Add(entry.text, entry.key);
   Show_Chosen();
 }
 
@@ -72,7 +70,7 @@ bool Picker_Form::Is_Chosen(const Entry& entry) const {
   for (int place = 0; place < SelectList.ListCount(); ++place) {
     if (Trim(SelectList.List(place)) == Trim(entry.text)) return true;
   }
-  return Chosen_Lines.Place_Of(entry.key) >= 0;
+  return SelectList.Place_Of(entry.key) >= 0;
 }
 
 void Picker_Form::Show_Chosen() {
@@ -99,7 +97,6 @@ void Picker_Form::Remove_Command_Click() {
   const int place = SelectList.ListIndex();
   if (place < 0) return;
   SelectList.RemoveItem(place);
-  SelectIndexList.RemoveItem(place);
   Show_Chosen();
   SelectList.SetFocus();
 }
@@ -116,21 +113,12 @@ void Picker_Form::MultSelect_Click() {
   Selected_Count = To_Integer(static_cast<double>(SelectList.ListCount()));
   for (int entry = 1; entry <= Selected_Count; ++entry) {
     Selected_Names[entry] = SelectList.List(entry - 1);
-    Selected_IDs[entry] = SelectIndexList.List(entry - 1);
+    Selected_IDs[entry] = SelectList.Key(entry - 1);
   }
   Proceed();
 }
 
 // ---- where it leads ----
-
-void Picker_Form::Leave_to(std::string_view screen) {
-  Unload();
-  Screen(Screen(screen).Exists() ? screen : main_window).Show();
-}
-
-bool Picker_Form::Command_Is(std::initializer_list<const char*> commands) const {
-  return std::ranges::find(commands, command_) != commands.end();
-}
 
 std::string_view Picker_Form::Caller() const {
   if (Command_Is({"WineAdd", "WineMod"})) return "Wine_Form";
@@ -188,19 +176,19 @@ List_Picker_Form::List_Picker_Form(std::string_view name, std::string_view capti
 
 std::optional<Picker_Form::Entry> List_Picker_Form::Current_Entry() const {
   if (Cat_List.ListIndex() < 0) return std::nullopt;
-  return Entry{Cat_List.Text(), Candidate_Lines.Key()};
+  return Entry{Cat_List.Text(), Cat_List.Key()};
 }
 
 void List_Picker_Form::Load_Pairings(Integer highest_multiuse) {
-  Candidate_Lines.Clear();
+  Cat_List.Clear();
   Open_Table(Maridages_Recordset, "Maridages", Language_Name_From_Number(System_Language));
   const int multiuse_at = Maridages_Recordset.Ordinal("Multiuse");
   const int key_at = Maridages_Recordset.Ordinal("Maridage_ID");
   for (; !Maridages_Recordset.Eof(); Maridages_Recordset.MoveNext()) {
     const Integer multiuse = Maridages_Recordset.Fields(multiuse_at).As_Integer();
     if (multiuse < 2 || multiuse > highest_multiuse) continue;
-    Candidate_Lines.Add(Maridages_Recordset.Fields(System_Language + 2).As_Text(),
-                        Maridages_Recordset.Fields(key_at).As_Text());
+    Cat_List.Add(Maridages_Recordset.Fields(System_Language + 2).As_Text(),
+                 Maridages_Recordset.Fields(key_at).As_Text());
   }
   Close_Table(Maridages_Recordset);
   Show_Candidates();

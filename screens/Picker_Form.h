@@ -13,15 +13,13 @@
 #include "links/Varieties_Processes.h"
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Values.h"
-#include "screens/Keyed_List.h"
+#include "screens/Command_Form.h"
+#include "screens/Keyed.h"
 
-class Picker_Form : public Forms::Form {
+class Picker_Form : public Command_Form {
  protected:
   Picker_Form(std::string_view name, std::string_view caption,
               std::string_view cancel_name = "MultCancel");
-
-  /// The command is this screen's again, whatever was done on another one meanwhile.
-  void Form_Activate() override;
 
   // ---- what the pickers differ in ----
 
@@ -49,11 +47,8 @@ class Picker_Form : public Forms::Form {
 
   // ---- where it leads ----
 
-  /// Unloads this screen and shows the other one, the main window where it does not exist.
-  void Leave_to(std::string_view screen);
   /// The screen that opens a picker under this command.
   std::string_view Caller() const;
-  bool Command_Is(std::initializer_list<const char*> commands) const;
   /// Tells the wine screen that a selection waits for it.
   static void Tag_Pairings_of(const char* wine_screen);
   /// Searches the cellar for the selected pairings. Where wines are found, their screen is loaded
@@ -70,22 +65,16 @@ class Picker_Form : public Forms::Form {
   /// What the keys do, and the way out.
   Forms::Place Ways_Out_Place();
 
-  /// The command under which the screen was loaded.
-  Text command_;
-
   Forms::Command_Button Add_Command{*this, "Add_Command", "Add==>"};
   Forms::Command_Button Remove_Command{*this, "Remove_Command", "Remove"};
   Forms::Label Selected_Number{*this, "Selected_Number"};
-  Forms::List_Box SelectList{*this, "SelectList"};
-  Forms::List_Box SelectIndexList{*this, "SelectIndexList"};
+  Keyed_List_Box SelectList{*this, "SelectList", "SelectIndexList"};
   Forms::Label Keys_Label{
       *this, "Keys_Label",
       "Type to find an entry. Enter or a double click adds it, Delete takes it out.",
       Forms::Label::Kind::Paragraph};
   Forms::Command_Button MultSelect{*this, "MultSelect", "PROCEED"};
   Forms::Command_Button MultCancel;
-
-  Keyed_List Chosen_Lines{SelectList, SelectIndexList};
 
   void Add_Command_Click();
 
@@ -111,8 +100,5 @@ class List_Picker_Form : public Picker_Form {
   void Show_Candidates();
 
   Forms::Label Cat_Number{*this, "Cat_Number"};
-  Forms::List_Box Cat_List{*this, "Cat_List"};
-  Forms::List_Box Cat_Index_List{*this, "Cat_Index_List"};
-
-  Keyed_List Candidate_Lines{Cat_List, Cat_Index_List};
+  Keyed_List_Box Cat_List{*this, "Cat_List", "Cat_Index_List"};
 };

@@ -13,13 +13,13 @@ using Forms::Window_Color;
 
 namespace {
 
-constexpr int key_column = 9;
 constexpr int key_width = 8;
 
 }  // namespace
 
-Wine_Screen::Wine_Screen(std::string_view name, std::string_view caption, const Widths& widths)
-    : Form(name, caption),
+Wine_Screen::Wine_Screen(std::string_view name, std::string_view caption, const Widths& widths,
+                         std::vector<std::string> words)
+    : Command_Form(name, caption),
       Wine_Cellar_ListView(*this, "Wine_Cellar_ListView",
                            {{"Vintage", widths[0]},
                             {"Winery", widths[1]},
@@ -30,12 +30,13 @@ Wine_Screen::Wine_Screen(std::string_view name, std::string_view caption, const 
                             {"Merit", widths[6], false, true},
                             {"Peak", widths[7], false, true},
                             {"Stock", widths[8], false, true},
-                            {"ID", key_width, false, true}}) {
+                            {"ID", key_width, false, true}},
+                           std::move(words)) {
   Message_Label.Set_Visible(false);
 }
 
 Forms::Place Wine_Screen::Fields_Place(const Beside& beside) {
-  using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  using namespace Forms;
   constexpr int name_width = 20;
   constexpr int number_width = 9;
   constexpr int text_width = 22;
@@ -127,35 +128,14 @@ void Wine_Screen::UnLock_Top_Window() {
 
 // ---- the list ----
 
-void Wine_Screen::Clear_Wine_List() {
-  Wine_Cellar_ListView.Clear();
-  Wine_Cellar_ListView.Set_Sorted(false);
-  Wine_Cellar_ListView.Set_SortKey(0);
-  Wine_Cellar_ListView.Set_SortOrder(0);
-}
-
 void Wine_Screen::Add_Wine_to_List() {
-  Forms::List_Item item = Wine_Cellar_ListView.Add(To_Text(Wines.Vintage));
-  item.Set_SubItems(1, Wineries.Winery_Name);
-  if (Wines.Label != "x") item.Set_SubItems(2, Wines.Label);
-  item.Set_SubItems(3, Wineries.Region);
-  item.Set_SubItems(4, Wines.Variety);
-  item.Set_SubItems(5, Wines.Color);
-  if (Wines.Ranking != -1) item.Set_SubItems(6, To_Text(Wines.Ranking));
-  item.Set_SubItems(7, To_Text(Wines.Peak));
-  item.Set_SubItems(8, To_Text(Wines.Total_Bottles));
-  item.Set_SubItems(key_column, To_Text(Wines.Wine_ID));
+  Wine_Cellar_ListView.Add_Row(
+      To_Text(Wines.Wine_ID),
+      {To_Text(Wines.Vintage), Wineries.Winery_Name, Wines.Label == "x" ? Text() : Wines.Label,
+       Wineries.Region, Wines.Variety, Wines.Color,
+       Wines.Ranking == -1 ? Text() : To_Text(Wines.Ranking), To_Text(Wines.Peak),
+       To_Text(Wines.Total_Bottles)});
 }
-
-std::optional<Forms::List_Item> Wine_Screen::Item_of_Wine(const Text& wine_id) {
-  for (int place = 1; place <= Wine_Cellar_ListView.Count(); ++place) {
-    const Forms::List_Item item = Wine_Cellar_ListView.ListItems(place);
-    if (Wine_Key(item) == wine_id) return item;
-  }
-  return std::nullopt;
-}
-
-Text Wine_Screen::Wine_Key(const Forms::List_Item& item) { return item.SubItems(key_column); }
 
 // ---- the writes ----
 
@@ -182,9 +162,6 @@ void Wine_Screen::Uncork_Wine() {
   }
   Last_Date_Uncorked_Text.Set_Text(To_Text(Wines.Last_Date_Uncorked));
   Fill_Wine_List();
-  if (std::optional<Forms::List_Item> item = Item_of_Wine(To_Text(Selected_Wine_ID))) {
-    item->Set_Selected(true);
-    item->EnsureVisible();
-  }
+  Wine_Cellar_ListView.Select(To_Text(Selected_Wine_ID));
   Seek_Wine();
 }

@@ -10,15 +10,20 @@
 
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Values.h"
-#include "screens/Keyed_List.h"
+#include "screens/Command_Form.h"
+#include "screens/Keyed.h"
+#include "screens/Row_List.h"
 #include "screens/Tasting_Boxes.h"
 
 /// The memory records of `Wines` and `Wineries` hold the wine to show or to write, and its winery.
-class Wine_Screen : public Forms::Form {
+class Wine_Screen : public Command_Form {
  protected:
   /// How wide the columns of the list begin, in characters.
   using Widths = std::array<int, 9>;
-  Wine_Screen(std::string_view name, std::string_view caption, const Widths& widths);
+  /// `words` tells what the columns answer to when a header is clicked; that of the keys to
+  /// nothing.
+  Wine_Screen(std::string_view name, std::string_view caption, const Widths& widths,
+              std::vector<std::string> words);
 
   /// Fills the list anew. Called after a bottle was uncorked.
   virtual void Fill_Wine_List() = 0;
@@ -62,11 +67,8 @@ class Wine_Screen : public Forms::Form {
 
   // ---- the list ----
 
-  void Clear_Wine_List();
   /// The wine and its winery as the last row.
   void Add_Wine_to_List();
-  std::optional<Forms::List_Item> Item_of_Wine(const Text& wine_id);
-  static Text Wine_Key(const Forms::List_Item& item);
 
   // ---- the writes ----
 
@@ -79,20 +81,15 @@ class Wine_Screen : public Forms::Form {
   void Uncork_Wine();
 
   Forms::Label Winery_Label{*this, "Winery_Label", "Winery"};
-  Forms::Combo_Box Winery_Combo{*this, "Winery_Combo"};
-  Forms::Combo_Box Winery_ID_Combo{*this, "Winery_ID_Combo"};
+  Keyed_Combo_Box Winery_Combo{*this, "Winery_Combo", "Winery_ID_Combo"};
   Forms::Label LabelLabel{*this, "LabelLabel", "Label or Appellation"};
-  Forms::Combo_Box Label_Combo{*this, "Label_Combo"};
-  Forms::Combo_Box Label_ID_Combo{*this, "Label_ID_Combo"};
+  Keyed_Combo_Box Label_Combo{*this, "Label_Combo", "Label_ID_Combo"};
   Forms::Label Variety_Label{*this, "Variety_Label", "Grape Variety"};
-  Forms::Check_List Variety_Combo{*this, "Variety_Combo"};
-  Forms::Combo_Box Variety_ID_Combo{*this, "Variety_ID_Combo"};
+  Keyed_Check_List Variety_Combo{*this, "Variety_Combo", "Variety_ID_Combo"};
   Forms::Label Region_Label{*this, "Region_Label", "Wine Region"};
-  Forms::Combo_Box Region_Combo{*this, "Region_Combo"};
-  Forms::Combo_Box Region_ID_Combo{*this, "Region_ID_Combo"};
+  Keyed_Combo_Box Region_Combo{*this, "Region_Combo", "Region_ID_Combo"};
   Forms::Label Country_Label{*this, "Country_Label", "Country"};
-  Forms::Combo_Box Country_Combo{*this, "Country_Combo"};
-  Forms::Combo_Box Country_Short_Combo{*this, "Country_Short_Combo"};
+  Keyed_Combo_Box Country_Combo{*this, "Country_Combo", "Country_Short_Combo"};
   Forms::Label Vintage_Label{*this, "Vintage_Label", "Vintage"};
   Forms::Combo_Box Vintage_Combo{*this, "Vintage_Combo"};
   Forms::Label Color_Label{*this, "Color_Label", "Color"};
@@ -112,11 +109,9 @@ class Wine_Screen : public Forms::Form {
   Forms::Label Description_Label{*this, "Description_Label", "Description"};
   Forms::Text_Box Description_Text{*this, "Description_Text", Forms::Text_Box::Lines::Many};
   Forms::Label Pairing_Label{*this, "Pairing_Label", "Pairing"};
-  Forms::List_Box Pairing_List{*this, "Pairing_List"};
-  Forms::List_Box Pairing_Index_List{*this, "Pairing_Index_List"};
+  Keyed_List_Box Pairing_List{*this, "Pairing_List", "Pairing_Index_List"};
   Forms::Label Classification_Label{*this, "Classification_Label", "Classification"};
-  Forms::Combo_Box Classification_Combo{*this, "Classification_Combo"};
-  Forms::Combo_Box Classification_ID_Combo{*this, "Classification_ID_Combo"};
+  Keyed_Combo_Box Classification_Combo{*this, "Classification_Combo", "Classification_ID_Combo"};
   Forms::Label Comments_Label{*this, "Comments_Label", "Comments"};
   Forms::Text_Box Comments_Text{*this, "Comments_Text", Forms::Text_Box::Lines::Many};
   Forms::Label Last_Day_Uncorked_Label{*this, "Last_Day_Uncorked_Label", "Last Day Uncorked"};
@@ -126,17 +121,9 @@ class Wine_Screen : public Forms::Form {
   Tasting_Boxes Boxes{*this, [this] { return Color_Combo.ListIndex(); }};
   Forms::Label Message_Label{*this, "Message_Label", "", Forms::Label::Kind::Paragraph};
   Forms::Label Current_Cellar_Label{*this, "Current_Cellar_Label", "Wine Cellar"};
-  Forms::List_View Wine_Cellar_ListView;
+  Row_List Wine_Cellar_ListView;
   Forms::Command_Button Multi_Functional_Command{*this, "Multi_Functional_Command", "SAVE"};
   Forms::Command_Button Exit_Command{*this, "Exit_Command", "EXIT"};
-
-  Keyed_List Winery_Lines{Winery_Combo, Winery_ID_Combo};
-  Keyed_List Label_Lines{Label_Combo, Label_ID_Combo};
-  Keyed_List Variety_Lines{Variety_Combo, Variety_ID_Combo};
-  Keyed_List Region_Lines{Region_Combo, Region_ID_Combo};
-  Keyed_List Country_Lines{Country_Combo, Country_Short_Combo};
-  Keyed_List Classification_Lines{Classification_Combo, Classification_ID_Combo};
-  Keyed_List Pairing_Lines{Pairing_List, Pairing_Index_List};
 
  private:
   void Show_Varieties_Alone();

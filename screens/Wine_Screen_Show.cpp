@@ -42,11 +42,11 @@ void Wine_Screen::Memory_to_Form_Unique() {
 // By its key: names of wineries can stand twice. Where the list was never filled, the winery
 // becomes its one entry.
 void Wine_Screen::Show_Winery() {
-  const int place = Winery_Lines.Place_Of(Wineries.Winery_ID);
+  const int place = Winery_Combo.Place_Of(Wineries.Winery_ID);
   if (place >= 0) {
     Winery_Combo.Set_ListIndex(place);
   } else {
-    Winery_Lines.Show_Alone(Wineries.Winery_Name, Wineries.Winery_ID);
+    Winery_Combo.Show_Alone(Wineries.Winery_Name, Wineries.Winery_ID);
   }
 }
 
@@ -55,16 +55,16 @@ void Wine_Screen::Load_Country_Unique(const Text& short_name) {
   Open_Table(World_Contries_Recordset, "World_Contries", "Short_Name");
   World_Contries_Recordset.Seek("=", short_name);
   if (World_Contries_Recordset.NoMatch()) {
-    Country_Lines.Show_Alone("", short_name);
+    Country_Combo.Show_Alone("", short_name);
   } else {
-    Country_Lines.Show_Alone(World_Contries_Recordset.Fields(Country_Name_Column()).As_Text(),
+    Country_Combo.Show_Alone(World_Contries_Recordset.Fields(Country_Name_Column()).As_Text(),
                              World_Contries_Recordset.Fields("Short_Name").As_Text());
   }
   Close_Table(World_Contries_Recordset);
 }
 
 void Wine_Screen::Load_Region_Unique() {
-  Region_Lines.Show_Alone(Wineries.Region, To_Text(Wineries.Region_ID));
+  Region_Combo.Show_Alone(Wineries.Region, To_Text(Wineries.Region_ID));
   Lock(Region_Combo);
 }
 
@@ -80,12 +80,12 @@ void Wine_Screen::Each_Variety_of_Wine(const std::function<void(const Text&)>& a
 }
 
 void Wine_Screen::Show_Varieties_Alone() {
-  Variety_Lines.Clear();
+  Variety_Combo.Clear();
   Variety_Combo.Set_BackColor(Locked_Color);
   Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
   Each_Variety_of_Wine([this](const Text& variety_id) {
     Varieties_Recordset.Seek("=", variety_id);
-    Variety_Lines.Add(Varieties_Recordset.Fields("Variety_Name").As_Text(), variety_id);
+    Variety_Combo.Add(Varieties_Recordset.Fields("Variety_Name").As_Text(), variety_id);
     Variety_Combo.Set_Selected(Variety_Combo.ListCount() - 1, true);
   });
   Close_Table(Varieties_Recordset);
@@ -95,7 +95,7 @@ void Wine_Screen::Show_Varieties_Alone() {
 // The vintage comes before the peak: its event fills the peak years anew.
 void Wine_Screen::Show_Lists_Alone() {
   const Text label = Wines.Label == "x" ? "No Label" : Wines.Label;
-  Label_Lines.Show_Alone(label, label);
+  Label_Combo.Show_Alone(label, label);
   Show_Alone(Vintage_Combo, To_Text(Wines.Vintage));
   Show_Alone(Peak_Year_Combo, To_Text(Wines.Peak));
   Show_Alone(Merit_Combo, Wines.Ranking == -1 ? nothing : To_Text(Wines.Ranking));
@@ -104,7 +104,7 @@ void Wine_Screen::Show_Lists_Alone() {
   Color_Combo.Set_Tag("1");
   const Text classification =
       Wines.Clasification == "x" ? "NO Classification" : Wines.Clasification;
-  Classification_Lines.Show_Alone(classification, classification);
+  Classification_Combo.Show_Alone(classification, classification);
 }
 
 void Wine_Screen::Show_Texts_And_Numbers() {
@@ -122,10 +122,10 @@ void Wine_Screen::Show_Texts_And_Numbers() {
 // A wine without pairings leaves the selection as it is.
 void Wine_Screen::Show_Marks_And_Pairings() {
   Boxes.Show_Marks_of(Wines.Wine_ID);
-  Pairing_Lines.Clear();
+  Pairing_List.Clear();
   if (Wine_Has_Maridages()) Load_Wine_Maridages();
 }
 
 void Wine_Screen::Load_Wine_Maridages() {
-  Fill_Lists_with_Wine_Maridages(Pairing_List, Pairing_Index_List);
+  Fill_Lists_with_Wine_Maridages(Pairing_List, Pairing_List.Keys());
 }

@@ -8,12 +8,6 @@
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
 
-namespace {
-
-constexpr int variety_key_column = 2;
-
-}  // namespace
-
 Search_General_Pairings_Form::Search_General_Pairings_Form()
     : List_Picker_Form("Search_General_Pairings_Form", "General Pairings") {
   Lay_Out();
@@ -23,7 +17,7 @@ Search_General_Pairings_Form::Search_General_Pairings_Form()
 }
 
 void Search_General_Pairings_Form::Lay_Out() {
-  using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  using namespace Forms;
   constexpr int list_height = 10;
   Variety_Name_List_Label.Set_Buddy(Variety_Name_ListView);
   Regions_List_Label.Set_Buddy(Regions_ListView);
@@ -47,8 +41,8 @@ void Search_General_Pairings_Form::Form_Load() {
 }
 
 void Search_General_Pairings_Form::Proceed() {
-  if (command_ == "GeneralPairings") Show_Varieties();
-  if (command_ == "WineSearch") Show_Found_Wines();
+  if (Command_Is("GeneralPairings")) Show_Varieties();
+  if (Command_Is("WineSearch")) Show_Found_Wines();
 }
 
 // ---- from pairings to varieties ----
@@ -84,9 +78,8 @@ void Search_General_Pairings_Form::Add_Varieties_of_Pairing(Long maridage_id) {
 void Search_General_Pairings_Form::Add_Variety() {
   Read_Varieties_Record();
   if (Variety_Name_ListView.FindItem(Varieties.Variety_Name)) return;
-  Forms::List_Item item = Variety_Name_ListView.Add(Varieties.Variety_Name);
-  item.Set_SubItems(1, Varieties.Variety_Color);
-  item.Set_SubItems(variety_key_column, To_Text(Varieties.Variety_ID));
+  Variety_Name_ListView.Add_Row(To_Text(Varieties.Variety_ID),
+                                {Varieties.Variety_Name, Varieties.Variety_Color});
 }
 
 // ---- from varieties to regions ----
@@ -94,7 +87,7 @@ void Search_General_Pairings_Form::Add_Variety() {
 void Search_General_Pairings_Form::Variety_Name_ListView_ItemClick(const Forms::List_Item& item) {
   Recipe_Name.Set_Caption(item.Text());
   Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
-  Varieties_Recordset.Seek("=", item.SubItems(variety_key_column));
+  Varieties_Recordset.Seek("=", Variety_Name_ListView.Key_of(item));
   Read_Varieties_Record();
   Close_Table(Varieties_Recordset);
   Load_Varieties_Regions();
@@ -109,7 +102,7 @@ void Search_General_Pairings_Form::Load_Regions_of_all_Varieties() {
   Regions_ListView.Clear();
   for (int place = 1; place <= Variety_Name_ListView.Count(); ++place) {
     const Forms::List_Item variety = Variety_Name_ListView.ListItems(place);
-    Add_Regions_of_Variety(To_Long(variety.SubItems(variety_key_column)),
+    Add_Regions_of_Variety(To_Long(Variety_Name_ListView.Key_of(variety)),
                            Same_Name::Is_Passed_Over);
   }
 }
@@ -125,9 +118,8 @@ void Search_General_Pairings_Form::Add_Regions_of_Variety(Long variety_id, Same_
     if (Regions_Recordset.NoMatch()) continue;
     const Text name = Regions_Recordset.Fields("Region_Name").As_Text();
     if (same_name == Same_Name::Is_Passed_Over && Regions_ListView.FindItem(name)) continue;
-    Forms::List_Item item = Regions_ListView.Add(name);
-    item.Set_SubItems(1, Regions_Recordset.Fields("Country").As_Text());
-    item.Set_SubItems(2, Regions_Recordset.Fields("Region_ID").As_Text());
+    Regions_ListView.Add_Row(Regions_Recordset.Fields("Region_ID").As_Text(),
+                             {name, Regions_Recordset.Fields("Country").As_Text()});
   }
   Close_Table(Regions_Recordset);
   Close_Table(pairs);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "screens/Picker_Form.h"
+#include "screens/Row_List.h"
 
 class Search_General_Pairings_Form : public List_Picker_Form {
  public:
@@ -27,13 +28,13 @@ class Search_General_Pairings_Form : public List_Picker_Form {
   Forms::Label MSelectLab1{*this, "MSelectLab1", "Categories "};
   Forms::Label Label1{*this, "Label1", "Selected Categories"};
   Forms::Label Variety_Name_List_Label{*this, "Variety_Name_List_Label", "Grape Varieties"};
-  Forms::List_View Variety_Name_ListView{
+  Row_List Variety_Name_ListView{
       *this,
       "Variety_Name_ListView",
       {{"Grape Variety Name", 26}, {"Color", 10}, {"Vaiety_ID", 8, true, true}}};
   Forms::Label Recipe_Name{*this, "Recipe_Name"};
   Forms::Label Regions_List_Label{*this, "Regions_List_Label",
                                   "Regions producing the Variety Grape"};
-  Forms::List_View Regions_ListView{
+  Row_List Regions_ListView{
       *this, "Regions_ListView", {{"Region", 26}, {"Country", 9}, {"Region_ID", 8, true, true}}};
 };

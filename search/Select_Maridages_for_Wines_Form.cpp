@@ -27,7 +27,7 @@ Select_Maridages_for_Wines_Form::Select_Maridages_for_Wines_Form()
 
 // A choice of the first column shows at once: the button beside it has nothing to do, and no place.
 void Select_Maridages_for_Wines_Form::Lay_Out() {
-  using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  using namespace Forms;
   constexpr int options_width = 22;
   constexpr int name_width = 60;
   Selection_Label.Set_Buddy(Selection_Option_List);
@@ -57,15 +57,15 @@ bool Select_Maridages_for_Wines_Form::Is_of_Variety() const {
 }
 
 bool Select_Maridages_for_Wines_Form::Offers_Cheeses() const {
-  return Is_of_Variety() || command_ == "WineOtherMod";
+  return Is_of_Variety() || Command_Is("WineOtherMod");
 }
 
 // A new variety has its name only where it was typed.
 void Select_Maridages_for_Wines_Form::Load_Name() {
   Text name;
-  if (command_ == "WineOtherMod") name = Mobile_Wines.Mobile_Wine_Name;
+  if (Command_Is("WineOtherMod")) name = Mobile_Wines.Mobile_Wine_Name;
   if (Is_of_Variety()) name = Varieties.Variety_Name;
-  if (command_ == "VarietyAdd" && Screen("Varieties_Form").Is_Loaded()) {
+  if (Command_Is("VarietyAdd") && Screen("Varieties_Form").Is_Loaded()) {
     name = Screen("Varieties_Form").Get<Forms::Text_Box>("Variety_Name_Text").Text();
   }
   if (Command_Is({"WineAdd", "WineMod", "WineOtherAdd"}) && Screen("Wine_Form").Is_Loaded()) {
@@ -76,11 +76,11 @@ void Select_Maridages_for_Wines_Form::Load_Name() {
 }
 
 void Select_Maridages_for_Wines_Form::Load_Options() {
-  Option_Lines.Clear();
-  Option_Lines.Add("Complete Pairing List");
-  if (Offers_Cheeses()) Option_Lines.Add("Complete Cheeses List");
+  Selection_Option_List.Clear();
+  Selection_Option_List.Add("Complete Pairing List");
+  if (Offers_Cheeses()) Selection_Option_List.Add("Complete Cheeses List");
   if (Command_Is({"WineAdd", "WineMod", "WineOtherAdd"})) Add_Grapes_of("Wine_Form", "");
-  if (command_ == "WineOtherMod") Add_Grapes_of("Mobile_Wine_Form", " Pairings");
+  if (Command_Is("WineOtherMod")) Add_Grapes_of("Mobile_Wine_Form", " Pairings");
 }
 
 void Select_Maridages_for_Wines_Form::Add_Grapes_of(const char* wine_screen,
@@ -90,14 +90,14 @@ void Select_Maridages_for_Wines_Form::Add_Grapes_of(const char* wine_screen,
   const auto& keys = Screen(wine_screen).Get<Forms::Item_List>("Variety_ID_Combo");
   for (int grape = 0; grape < grapes.ListCount(); ++grape) {
     if (grapes.Selected(grape))
-      Option_Lines.Add(grapes.List(grape) + behind_name, keys.List(grape));
+      Selection_Option_List.Add(grapes.List(grape) + behind_name, keys.List(grape));
   }
 }
 
 void Select_Maridages_for_Wines_Form::Load_Chosen() {
   Clear_Chosen();
-  if (command_ == "WineMod") Choose_Pairings_of_Wine();
-  if (command_ == "WineOtherMod") {
+  if (Command_Is("WineMod")) Choose_Pairings_of_Wine();
+  if (Command_Is("WineOtherMod")) {
     Choose_Those_of("Mobile_Wine_Form", "Pairing_List", "Pairing_Index_List");
   }
   if (Is_of_Variety()) {
@@ -121,29 +121,29 @@ void Select_Maridages_for_Wines_Form::Selection_Option_List_Click() {
 void Select_Maridages_for_Wines_Form::Load_from_Query(const char* condition, const char* caption) {
   Pairings_Label.Set_Caption(caption);
   const Text name = Language_Name_From_Number(System_Language);
-  Candidate_Lines.Clear();
+  Cat_List.Clear();
   Open_Query(Maridages_Recordset,
              Text("SELECT * FROM Maridages") + condition + " ORDER BY " + name);
-  Candidate_Lines.Add_Rows(Maridages_Recordset, name, "Maridage_ID");
+  Cat_List.Add_Rows(Maridages_Recordset, name, "Maridage_ID");
   Close_Table(Maridages_Recordset);
   Show_Candidates();
 }
 
 void Select_Maridages_for_Wines_Form::Load_Suggestions() {
   Pairings_Label.Set_Caption("Suggestred Pairings for this Grape");
-  Candidate_Lines.Clear();
+  Cat_List.Clear();
   Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
-  Varieties_Recordset.Seek("=", Option_Lines.Key());
+  Varieties_Recordset.Seek("=", Selection_Option_List.Key());
   const bool known = !Varieties_Recordset.NoMatch();
   if (known) Read_Varieties_Record();
   Close_Table(Varieties_Recordset);
-  if (known) Fill_Lists_with_Variety_Maridages(Cat_List, Cat_Index_List);
+  if (known) Fill_Lists_with_Variety_Maridages(Cat_List, Cat_List.Keys());
   Show_Candidates();
 }
 
 std::optional<Picker_Form::Entry> Select_Maridages_for_Wines_Form::Current_Entry() const {
   std::optional<Entry> entry = List_Picker_Form::Current_Entry();
-  if (entry && command_ == "WineOtherMod" && Selection_Option_List.ListIndex() == cheeses) {
+  if (entry && Command_Is("WineOtherMod") && Selection_Option_List.ListIndex() == cheeses) {
     entry->text += " Cheese";
   }
   return entry;
@@ -152,12 +152,12 @@ std::optional<Picker_Form::Entry> Select_Maridages_for_Wines_Form::Current_Entry
 // ---- leaving ----
 
 void Select_Maridages_for_Wines_Form::Proceed() {
-  if (command_ == "WineSearch") {
+  if (Command_Is("WineSearch")) {
     Search_Cellar();
     return;
   }
   if (Is_of_Variety()) Variety_Pairings_Changed = true;
-  if (command_ == "VarietyPairings") Screen("Select_Mult_Maridages_Form").Unload();
+  if (Command_Is("VarietyPairings")) Screen("Select_Mult_Maridages_Form").Unload();
   if (Command_Is({"WineAdd", "WineMod"})) Tag_Pairings_of("Wine_Form");
   if (Command_Is({"WineOtherAdd", "WineOtherMod"})) Tag_Pairings_of("Mobile_Wine_Form");
   Leave_to(Caller());

@@ -11,7 +11,7 @@ class Select_Maridages_for_Wines_Form : public List_Picker_Form {
  protected:
   void Form_Load() override;
   std::optional<Entry> Current_Entry() const override;
-  bool May_Be_Empty() const override { return command_ == "WineMod"; }
+  bool May_Be_Empty() const override { return Command_Is("WineMod"); }
   void Proceed() override;
   void MultCancel_Click() override;
 
@@ -35,11 +35,8 @@ class Select_Maridages_for_Wines_Form : public List_Picker_Form {
   Forms::Label Wine_Name_Label{*this, "Wine_Name_Label", "Wine:"};
   Forms::Text_Box Wine_Name_Text{*this, "Wine_Name_Text"};
   Forms::Label Selection_Label{*this, "Selection_Label", "Select an Option"};
-  Forms::List_Box Selection_Option_List{*this, "Selection_Option_List"};
-  Forms::List_Box Selection_Option_ID_List{*this, "Selection_Option_ID_List"};
+  Keyed_List_Box Selection_Option_List{*this, "Selection_Option_List", "Selection_Option_ID_List"};
   Forms::Command_Button Display_Command{*this, "Display_Command", "Display==>"};
   Forms::Label Pairings_Label{*this, "Pairings_Label", "Pairings"};
   Forms::Label Selected_Label{*this, "Selected_Label", "Selected Pairings"};
-
-  Keyed_List Option_Lines{Selection_Option_List, Selection_Option_ID_List};
 };

@@ -7,7 +7,6 @@
 #include "links/Link_Search.h"
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
-#include "screens/List_Sorting.h"
 
 namespace {
 
@@ -19,15 +18,15 @@ void Read_Winery_of_Wine() {
 
 }  // namespace
 
+// Two of the headers read otherwise than the words that the columns answer to: they turn the order
+// and keep the column.
 Wine_Search_Results_Form::Wine_Search_Results_Form()
-    : Wine_Screen("Wine_Search_Results_Form", "Wine Information", {8, 22, 18, 14, 20, 9, 7, 7, 7}),
-      command_(Current_Command) {
+    : Wine_Screen(
+          "Wine_Search_Results_Form", "Wine Information", {8, 22, 18, 14, 20, 9, 7, 7, 7},
+          {"Vintage", "Winery", "Label", "Region", "Variety", "Color", "Merit", "Peak", "Stock"}) {
   Lay_Out();
   Wine_Cellar_ListView.ItemClick = [this](Forms::List_Item item) {
     Wine_Cellar_ListView_ItemClick(item);
-  };
-  Wine_Cellar_ListView.ColumnClick = [this](const Forms::Column_Header& header) {
-    Wine_Cellar_ListView_ColumnClick(header);
   };
   Variety_Combo.ItemCheck = [this](int item) { Variety_Combo_ItemCheck(item); };
   Multi_Functional_Command.Click = [this] { Multi_Functional_Command_Click(); };
@@ -35,7 +34,7 @@ Wine_Search_Results_Form::Wine_Search_Results_Form()
 }
 
 void Wine_Search_Results_Form::Lay_Out() {
-  using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  using namespace Forms;
   constexpr int opening_width = 1264;
   constexpr int list_height = 14;
   constexpr int requested_width = 22;
@@ -54,7 +53,7 @@ void Wine_Search_Results_Form::Lay_Out() {
 
 void Wine_Search_Results_Form::Form_Load() {
   Initialize_Form_Data();
-  if (command_ != "WineSearch") return;
+  if (!Command_Is("WineSearch")) return;
   Lock_Top_Window();
   Checks_Locked = true;
   Set_Caption("Results of Pairings with Wine in your " + Current_Cellar_Name + " Cellar");
@@ -66,18 +65,14 @@ void Wine_Search_Results_Form::Form_Load() {
   Wine_Cellar_ListView.SetFocus();
 }
 
-void Wine_Search_Results_Form::Form_Activate() { Current_Command = command_; }
-
 // Nothing stands in the fields before a wine is clicked.
 void Wine_Search_Results_Form::Initialize_Form_Data() {
   const Ignoring_Events ignoring;
-  for (const Keyed_List& lines : {Winery_Lines, Label_Lines, Variety_Lines, Region_Lines,
-                                  Country_Lines, Classification_Lines, Pairing_Lines}) {
-    lines.Clear();
-  }
-  for (Forms::Combo_Box* combo :
-       {&Vintage_Combo, &Color_Combo, &Merit_Combo, &Bottle_Size_Combo, &Peak_Year_Combo}) {
-    combo->Clear();
+  for (Forms::Item_List* list : std::initializer_list<Forms::Item_List*>{
+           &Winery_Combo, &Label_Combo, &Variety_Combo, &Region_Combo, &Country_Combo,
+           &Classification_Combo, &Pairing_List, &Vintage_Combo, &Color_Combo, &Merit_Combo,
+           &Bottle_Size_Combo, &Peak_Year_Combo}) {
+    list->Clear();
   }
   for (Forms::Text_Box* box : Text_Fields()) box->Set_Text("");
   Boxes.Clear();
@@ -98,7 +93,7 @@ void Wine_Search_Results_Form::Get_WineResults_Records() {
   Search_Wines_for_Maridages();
   Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
   Open_Table(Wines_Recordset, "Wines", "Wine_ID");
-  Clear_Wine_List();
+  Wine_Cellar_ListView.Begin_Anew();
   for (int found = 1; found <= Found_Count; ++found) {
     Wines_Recordset.Seek("=", Found_IDs[found]);
     if (Wines_Recordset.NoMatch()) continue;
@@ -111,19 +106,10 @@ void Wine_Search_Results_Form::Get_WineResults_Records() {
   Wines_Number.Set_Caption(To_Text(Wine_Cellar_ListView.Count()));
 }
 
-// Two of the headers read otherwise than the words they are compared with: they turn the order and
-// keep the column.
-void Wine_Search_Results_Form::Wine_Cellar_ListView_ColumnClick(
-    const Forms::Column_Header& header) {
-  Sort_by_Header(
-      Wine_Cellar_ListView, header,
-      {"Vintage", "Winery", "Label", "Region", "Variety", "Color", "Merit", "Peak", "Stock"});
-}
-
 // The focus goes back to the list, for the next wine.
 void Wine_Search_Results_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
   Checks_Locked = false;
-  Selected_Wine_ID = To_Long(Wine_Key(item));
+  Selected_Wine_ID = To_Long(Wine_Cellar_ListView.Key_of(item));
   Seek_Wine();
   Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
   Read_Winery_of_Wine();
@@ -132,7 +118,7 @@ void Wine_Search_Results_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item i
   item.Set_Selected(true);
   Close_Table(Wines_Recordset);
   Wine_Cellar_ListView.SetFocus();
-  if (command_ != "WineSearch") return;
+  if (!Command_Is("WineSearch")) return;
   Checks_Locked = true;
   Multi_Functional_Command.Set_Enabled(Wines.Total_Bottles > 0);
 }
@@ -151,7 +137,5 @@ void Wine_Search_Results_Form::Multi_Functional_Command_Click() {
 }
 
 void Wine_Search_Results_Form::Exit_Command_Click() {
-  Unload();
-  Forms::Screen(command_ == "WineSearch" ? "Select_Mult_Maridages_Form" : "Wine_Cellar_Form")
-      .Show();
+  Leave_to(Command_Is("WineSearch") ? "Select_Mult_Maridages_Form" : "Wine_Cellar_Form");
 }

@@ -13,7 +13,6 @@ class Wine_Search_Results_Form : public Wine_Screen {
 
  protected:
   void Form_Load() override;
-  void Form_Activate() override;
   void Fill_Wine_List() override { Get_WineResults_Records(); }
 
  private:
@@ -21,14 +20,10 @@ class Wine_Search_Results_Form : public Wine_Screen {
   void Initialize_Form_Data();
   void Load_Requested_Pairings();
   void Get_WineResults_Records();
-  void Wine_Cellar_ListView_ColumnClick(const Forms::Column_Header& header);
   void Wine_Cellar_ListView_ItemClick(Forms::List_Item item);
   void Variety_Combo_ItemCheck(int item);
   void Multi_Functional_Command_Click();
   void Exit_Command_Click();
-
-  /// The command under which the screen was loaded.
-  Text command_;
 
   Forms::Label Wines_Number{*this, "Wines_Number"};
   Forms::Label Requested_Pairings_Label{*this, "Requested_Pairings_Label", "Requested Pairings"};

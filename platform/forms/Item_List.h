@@ -22,8 +22,8 @@ class Item_List : public Lockable_Control {
   /// Before the entry `index`. 5 outside 0 .. ListCount.
   void AddItem(std::string_view text, int index);
   /// The chosen entry is none afterwards. 5 outside the list.
-  void RemoveItem(int index);
-  void Clear();
+  virtual void RemoveItem(int index);
+  virtual void Clear();
 
   int ListCount() const;
   /// The text of an entry; that of -1 is "". 381 outside the list.

@@ -161,12 +161,7 @@ void Load_Wine_System() {
   Close_Table(Wine_System_Recordset);
 }
 
-void Read_Winery_By_ID(Integer key) {
-  Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
-  Wineries_Recordset.Seek("=", key);
-  Read_Wineries_Record();
-  Close_Table(Wineries_Recordset);
-}
+void Read_Winery_By_ID(Integer key) { Read_By_Key(Wineries_Table, key); }
 
 Text Country_Short_Name(std::string_view long_name) {
   return Country_By("Long_Name", long_name, "Short_Name");
@@ -234,11 +229,6 @@ bool Add_New_Maridage() {
   if (is_new) Store_New_Maridage(address);
   Close_Table(Maridages_Recordset);
   return is_new;
-}
-
-void Open_Query(Record_Store::Recordset& query, std::string_view statement) {
-  if (!Wine_Cellar_DB) Fail(Failure::Object_Variable_Not_Set);
-  query = Wine_Cellar_DB->OpenRecordset(statement);
 }
 
 void Open_Regions_Of_Country(std::string_view country) {

@@ -4,7 +4,6 @@
 
 #include <string_view>
 
-#include "platform/record_store/Record_Store.h"
 #include "platform/run_time/Bounded_Array.h"
 #include "platform/run_time/Values.h"
 
@@ -100,10 +99,6 @@ inline Text New_Maridage_Other_Text;
 /// nothing is added, where the language in force has a pairing of this name, whatever its case. A
 /// new row stores what the memory record of `Maridages` holds for `Cheese_ID` and `CAT_ID`.
 bool Add_New_Maridage();
-
-/// Replaces what `query` holds by the rows of `statement`, in its order. 3075 where the statement
-/// is broken, for instance by a quote in a value.
-void Open_Query(Record_Store::Recordset& query, std::string_view statement);
 
 // ---- ordered queries: each opens the table and, beside it, the query; the caller closes both ----
 

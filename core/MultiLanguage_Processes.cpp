@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "core/Gereral_Processes.h"
 #include "core/Globals.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"

@@ -27,11 +27,8 @@ namespace {
 
 // The logo lies across the window and is as wide as it.
 void Fit_Window_To_Language() {
-  Open_Table(Languages_Available_Recordset, "Languages_Available", "Language_Number");
-  Languages_Available_Recordset.Seek("=", System_Language);
-  Read_Languages_Available_Record();
+  Read_By_Key(Languages_Available_Table, System_Language);
   Screen("Wine_Cellar_Form").Instance().Set_Width(Languages_Available.Width_Main);
-  Close_Table(Languages_Available_Recordset);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 // classifications.
 #pragma once
 
-#include "core/tables/Table.h"
+#include "core/tables/Rows.h"
 
 // ---- World_Contries: the countries; delivered, never written ----
 
@@ -33,6 +33,8 @@ inline Record_Store::Recordset World_Contries_Query;      ///< the same in one l
 /// The names stand at the ordinals by which the screens fetch them: the English ones at 0 and 1,
 /// Spanish at 2, French to Portuguese at 9 to 13.
 extern const Tables::Table<Countries_Record> World_Contries_Description;
+inline constexpr Tables::Table_In_Use World_Contries_Table{
+    World_Contries_Description, World_Contries_Recordset, Countries_Memory, "Short_Name"};
 
 // ---- State_of_Contries: delivered, never written ----
 
@@ -69,6 +71,8 @@ inline Record_Store::Recordset Regions_Recordset;  ///< open only while in use
 inline Record_Store::Recordset Regions_Query;      ///< one country's regions by name
 
 extern const Tables::Table<Regions_Record> Regions_Description;
+inline constexpr Tables::Table_In_Use Regions_Table{Regions_Description, Regions_Recordset, Regions,
+                                                    "Region_ID"};
 
 // ---- Labels: labels and appellations of a region ----
 
@@ -88,6 +92,8 @@ inline Record_Store::Recordset Labels_Recordset;  ///< open only while in use
 inline Record_Store::Recordset Labels_Query;      ///< one region's labels by name
 
 extern const Tables::Table<Labels_Record> Labels_Description;
+inline constexpr Tables::Table_In_Use Labels_Table{Labels_Description, Labels_Recordset, Labels,
+                                                   "Label_ID"};
 
 // ---- Wineries ----
 
@@ -115,6 +121,8 @@ inline Wineries_Record Wineries;
 inline Record_Store::Recordset Wineries_Recordset;  ///< open only while in use
 
 extern const Tables::Table<Wineries_Record> Wineries_Description;
+inline constexpr Tables::Table_In_Use Wineries_Table{Wineries_Description, Wineries_Recordset,
+                                                     Wineries, "Winery_ID"};
 
 // ---- Labels_per_Winery: which labels a winery bottles; delivered, never written ----
 
@@ -143,3 +151,5 @@ inline Classification_Record Classification;
 inline Record_Store::Recordset Classification_Recordset;  ///< open only while in use
 
 extern const Tables::Table<Classification_Record> Classification_Description;
+inline constexpr Tables::Table_In_Use Classification_Table{
+    Classification_Description, Classification_Recordset, Classification, "Classification_ID"};

@@ -1,7 +1,7 @@
 // The tables of grapes, pairings and cheeses. What links them stands in Link_Tables.h.
 #pragma once
 
-#include "core/tables/Table.h"
+#include "core/tables/Rows.h"
 
 // ---- Varieties: grape varieties ----
 
@@ -21,6 +21,8 @@ inline Varieties_Record Varieties;
 inline Record_Store::Recordset Varieties_Recordset;  ///< open only while in use
 
 extern const Tables::Table<Varieties_Record> Varieties_Description;
+inline constexpr Tables::Table_In_Use Varieties_Table{Varieties_Description, Varieties_Recordset,
+                                                      Varieties, "Variety_ID"};
 
 // ---- Maridages: the pairing catalogue ----
 
@@ -48,6 +50,8 @@ inline Record_Store::Recordset Maridages_Recordset;  ///< open only while in use
 
 /// A language's number plus 2 is its column's ordinal, and its name in capitals its index.
 extern const Tables::Table<Maridages_Record> Maridages_Description;
+inline constexpr Tables::Table_In_Use Maridages_Table{Maridages_Description, Maridages_Recordset,
+                                                      Maridages, "Maridage_ID"};
 
 // ---- Cheeses ----
 

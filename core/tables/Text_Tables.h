@@ -1,7 +1,7 @@
 // The tables of texts by language: screens, long texts of the data, glossary, and the languages.
 #pragma once
 
-#include "core/tables/Table.h"
+#include "core/tables/Rows.h"
 
 // ---- Words: the texts of the screens; delivered, never written ----
 
@@ -45,6 +45,8 @@ inline Record_Store::Recordset Words_for_Data_Recordset;  ///< open only while i
 
 /// A language's number less 2 is its column's ordinal. Some screens take the key by the name ID.
 extern const Tables::Table<Words_for_Data_Record> Words_for_Data_Description;
+inline constexpr Tables::Table_In_Use Words_for_Data_Table{
+    Words_for_Data_Description, Words_for_Data_Recordset, Words_for_Data, "Multi_Language_ID"};
 
 // ---- Glossary: delivered, never written ----
 
@@ -93,3 +95,6 @@ inline Languages_Available_Record Languages_Available;
 inline Record_Store::Recordset Languages_Available_Recordset;  ///< open only while in use
 
 extern const Tables::Table<Languages_Available_Record> Languages_Available_Description;
+inline constexpr Tables::Table_In_Use Languages_Available_Table{
+    Languages_Available_Description, Languages_Available_Recordset, Languages_Available,
+    "Language_Number"};

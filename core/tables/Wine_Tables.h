@@ -1,7 +1,7 @@
 // The tables of wines: the user's own, the general list, and their tasting marks.
 #pragma once
 
-#include "core/tables/Table.h"
+#include "core/tables/Rows.h"
 
 // ---- Wines: the wines of the user's cellars ----
 
@@ -36,6 +36,8 @@ inline Wines_Record Wines;
 inline Record_Store::Recordset Wines_Recordset;  ///< open only while in use
 
 extern const Tables::Table<Wines_Record> Wines_Description;
+inline constexpr Tables::Table_In_Use Wines_Table{Wines_Description, Wines_Recordset, Wines,
+                                                  "Wine_ID"};
 
 // ---- Mobile_Wines: the general list, wines that are known but not owned ----
 
@@ -64,6 +66,8 @@ inline Record_Store::Recordset Mobile_Wines_Recordset;  ///< open only while in 
 inline Record_Store::Recordset Mobile_Wines_Query;      ///< the rows of one list, in its order
 
 extern const Tables::Table<Mobile_Wines_Record> Mobile_Wines_Description;
+inline constexpr Tables::Table_In_Use Mobile_Wines_Table{
+    Mobile_Wines_Description, Mobile_Wines_Recordset, Mobile_Wines, "Mobile_Wine_ID"};
 
 /// What the lists of general wines need of a row: a query that reads no more is enough for it.
 extern const Tables::Table<Mobile_Wines_Record> Mobile_Wines_Query_Description;

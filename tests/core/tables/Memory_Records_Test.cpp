@@ -124,20 +124,17 @@ TEST_F(Memory_Records, Init_Leaves_Other_Members_Alone) {
 // A row made in two steps: a placeholder that gives the key, overwritten when all is known.
 TEST_F(Memory_Records, New_Row_In_Two_Steps) {
   for (Long expected : {10001, 10002}) {
-    Open_Table(Wineries_Recordset, "Wineries");
-    Wineries_Recordset.Index("Winery_ID");
+    Open_By_Key(Wineries_Table);
     Init_Wineries_Record();
     Wineries_Recordset.AddNew();
     Write_Wineries_Record();
-    Wineries_Recordset.MoveLast();
-    Read_Wineries_Record();
+    Read_Last_Row(Wineries_Table);
     EXPECT_EQ(Wineries.Winery_ID, std::to_string(expected));
     EXPECT_EQ(Wineries.Winery_Name, "x");
     Close_Table(Wineries_Recordset);
   }
-  Open_Table(Wineries_Recordset, "Wineries");
-  Wineries_Recordset.Index("Winery_ID");
-  Wineries_Recordset.Seek("=", "10001");
+  Open_By_Key(Wineries_Table);
+  Read_Row(Wineries_Table, "10001");
   Wineries_Recordset.Edit();
   Wineries.Winery_ID = "77";
   Wineries.Winery_Name = "Quinta";
@@ -147,6 +144,14 @@ TEST_F(Memory_Records, New_Row_In_Two_Steps) {
   EXPECT_EQ(Wineries.Winery_Name, "Quinta");
   Close_Table(Wineries_Recordset);
   EXPECT_FAILURE(3420, Close_Table(Wineries_Recordset));
+
+  EXPECT_FALSE(Find_By_Key(Wineries_Table, 10003));
+  EXPECT_EQ(Wineries.Winery_Name, "Quinta") << "a miss leaves the record as it was";
+  EXPECT_FALSE(Wineries_Recordset.Is_Open());
+  EXPECT_TRUE(Find_By_Key(Wineries_Table, 10002));
+  EXPECT_EQ(Wineries.Winery_Name, "x");
+  EXPECT_FAILURE(3021, Read_By_Key(Wineries_Table, 10003));
+  EXPECT_TRUE(Wineries_Recordset.Is_Open()) << "nothing is closed after a failure";
 }
 
 TEST_F(Memory_Records, Query_Row_Of_A_General_Wine_Keeps_Other_Members) {
@@ -158,8 +163,7 @@ TEST_F(Memory_Records, Query_Row_Of_A_General_Wine_Keeps_Other_Members) {
   Close_Table(Mobile_Wines_Recordset);
   Mobile_Wines = Filled(Mobile_Wines_Description);
   const Mobile_Wines_Record before = Mobile_Wines;
-  Mobile_Wines_Query =
-      Wine_Cellar_DB->OpenRecordset("SELECT * FROM Mobile_Wines ORDER BY Mobile_Wine_Name");
+  Open_Query(Mobile_Wines_Query, "SELECT * FROM Mobile_Wines ORDER BY Mobile_Wine_Name");
   Read_Mobile_Wines_Query_Row();
   EXPECT_EQ(Mobile_Wines.Mobile_Wine_Name, "Merlot");
   EXPECT_EQ(Mobile_Wines.Mobile_Wine_ID, 20001);

@@ -7,6 +7,7 @@
 #include "core/tables/Catalogue.h"
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
+#include "screens/Field_States.h"
 
 using Forms::Screen;
 
@@ -17,7 +18,7 @@ constexpr const char* pick_first = "Please Select a Wine from the Cellar first";
 }  // namespace
 
 Wine_Form::Wine_Form()
-    : Wine_Screen("Wine_Form", "Wine Information", {8, 30, 28, 20, 38, 10, 7, 7, 7},
+    : Cellar_Wine_Screen("Wine_Form", "Wine Information", {8, 30, 28, 20, 38, 10, 7, 7, 7},
                   {"Vintage", "Winery", "Label", "Wine Region", "Grape Variety", "Color", "Merit",
                    "Peak", "Stock"}) {
   for (Forms::Placed_Control* field : Gate_Fields()) field->Set_Tag("0");
@@ -30,16 +31,16 @@ Wine_Form::Wine_Form()
 }
 
 void Wine_Form::Set_Up_Handlers() {
-  Let(Country_Combo.Click, &Wine_Form::Country_Combo_Click);
-  Let(Winery_Combo.Click, &Wine_Form::Winery_Combo_Click);
-  Let(Region_Combo.Click, &Wine_Form::Region_Combo_Click);
-  Let(Label_Combo.Click, &Wine_Form::Label_Combo_Click);
-  Let(Classification_Combo.Click, &Wine_Form::Classification_Combo_Click);
-  Let(Color_Combo.Click, &Wine_Form::Color_Combo_Click);
-  Let(Bottle_Size_Combo.Click, &Wine_Form::Bottle_Size_Combo_Click);
-  Let(Total_Bottles_Text, &Wine_Form::Total_Bottles_Text_LostFocus);
-  Let(Alcohol_Text, &Wine_Form::Alcohol_Text_LostFocus);
-  Let(Price_Text, &Wine_Form::Price_Text_LostFocus);
+  On(Country_Combo.Click, &Wine_Form::Country_Combo_Click);
+  On(Winery_Combo.Click, &Wine_Form::Winery_Combo_Click);
+  On(Region_Combo.Click, &Wine_Form::Region_Combo_Click);
+  On(Label_Combo.Click, &Wine_Form::Label_Combo_Click);
+  On(Classification_Combo.Click, &Wine_Form::Classification_Combo_Click);
+  On(Color_Combo.Click, &Wine_Form::Color_Combo_Click);
+  On(Bottle_Size_Combo.Click, &Wine_Form::Bottle_Size_Combo_Click);
+  On_Leaving(Total_Bottles_Text, &Wine_Form::Total_Bottles_Text_LostFocus);
+  On_Leaving(Alcohol_Text, &Wine_Form::Alcohol_Text_LostFocus);
+  On_Leaving(Price_Text, &Wine_Form::Price_Text_LostFocus);
   Vintage_Combo.Click = [this] { Vintage_Combo_Click(); };
   Variety_Combo.ItemCheck = [this](int item) { Variety_Combo_ItemCheck(item); };
   for (Forms::Text_Box* date : {&Date_Added_Text, &Last_Date_Uncorked_Text}) {

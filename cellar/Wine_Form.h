@@ -6,8 +6,9 @@
 // then the button that commits is open.
 //
 // The sources: Wine_Form.cpp the life and the modes, _Layout the places, _Locks the states of the
-// fields, _Lists what the lists are filled with, _Fields what a choice or a value brings about,
-// _Show a stored wine on the fields, _List the cellar's list, _Commit the writes.
+// fields, _Fills and _Own_Fills what the lists are filled with, _Fields what a choice or a value
+// brings about, _Show a stored wine on the fields, _Picked the cellar's list and what a pick in it
+// brings about, _Commit the writes.
 #pragma once
 
 #include <functional>
@@ -17,9 +18,9 @@
 
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Values.h"
-#include "screens/Wine_Screen.h"
+#include "screens/Cellar_Wine_Screen.h"
 
-class Wine_Form : public Wine_Screen {
+class Wine_Form : public Cellar_Wine_Screen {
  public:
   Wine_Form();
 
@@ -50,16 +51,13 @@ class Wine_Form : public Wine_Screen {
   void Exit_Command_Click();
 
   // ---- the states of the fields ----
-  Controls Gate_Fields();
+  Controls Gate_Fields() override;
   void UnLock_for_Add();
-  void Setup_for_Message(const char* message);
-  void Remove_Message();
   void Top_Window_Clean();
   void Hide_Add_Commands();
   void Hide_ADD_Buttons();
   void Disable_Add_Buttons();
   void Reset_Values();
-  void Should_Multi_Command_Be_Enabled();
 
   // ---- what the lists are filled with ----
   void Initialize_Form_Data();
@@ -75,19 +73,15 @@ class Wine_Form : public Wine_Screen {
   void Initialize_Color();
   void Initialize_Bootle_Size();
   void Initialize_Merit();
-  void Load_Country(const Text& short_name);
-  void Load_Wineries_in_Country(const Text& short_name);
-  void Load_Regions_for_Country(const Text& short_name);
-  void Get_Regions_for_Country(const Text& short_name);
+  void Load_Wineries_in_Country(const Text& country);
+  void Load_Regions_for_Country(const Text& country);
+  void Get_Regions_for_Country(const Text& country);
   void Load_Labels_for_Region(Integer region_id);
-  void Add_Labels_of_Region(Integer region_id);
-  void Load_Classifications(const Text& short_name);
+  void Load_Classifications(const Text& country);
   void Load_Varieties_for_Region(Long region_id);
   void Fill_Peak_Years();
 
   // ---- what a choice or a value brings about ----
-  void Let(std::function<void()>& event, void (Wine_Form::*handler)());
-  void Let(Forms::Text_Box& field, void (Wine_Form::*handler)());
   void Country_Combo_Click();
   void Winery_Combo_Click();
   void Winery_Chosen();
@@ -95,7 +89,6 @@ class Wine_Form : public Wine_Screen {
   void Region_Combo_Click();
   void Label_Combo_Click();
   void Classification_Combo_Click();
-  void Take_Choice(Forms::Combo_Box& combo, Forms::Command_Button& add);
   void Variety_Combo_ItemCheck(int item);
   void Color_Combo_Click();
   void Bottle_Size_Combo_Click();
@@ -125,7 +118,19 @@ class Wine_Form : public Wine_Screen {
   void Modify_Wine();
   void Remove_Wine();
   void Store_New_Wine();
-  void From_Form_to_Memory();
+  /// What the fields hold as numbers, -1 where a value is not given.
+  struct Numbers {
+    Long Winery_ID{};
+    Integer Vintage{};
+    Integer Peak{};
+    Currency Value_Guide = Currency::Of(-1);
+    Integer Ranking = -1;
+    Integer Total_Bottles{};
+    Single Alcohol = -1;
+  };
+  /// 13 and 6 where one cannot be stored.
+  Numbers Numbers_of_Form() const;
+  void From_Form_to_Memory(const Numbers& numbers);
   void Varieties_to_Memory();
   Long Store_Data_Text(Forms::Text_Box& box, Long key);
   void Remove_Tasting();

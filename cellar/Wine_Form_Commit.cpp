@@ -9,6 +9,7 @@
 #include "links/Link_Store.h"
 #include "links/Used_Counters.h"
 #include "platform/run_time/Conversions.h"
+#include "screens/Field_States.h"
 
 void Wine_Form::Multi_Functional_Command_Click() {
   if (Command_Is("WineAdd")) Save_Wine();
@@ -21,7 +22,7 @@ void Wine_Form::Multi_Functional_Command_Click() {
 
 void Wine_Form::Save_Wine() {
   Store_New_Wine();
-  Boxes.Store_Marks_of(Wines.Wine_ID, true);
+  Boxes.Store_Marks_of(Wines.Wine_ID);
   Count_Wine_In();
   Winery_Combo.Set_ListIndex(0);
   Display_Current_Cellar();
@@ -34,7 +35,9 @@ void Wine_Form::Save_Wine() {
 }
 
 // A row of defaults first, for its number; then, read back as the highest one, what the form says.
+// A number that cannot be stored fails before there is a row.
 void Wine_Form::Store_New_Wine() {
+  const Numbers numbers = Numbers_of_Form();
   Open_Table(Wines_Recordset, "Wines");
   Init_Wines_Record();
   Wines_Recordset.AddNew();
@@ -43,7 +46,7 @@ void Wine_Form::Store_New_Wine() {
   Open_Table(Wines_Recordset, "Wines", "Wine_ID");
   Wines_Recordset.MoveLast();
   Read_Wines_Record();
-  From_Form_to_Memory();
+  From_Form_to_Memory(numbers);
   Wines_Recordset.Edit();
   Write_Wines_Record();
   Close_Table(Wines_Recordset);
@@ -66,13 +69,14 @@ void Wine_Form::Count_Wine_In() {
 // ---- MODIFY ----
 
 void Wine_Form::Modify_Wine() {
+  const Numbers numbers = Numbers_of_Form();
   Seek_Wine();
-  From_Form_to_Memory();
+  From_Form_to_Memory(numbers);
   Wines_Recordset.Edit();
   Write_Wines_Record();
   Close_Table(Wines_Recordset);
   Remove_Tasting();
-  Boxes.Store_Marks_of(Wines.Wine_ID, true);
+  Boxes.Store_Marks_of(Wines.Wine_ID);
   Remove_Varieties();
   Store_Varieties();
   Store_Pairings();
@@ -139,33 +143,44 @@ void Wine_Form::Count_Wine_Out() {
 
 // ---- what they share ----
 
-void Wine_Form::From_Form_to_Memory() {
+Wine_Form::Numbers Wine_Form::Numbers_of_Form() const {
   const Text price = Trim(Price_Text.Text());
   const Text alcohol = Trim(Alcohol_Text.Text());
-  Wines.Winery_ID = To_Long(Winery_Combo.Key());
+  Numbers numbers;
+  numbers.Winery_ID = To_Long(Winery_Combo.Key());
+  numbers.Vintage = To_Integer(Vintage_Combo.Text());
+  numbers.Peak = To_Integer(Peak_Year_Combo.Text());
+  if (!price.empty()) numbers.Value_Guide = To_Currency(price);
+  if (Merit_Combo.ListIndex() != 0) numbers.Ranking = To_Integer(Merit_Combo.Text());
+  numbers.Total_Bottles = To_Integer(Trim(Total_Bottles_Text.Text()));
+  if (!alcohol.empty()) numbers.Alcohol = To_Single(alcohol);
+  return numbers;
+}
+
+void Wine_Form::From_Form_to_Memory(const Numbers& numbers) {
+  Wines.Winery_ID = numbers.Winery_ID;
   Wines.Label = Label_Combo.ListIndex() == 1 ? "x" : Label_Combo.Text();
   Varieties_to_Memory();
-  Wines.Vintage = To_Integer(Vintage_Combo.Text());
-  Wines.Peak = To_Integer(Peak_Year_Combo.Text());
-  Wines.Value_Guide = price.empty() ? Currency::Of(-1) : To_Currency(price);
-  Wines.Ranking = Merit_Combo.ListIndex() == 0 ? Integer{-1} : To_Integer(Merit_Combo.Text());
-  Wines.Total_Bottles = To_Integer(Trim(Total_Bottles_Text.Text()));
+  Wines.Vintage = numbers.Vintage;
+  Wines.Peak = numbers.Peak;
+  Wines.Value_Guide = numbers.Value_Guide;
+  Wines.Ranking = numbers.Ranking;
+  Wines.Total_Bottles = numbers.Total_Bottles;
   Wines.Bottle_Size = Bottle_Size_Combo.Text();
   Wines.Description = Store_Data_Text(Description_Text, Wines.Description);
   Wines.Color = Color_Combo.Text();
-  Wines.Alcohol = alcohol.empty() ? Single{-1} : To_Single(alcohol);
+  Wines.Alcohol = numbers.Alcohol;
   Wines.Clasification = Classification_Combo.Text();
   Wines.Comments = Store_Data_Text(Comments_Text, Wines.Comments);
 }
 
 void Wine_Form::Varieties_to_Memory() {
   Wines.Variety.clear();
-  for (int item = 0; item < Variety_Combo.ListCount(); ++item) {
-    if (!Variety_Combo.Selected(item)) continue;
+  Each_Ticked_Variety([this](int item) {
     Wines.Variety_ID = To_Long(Variety_Combo.Key(item));
     if (!Wines.Variety.empty()) Wines.Variety += ", ";
     Wines.Variety += Variety_Combo.List(item);
-  }
+  });
 }
 
 // The key of the row that holds the box's text, -1 for a new wine without one. Under WineMod a text
@@ -189,13 +204,12 @@ Long Wine_Form::Store_Data_Text(Forms::Text_Box& box, Long key) {
 
 void Wine_Form::Store_Varieties() {
   Open_Table(Varieties_of_Wines_Recordset, "Varieties_of_Wines");
-  for (int item = 0; item < Variety_Combo.ListCount(); ++item) {
-    if (!Variety_Combo.Selected(item)) continue;
+  Each_Ticked_Variety([this](int item) {
     Varieties_of_Wines_Recordset.AddNew();
     Varieties_of_Wines_Recordset.Fields("Wine_ID") = Wines.Wine_ID;
     Varieties_of_Wines_Recordset.Fields("Variety_ID") = To_Long(Variety_Combo.Key(item));
     Varieties_of_Wines_Recordset.Update();
-  }
+  });
   Close_Table(Varieties_of_Wines_Recordset);
 }
 

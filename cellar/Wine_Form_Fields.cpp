@@ -8,6 +8,7 @@
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
+#include "screens/Field_States.h"
 
 using Forms::Locked_Color;
 using Forms::Window_Color;
@@ -56,26 +57,6 @@ bool Is_Refused(Forms::Text_Box& field, const Text& fault, const char* title) {
 constexpr const char* illegal_number = "ILLEGAL NUMBER";
 
 }  // namespace
-
-// A field's event: nothing while code sets values, and nothing that the handler sets raises
-// another. Every one of them ends with the gate.
-void Wine_Form::Let(std::function<void()>& event, void (Wine_Form::*handler)()) {
-  event = [this, handler] {
-    if (Ignore_Events) return;
-    const Ignoring_Events ignoring;
-    (this->*handler)();
-    Should_Multi_Command_Be_Enabled();
-  };
-}
-
-// A locked field that was only looked at tests nothing and leaves the button as it is.
-void Wine_Form::Let(Forms::Text_Box& field, void (Wine_Form::*handler)()) {
-  std::function<void()> left;
-  Let(left, handler);
-  field.LostFocus = [&field, left] {
-    if (!field.Locked()) left();
-  };
-}
 
 void Wine_Form::Country_Combo_Click() {
   Fill_In(Country_Combo);
@@ -145,17 +126,6 @@ void Wine_Form::Label_Combo_Click() {
 
 void Wine_Form::Classification_Combo_Click() {
   Take_Choice(Classification_Combo, Classification_Add_Command);
-}
-
-// The first entry offers to add a new row; every other one is a choice.
-void Wine_Form::Take_Choice(Forms::Combo_Box& combo, Forms::Command_Button& add) {
-  const bool chosen = combo.ListIndex() >= 1;
-  add.Set_Enabled(!chosen && !combo.Locked());
-  if (chosen) {
-    Fill_In(combo);
-  } else {
-    Require(combo);
-  }
 }
 
 void Wine_Form::Variety_Combo_ItemCheck(int item) {

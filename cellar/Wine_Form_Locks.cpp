@@ -1,7 +1,7 @@
-// The states of the fields: locked, open, required; the message; the buttons; the gate.
+// The states of the fields: locked, open, required; the buttons; the gate.
 #include "cellar/Wine_Form.h"
 #include "core/Globals.h"
-#include "platform/run_time/Conversions.h"
+#include "screens/Field_States.h"
 
 using Forms::Required_Color;
 
@@ -21,17 +21,6 @@ void Wine_Form::UnLock_for_Add() {
   }
   Vintage_Combo.Set_BackColor(Required_Color);
   Checks_Locked = false;
-}
-
-void Wine_Form::Setup_for_Message(const char* message) {
-  Boxes.Set_Aroma_Visible(false);
-  Message_Label.Set_Caption(message);
-  Message_Label.Set_Visible(true);
-}
-
-void Wine_Form::Remove_Message() {
-  Boxes.Set_Aroma_Visible(true);
-  Message_Label.Set_Visible(false);
 }
 
 // The winery first: back on its first entry it has everything else filled anew.
@@ -79,12 +68,4 @@ void Wine_Form::Reset_Values() {
   Winery_Combo.Set_Locked(false);
   Hide_Add_Commands();
   Pairings_Add_Command.Set_Enabled(false);
-}
-
-void Wine_Form::Should_Multi_Command_Be_Enabled() {
-  bool all_filled = true;
-  for (const Forms::Placed_Control* field : Gate_Fields()) {
-    all_filled = all_filled && Val(field->Tag()) != 0;
-  }
-  Multi_Functional_Command.Set_Enabled(all_filled);
 }

@@ -6,6 +6,7 @@
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
+#include "screens/Field_States.h"
 
 namespace {
 

@@ -8,15 +8,17 @@
 #include "platform/forms/Layout.h"
 #include "platform/forms/Message_Box.h"
 #include "platform/run_time/Conversions.h"
+#include "screens/Field_States.h"
 
 Cellar_Names_Form::Cellar_Names_Form()
     : Command_Form("Cellar_Names_Form", "Cellar Names Information") {
   Lay_Out();
-  Cellar1_Name_Text.Change = [this] { Name_Text_Change(Cellar1_Name_Text, Cellar2_Name_Text); };
-  Cellar2_Name_Text.Change = [this] { Name_Text_Change(Cellar2_Name_Text, Cellar1_Name_Text); };
   General_Command.Click = [this] { General_Command_Click(); };
   Exit_Command.Click = [this] { Leave_Beside(); };
-  for (Forms::Text_Box* box : {&Cellar1_Name_Text, &Cellar2_Name_Text}) box->Set_Tag("0");
+  for (Forms::Text_Box* box : {&Cellar1_Name_Text, &Cellar2_Name_Text}) {
+    box->Set_Tag("0");
+    box->Change = [this, box] { Name_Text_Change(*box); };
+  }
 }
 
 void Cellar_Names_Form::Lay_Out() {
@@ -30,8 +32,8 @@ void Cellar_Names_Form::Lay_Out() {
 
 void Cellar_Names_Form::Form_Load() {
   if (Command_Is("CellarNames")) {
-    Cellar1_Name_Text.Set_BackColor(Forms::Required_Color);
-    Cellar2_Name_Text.Set_BackColor(Forms::Required_Color);
+    Require(Cellar1_Name_Text);
+    Require(Cellar2_Name_Text);
     General_Command.Set_Enabled(false);
   } else if (Command_Is("CellarMod")) {
     filling_ = true;
@@ -43,12 +45,10 @@ void Cellar_Names_Form::Form_Load() {
   }
 }
 
-void Cellar_Names_Form::Name_Text_Change(Forms::Text_Box& changed, const Forms::Text_Box& other) {
+void Cellar_Names_Form::Name_Text_Change(Forms::Text_Box& changed) {
   if (filling_) return;
-  const bool given = !Trim(changed.Text()).empty();
-  changed.Set_BackColor(given ? Forms::Window_Color : Forms::Required_Color);
-  changed.Set_Tag(given ? "1" : "0");
-  General_Command.Set_Enabled(given && other.Tag() == "1");
+  Require_Unless(!Trim(changed.Text()).empty(), changed);
+  General_Command.Set_Enabled(All_Filled({&Cellar1_Name_Text, &Cellar2_Name_Text}));
 }
 
 void Cellar_Names_Form::General_Command_Click() {

@@ -15,7 +15,7 @@ class Cellar_Names_Form : public Command_Form {
 
  private:
   void Lay_Out();
-  void Name_Text_Change(Forms::Text_Box& changed, const Forms::Text_Box& other);
+  void Name_Text_Change(Forms::Text_Box& changed);
   void General_Command_Click();
   void Name_Cellars();
   void Modify_Names();

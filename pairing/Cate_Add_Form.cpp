@@ -6,10 +6,9 @@
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
+#include "screens/Field_States.h"
 
 using Forms::Locked_Color;
-using Forms::Required_Color;
-using Forms::Window_Color;
 
 namespace {
 
@@ -104,16 +103,14 @@ void Cate_Add_Form::Define_Other_Language() {
 
 void Cate_Add_Form::Load_for_Add() {
   Maridages_ListView.Set_BackColor(Locked_Color);
-  CatText.Set_BackColor(Required_Color);
+  Require(CatText);
   CatText.SetFocus();
 }
 
 void Cate_Add_Form::Load_for_View() {
   Maridages_ListView.Set_BackColor(Locked_Color);
-  for (Forms::Text_Box* box : {&CatText, &CAT_Other_Language_Text}) {
-    box->Set_Locked(true);
-    box->Set_BackColor(Locked_Color);
-  }
+  Lock(CatText);
+  Lock(CAT_Other_Language_Text);
   Cat_Add_Now.Set_Visible(false);
   CatLabel.Set_Visible(false);
   Set_Caption("List of Current Available Pairings");
@@ -133,10 +130,9 @@ void Cate_Add_Form::Load_for_Mod() {
 // ---- the fields and the list ----
 
 void Cate_Add_Form::CatText_Change() {
-  const bool empty = CatText.Text().empty();
-  Cat_Add_Now.Set_Enabled(!empty);
-  CatText.Set_BackColor(empty ? Required_Color : Window_Color);
-  if (CatText.Locked()) CatText.Set_BackColor(Locked_Color);
+  const bool given = !CatText.Text().empty();
+  Cat_Add_Now.Set_Enabled(given);
+  Require_Unless(given, CatText);
 }
 
 // English and Spanish alone, whatever the language.

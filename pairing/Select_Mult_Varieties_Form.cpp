@@ -9,6 +9,7 @@
 #include "links/Link_Search.h"
 #include "links/Link_Store.h"
 #include "platform/run_time/Conversions.h"
+#include "screens/Place_Lists.h"
 
 using Forms::Screen;
 
@@ -37,9 +38,7 @@ void Select_Mult_Varieties_Form::Initialize_Select_Mult_Varieties_Language() {
 
 void Select_Mult_Varieties_Form::Load_Varieties() {
   Cat_List.Clear();
-  Open_Table(Varieties_Recordset, "Varieties", "Variety_Name");
-  Cat_List.Add_Rows(Varieties_Recordset, "Variety_Name", "Variety_ID");
-  Close_Table(Varieties_Recordset);
+  Add_Varieties(Cat_List);
   Show_Candidates();
 }
 

@@ -8,6 +8,7 @@
 #include "core/tables/Mobile_Wines_DB.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
+#include "screens/Place_Lists.h"
 
 namespace {
 
@@ -87,15 +88,7 @@ void Select_Mult_Wines_Form::Initialize_Countries() {
   for (int country = 1; country <= Mobile_Countries_Count; ++country) {
     listed.insert(Mobile_Countries[country]);
   }
-  Open_World_Contries_Sorted();
-  const int name = Country_Name_Column();
-  for (; !World_Contries_Query.Eof(); World_Contries_Query.MoveNext()) {
-    const Text short_name = World_Contries_Query.Fields(0).As_Text();
-    if (!listed.contains(short_name)) continue;
-    Country_Combo.Add(World_Contries_Query.Fields(name).As_Text(), short_name);
-  }
-  Close_Table(World_Contries_Query);
-  Close_Table(World_Contries_Recordset);
+  Add_Countries(Country_Combo, [&](const Text& country) { return listed.contains(country); });
   Country_Combo.Set_ListIndex(0);
 }
 

@@ -57,8 +57,9 @@ class Guarding {
 
 }  // namespace
 
-Tasting_Boxes::Tasting_Boxes(Forms::Form& form, std::function<int()> color)
-    : color_(std::move(color)),
+Tasting_Boxes::Tasting_Boxes(Forms::Form& form, Wine_List marks_of, std::function<int()> color)
+    : marks_of_(marks_of),
+      color_(std::move(color)),
       Wine_Taste_Frame(form, "Wine_Taste_Frame", taste),
       Taste_Check(form, "Taste_Check", 0, taste_boxes - 1),
       Aroma_Frame(form, "Aroma_Frame", aroma),
@@ -135,6 +136,7 @@ void Tasting_Boxes::Show_Marks_of(Long wine_id) {
        Wine_Tasting_Recordset.MoveNext()) {
     Read_Wine_Tasting_Record();
     if (Wine_Tasting.Wine_ID != wine_id) break;
+    if (marks_of_ == Wine_List::General && Wine_Tasting.Cellar_Wine) continue;
     Boxes* boxes = Wine_Tasting.Type_Taste == taste   ? &Taste_Check
                    : Wine_Tasting.Type_Taste == aroma ? &Aroma_Check
                                                       : nullptr;
@@ -144,24 +146,24 @@ void Tasting_Boxes::Show_Marks_of(Long wine_id) {
   Close_Table(Wine_Tasting_Recordset);
 }
 
-void Tasting_Boxes::Store_Marks_of(Long wine_id, bool cellar_wine) {
+void Tasting_Boxes::Store_Marks_of(Long wine_id) {
   Open_Table(Wine_Tasting_Recordset, "Wine_Tasting");
   for (int box = 0; box < taste_boxes; ++box) {
-    if (Taste_Flags[box + 1]) Add_Row(wine_id, taste, box, cellar_wine);
+    if (Taste_Flags[box + 1]) Add_Row(wine_id, taste, box);
   }
   for (int box = 0; box < aroma_boxes; ++box) {
-    if (Aroma_Check[box].Value() == 1) Add_Row(wine_id, aroma, box, cellar_wine);
+    if (Aroma_Check[box].Value() == 1) Add_Row(wine_id, aroma, box);
   }
   Close_Table(Wine_Tasting_Recordset);
 }
 
-void Tasting_Boxes::Add_Row(Long wine_id, const char* kind, int box, bool cellar_wine) {
+void Tasting_Boxes::Add_Row(Long wine_id, const char* kind, int box) const {
   Wine_Tasting_Recordset.AddNew();
   Init_Wine_Tasting_Record();
   Wine_Tasting.Description = static_cast<Integer>(box);
   Wine_Tasting.Type_Taste = kind;
   Wine_Tasting.Wine_ID = To_Integer(static_cast<double>(wine_id));
-  Wine_Tasting.Cellar_Wine = cellar_wine;
+  Wine_Tasting.Cellar_Wine = marks_of_ == Wine_List::Cellar;
   Write_Wine_Tasting_Record();
 }
 

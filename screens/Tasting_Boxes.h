@@ -15,12 +15,17 @@ inline Bounded_Array<bool, 6> Taste_Flags;
 /// Cleared with the boxes and read by nobody: aroma marks are stored by the boxes themselves.
 inline Bounded_Array<bool, 8> Aroma_Flags;
 
+/// The cellar's wines and those of the general list have their marks in one table, and may have the
+/// same keys.
+enum class Wine_List { Cellar, General };
+
 /// The two frames of boxes of one form. A click of the user is undone while `Checks_Locked`;
 /// otherwise it flags a taste box and clears those that the wine's colour excludes beside it.
 class Tasting_Boxes {
  public:
-  /// `color` tells which colour the form shows: 0 Red, 1 White, 2 Rosé, 3 Sparkling, 4 Fortified.
-  Tasting_Boxes(Forms::Form& form, std::function<int()> color);
+  /// `marks_of` tells whose marks are shown and stored; `color` which colour the form shows: 0 Red,
+  /// 1 White, 2 Rosé, 3 Sparkling, 4 Fortified.
+  Tasting_Boxes(Forms::Form& form, Wine_List marks_of, std::function<int()> color);
 
   Forms::Place Taste_Place();
   Forms::Place Aroma_Place();
@@ -34,11 +39,11 @@ class Tasting_Boxes {
   /// has rows of it. 3021 for a colour without rows. `english_color` is written as in that table.
   void Offer(std::string_view english_color);
 
-  /// Ticks what the rows of `Wine_Tasting` with this key say, flags nothing; a row of a wine of the
-  /// other list with the same key shows as well.
+  /// Ticks what the rows of `Wine_Tasting` with this key say, flags nothing. Of the general list only
+  /// its own; for the cellar, a row of a wine of the other list with the same key shows as well.
   void Show_Marks_of(Long wine_id);
   /// Adds a row for each flagged taste box and each ticked aroma box. 6 for a key beyond 16 bits.
-  void Store_Marks_of(Long wine_id, bool cellar_wine);
+  void Store_Marks_of(Long wine_id);
 
  private:
   using Boxes = Forms::Control_Array<Forms::Check_Box>;
@@ -50,8 +55,9 @@ class Tasting_Boxes {
   void Taste_Check_Click(int index);
   void Undo(Forms::Check_Box& box);
   void Exclude_Others(int index);
-  void Add_Row(Long wine_id, const char* kind, int box, bool cellar_wine);
+  void Add_Row(Long wine_id, const char* kind, int box) const;
 
+  Wine_List marks_of_;
   std::function<int()> color_;
   /// While True the boxes' Click does nothing: code is setting their values.
   bool taste_guard_ = false;

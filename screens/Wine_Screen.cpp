@@ -1,167 +1,80 @@
-// The places and states of the fields, the list, and the uncorking.
 #include "screens/Wine_Screen.h"
 
-#include "core/Globals.h"
-#include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
-#include "platform/run_time/Conversions.h"
+#include "screens/Field_States.h"
 
-using Forms::Locked_Color;
-using Forms::Required_Color;
-using Forms::Window_Color;
-
-namespace {
-
-constexpr int key_width = 8;
-
-}  // namespace
-
-Wine_Screen::Wine_Screen(std::string_view name, std::string_view caption, const Widths& widths,
-                         std::vector<std::string> words)
+Wine_Screen::Wine_Screen(std::string_view name, std::string_view caption, Wine_List marks_of,
+                         std::vector<Forms::List_Column> columns, std::vector<std::string> words)
     : Command_Form(name, caption),
-      Wine_Cellar_ListView(*this, "Wine_Cellar_ListView",
-                           {{"Vintage", widths[0]},
-                            {"Winery", widths[1]},
-                            {"Label", widths[2]},
-                            {"Wine Region", widths[3]},
-                            {"Grape Variety", widths[4]},
-                            {"Color", widths[5]},
-                            {"Merit", widths[6], false, true},
-                            {"Peak", widths[7], false, true},
-                            {"Stock", widths[8], false, true},
-                            {"ID", key_width, false, true}},
-                           std::move(words)) {
+      Boxes(*this, marks_of, [this] { return Color_Combo.ListIndex(); }),
+      Wine_Cellar_ListView(*this, "Wine_Cellar_ListView", std::move(columns), std::move(words)) {
   Message_Label.Set_Visible(false);
-}
-
-Forms::Place Wine_Screen::Fields_Place(const Beside& beside) {
-  using namespace Forms;
-  constexpr int name_width = 20;
-  constexpr int number_width = 9;
-  constexpr int text_width = 22;
-  const auto with_button = [&beside](Placed_Control& field, const Place& place) {
-    const auto button = beside.find(&field);
-    return button == beside.end() ? place : Row({place, button->second});
-  };
-  const Place origin = Fields(
-      {{Winery_Label, with_button(Winery_Combo, Place(Winery_Combo).Grow().Wide(name_width))},
-       {LabelLabel, with_button(Label_Combo, Place(Label_Combo).Grow().Wide(name_width))},
-       {Variety_Label,
-        with_button(Variety_Combo, Place(Variety_Combo).Grow().Wide(name_width).High(6)).Grow()},
-       {Region_Label, Region_Combo},
-       {Country_Label, Country_Combo}});
-  const Place bottle = Fields({{Vintage_Label, Place(Vintage_Combo).Wide(number_width)},
-                               {Color_Label, Color_Combo},
-                               {Merit_Label, Merit_Combo},
-                               {Bottle_Size_Label, Bottle_Size_Combo},
-                               {Total_Bottles_Label, Total_Bottles_Text},
-                               {Alcohol_Label, Alcohol_Text},
-                               {Price_Label, Price_Text},
-                               {Peak_Year_Label, Peak_Year_Combo}});
-  const Place list = Place(Pairing_List).High(2).Grow();
-  const auto pairing_button = beside.find(&Pairing_List);
-  const Place pairings =
-      pairing_button == beside.end() ? list : Column({list, pairing_button->second});
-  const Place notes =
-      Fields({{Description_Label, Place(Description_Text).Wide(text_width).High(2).Grow()},
-              {Pairing_Label, pairings.Grow()},
-              {Classification_Label,
-               with_button(Classification_Combo, Place(Classification_Combo).Grow())},
-              {Comments_Label, Place(Comments_Text).High(2).Grow()},
-              {Last_Day_Uncorked_Label, Last_Date_Uncorked_Text},
-              {Date_Added_Label, Date_Added_Text}});
-  const Place marks = Row({Boxes.Taste_Place(), One_Place({Boxes.Aroma_Place(), Message_Label})});
-  return Row({origin.Grow(5), bottle, notes.Grow(4), marks});
 }
 
 // ---- the states of the fields ----
 
 std::vector<Forms::Lockable_Control*> Wine_Screen::Entry_Fields() {
-  return {&Winery_Combo,      &Label_Combo,          &Region_Combo,     &Country_Combo,
-          &Vintage_Combo,     &Peak_Year_Combo,      &Price_Text,       &Merit_Combo,
-          &Bottle_Size_Combo, &Total_Bottles_Text,   &Description_Text, &Color_Combo,
-          &Alcohol_Text,      &Classification_Combo, &Comments_Text,    &Last_Date_Uncorked_Text,
-          &Date_Added_Text};
+  return {&Winery_Combo, &Label_Combo,  &Region_Combo,         &Country_Combo, &Merit_Combo,
+          &Color_Combo,  &Alcohol_Text, &Classification_Combo, &Comments_Text, &Description_Text};
 }
 
 std::vector<Forms::Text_Box*> Wine_Screen::Text_Fields() {
-  return {&Total_Bottles_Text,      &Price_Text,       &Alcohol_Text, &Date_Added_Text,
-          &Last_Date_Uncorked_Text, &Description_Text, &Comments_Text};
-}
-
-void Wine_Screen::Lock(Forms::Lockable_Control& field) {
-  field.Set_Locked(true);
-  field.Set_BackColor(Locked_Color);
-}
-
-void Wine_Screen::Require(Forms::Placed_Control& field) {
-  field.Set_BackColor(Required_Color);
-  field.Set_Tag("0");
-}
-
-void Wine_Screen::Fill_In(Forms::Lockable_Control& field) {
-  Show_Lock(field);
-  field.Set_Tag("1");
-}
-
-void Wine_Screen::Show_Lock(Forms::Lockable_Control& field) {
-  field.Set_BackColor(field.Locked() ? Locked_Color : Window_Color);
+  return {&Alcohol_Text, &Description_Text, &Comments_Text};
 }
 
 void Wine_Screen::Lock_Top_Window() {
   for (Forms::Lockable_Control* field : Entry_Fields()) Lock(*field);
-  Pairing_List.Set_BackColor(Locked_Color);
-  Variety_Combo.Set_BackColor(Locked_Color);
+  Pairing_List.Set_BackColor(Forms::Locked_Color);
+  Variety_Combo.Set_BackColor(Forms::Locked_Color);
   Boxes.Show_Locked();
 }
 
-void Wine_Screen::UnLock_Top_Window() {
-  for (Forms::Lockable_Control* field : Entry_Fields()) {
-    field->Set_Locked(false);
-    field->Set_BackColor(Window_Color);
+void Wine_Screen::UnLock_Top_Window(Forms::Color open_checks) {
+  for (Forms::Lockable_Control* field : Entry_Fields()) Open(*field);
+  Variety_Combo.Set_BackColor(Forms::Window_Color);
+  Pairing_List.Set_BackColor(Forms::Window_Color);
+  Boxes.Open(open_checks);
+}
+
+void Wine_Screen::Should_Multi_Command_Be_Enabled() {
+  Multi_Functional_Command.Set_Enabled(All_Filled(Gate_Fields()));
+}
+
+// ---- the message ----
+
+void Wine_Screen::Setup_for_Message(const char* message) {
+  Boxes.Set_Aroma_Visible(false);
+  Message_Label.Set_Caption(message);
+  Message_Label.Set_Visible(true);
+}
+
+void Wine_Screen::Remove_Message() {
+  Boxes.Set_Aroma_Visible(true);
+  Message_Label.Set_Visible(false);
+}
+
+// ---- the events of the fields ----
+
+void Wine_Screen::Handle(const std::function<void()>& handler) {
+  if (Ignore_Events) return;
+  const Ignoring_Events ignoring;
+  handler();
+  Should_Multi_Command_Be_Enabled();
+}
+
+void Wine_Screen::Take_Choice(Forms::Combo_Box& combo, Forms::Command_Button& add) {
+  const bool chosen = combo.ListIndex() >= 1;
+  add.Set_Enabled(!chosen && !combo.Locked());
+  if (chosen) {
+    Fill_In(combo);
+  } else {
+    Require(combo);
   }
-  Variety_Combo.Set_BackColor(Window_Color);
-  Pairing_List.Set_BackColor(Window_Color);
-  Boxes.Open(Forms::Open_Check_Color);
 }
 
-// ---- the list ----
+// ---- grapes ----
 
-void Wine_Screen::Add_Wine_to_List() {
-  Wine_Cellar_ListView.Add_Row(
-      To_Text(Wines.Wine_ID),
-      {To_Text(Wines.Vintage), Wineries.Winery_Name, Wines.Label == "x" ? Text() : Wines.Label,
-       Wineries.Region, Wines.Variety, Wines.Color,
-       Wines.Ranking == -1 ? Text() : To_Text(Wines.Ranking), To_Text(Wines.Peak),
-       To_Text(Wines.Total_Bottles)});
-}
-
-// ---- the writes ----
-
-void Wine_Screen::Seek_Wine() const {
-  Open_Table(Wines_Recordset, "Wines", "Wine_ID");
-  Wines_Recordset.Seek("=", Selected_Wine_ID);
-  Read_Wines_Record();
-}
-
-// Filling the list reads other wines into the memory record.
-void Wine_Screen::Uncork_Wine() {
-  Seek_Wine();
-  Wines.Total_Bottles = To_Integer(static_cast<double>(Wines.Total_Bottles - 1));
-  Wines.Last_Date_Uncorked = Now();
-  Wines_Recordset.Edit();
-  Write_Wines_Record();
-  Close_Table(Wines_Recordset);
-  Forms::Message_Box("Your Wine Cellar was updated. This bottle of Wine was marked as Uncorked",
-                     "WINE UNCORKED");
-  Total_Bottles_Text.Set_Text(To_Text(Wines.Total_Bottles));
-  if (Wines.Total_Bottles == 0) {
-    Require(Total_Bottles_Text);
-    Multi_Functional_Command.Set_Enabled(false);
+void Wine_Screen::Each_Ticked_Variety(const std::function<void(int item)>& action) const {
+  for (int item = 0; item < Variety_Combo.ListCount(); ++item) {
+    if (Variety_Combo.Selected(item)) action(item);
   }
-  Last_Date_Uncorked_Text.Set_Text(To_Text(Wines.Last_Date_Uncorked));
-  Fill_Wine_List();
-  Wine_Cellar_ListView.Select(To_Text(Selected_Wine_ID));
-  Seek_Wine();
 }

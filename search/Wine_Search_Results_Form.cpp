@@ -21,7 +21,7 @@ void Read_Winery_of_Wine() {
 // Two of the headers read otherwise than the words that the columns answer to: they turn the order
 // and keep the column.
 Wine_Search_Results_Form::Wine_Search_Results_Form()
-    : Wine_Screen(
+    : Cellar_Wine_Screen(
           "Wine_Search_Results_Form", "Wine Information", {8, 22, 18, 14, 20, 9, 7, 7, 7},
           {"Vintage", "Winery", "Label", "Region", "Variety", "Color", "Merit", "Peak", "Stock"}) {
   Lay_Out();

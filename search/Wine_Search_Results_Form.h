@@ -5,9 +5,9 @@
 // wine's pairings the selection: what is listed after an uncorking goes by these.
 #pragma once
 
-#include "screens/Wine_Screen.h"
+#include "screens/Cellar_Wine_Screen.h"
 
-class Wine_Search_Results_Form : public Wine_Screen {
+class Wine_Search_Results_Form : public Cellar_Wine_Screen {
  public:
   Wine_Search_Results_Form();
 

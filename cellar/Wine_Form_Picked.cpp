@@ -5,6 +5,7 @@
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
+#include "screens/Field_States.h"
 
 // A cellar without a name has "x" for one.
 void Wine_Form::Display_Current_Cellar() {

@@ -1,5 +1,4 @@
 // A stored wine on the fields.
-#include "core/Gereral_Processes.h"
 #include "core/Globals.h"
 #include "core/MultiLanguage_Processes.h"
 #include "core/tables/Catalogue.h"
@@ -7,9 +6,10 @@
 #include "core/tables/Recipes_Wines_Common_DB.h"
 #include "links/Link_Decoders.h"
 #include "platform/run_time/Conversions.h"
-#include "screens/Wine_Screen.h"
+#include "screens/Cellar_Wine_Screen.h"
+#include "screens/Field_States.h"
+#include "screens/Place_Lists.h"
 
-using Forms::Locked_Color;
 
 namespace {
 
@@ -23,10 +23,11 @@ void Show_Alone(Forms::Combo_Box& combo, const Text& text) {
 
 }  // namespace
 
-void Wine_Screen::Memory_to_Form_Unique() {
+void Cellar_Wine_Screen::Memory_to_Form_Unique() {
   const Ignoring_Events ignoring;
   Show_Winery();
-  Load_Country_Unique(Wineries.Country);
+  // A winery that was never read has no country, and shows none.
+  Show_Country_Alone(Country_Combo, Wineries.Country);
   Country_Combo.Set_Tag("1");
   Load_Region_Unique();
   Show_Varieties_Alone();
@@ -41,34 +42,18 @@ void Wine_Screen::Memory_to_Form_Unique() {
 
 // By its key: names of wineries can stand twice. Where the list was never filled, the winery
 // becomes its one entry.
-void Wine_Screen::Show_Winery() {
-  const int place = Winery_Combo.Place_Of(Wineries.Winery_ID);
-  if (place >= 0) {
-    Winery_Combo.Set_ListIndex(place);
-  } else {
+void Cellar_Wine_Screen::Show_Winery() {
+  if (!Winery_Combo.Choose(Wineries.Winery_ID)) {
     Winery_Combo.Show_Alone(Wineries.Winery_Name, Wineries.Winery_ID);
   }
 }
 
-// A winery that was never read has no country, and shows none.
-void Wine_Screen::Load_Country_Unique(const Text& short_name) {
-  Open_Table(World_Contries_Recordset, "World_Contries", "Short_Name");
-  World_Contries_Recordset.Seek("=", short_name);
-  if (World_Contries_Recordset.NoMatch()) {
-    Country_Combo.Show_Alone("", short_name);
-  } else {
-    Country_Combo.Show_Alone(World_Contries_Recordset.Fields(Country_Name_Column()).As_Text(),
-                             World_Contries_Recordset.Fields("Short_Name").As_Text());
-  }
-  Close_Table(World_Contries_Recordset);
-}
-
-void Wine_Screen::Load_Region_Unique() {
+void Cellar_Wine_Screen::Load_Region_Unique() {
   Region_Combo.Show_Alone(Wineries.Region, To_Text(Wineries.Region_ID));
   Lock(Region_Combo);
 }
 
-void Wine_Screen::Each_Variety_of_Wine(const std::function<void(const Text&)>& action) {
+void Cellar_Wine_Screen::Each_Variety_of_Wine(const std::function<void(const Text&)>& action) {
   Open_Table(Varieties_of_Wines_Recordset, "Varieties_of_Wines", "Wine_ID");
   Varieties_of_Wines_Recordset.Seek("=", Wines.Wine_ID);
   for (; !Varieties_of_Wines_Recordset.NoMatch() && !Varieties_of_Wines_Recordset.Eof();
@@ -79,9 +64,9 @@ void Wine_Screen::Each_Variety_of_Wine(const std::function<void(const Text&)>& a
   Close_Table(Varieties_of_Wines_Recordset);
 }
 
-void Wine_Screen::Show_Varieties_Alone() {
+void Cellar_Wine_Screen::Show_Varieties_Alone() {
   Variety_Combo.Clear();
-  Variety_Combo.Set_BackColor(Locked_Color);
+  Variety_Combo.Set_BackColor(Forms::Locked_Color);
   Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
   Each_Variety_of_Wine([this](const Text& variety_id) {
     Varieties_Recordset.Seek("=", variety_id);
@@ -93,7 +78,7 @@ void Wine_Screen::Show_Varieties_Alone() {
 }
 
 // The vintage comes before the peak: its event fills the peak years anew.
-void Wine_Screen::Show_Lists_Alone() {
+void Cellar_Wine_Screen::Show_Lists_Alone() {
   const Text label = Wines.Label == "x" ? "No Label" : Wines.Label;
   Label_Combo.Show_Alone(label, label);
   Show_Alone(Vintage_Combo, To_Text(Wines.Vintage));
@@ -107,7 +92,7 @@ void Wine_Screen::Show_Lists_Alone() {
   Classification_Combo.Show_Alone(classification, classification);
 }
 
-void Wine_Screen::Show_Texts_And_Numbers() {
+void Cellar_Wine_Screen::Show_Texts_And_Numbers() {
   Price_Text.Set_Text(Wines.Value_Guide == Currency::Of(-1) ? nothing : To_Text(Wines.Value_Guide));
   Alcohol_Text.Set_Text(Wines.Alcohol == -1 ? nothing : To_Text(Wines.Alcohol));
   Total_Bottles_Text.Set_Text(To_Text(Wines.Total_Bottles));
@@ -120,12 +105,12 @@ void Wine_Screen::Show_Texts_And_Numbers() {
 }
 
 // A wine without pairings leaves the selection as it is.
-void Wine_Screen::Show_Marks_And_Pairings() {
+void Cellar_Wine_Screen::Show_Marks_And_Pairings() {
   Boxes.Show_Marks_of(Wines.Wine_ID);
   Pairing_List.Clear();
   if (Wine_Has_Maridages()) Load_Wine_Maridages();
 }
 
-void Wine_Screen::Load_Wine_Maridages() {
+void Cellar_Wine_Screen::Load_Wine_Maridages() {
   Fill_Lists_with_Wine_Maridages(Pairing_List, Pairing_List.Keys());
 }

@@ -1,0 +1,126 @@
+// The places of the fields, the list, and the uncorking.
+#include "screens/Cellar_Wine_Screen.h"
+
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "platform/run_time/Conversions.h"
+#include "screens/Field_States.h"
+
+Cellar_Wine_Screen::Cellar_Wine_Screen(std::string_view name, std::string_view caption,
+                                       const Widths& widths, std::vector<std::string> words)
+    : Wine_Screen(name, caption, Wine_List::Cellar,
+                  {{"Vintage", widths[0]},
+                   {"Winery", widths[1]},
+                   {"Label", widths[2]},
+                   {"Wine Region", widths[3]},
+                   {"Grape Variety", widths[4]},
+                   {"Color", widths[5]},
+                   {"Merit", widths[6], false, true},
+                   {"Peak", widths[7], false, true},
+                   {"Stock", widths[8], false, true},
+                   {"ID", 8, false, true}},
+                  std::move(words)) {}
+
+Forms::Place Cellar_Wine_Screen::Fields_Place(const Beside& beside) {
+  using namespace Forms;
+  constexpr int name_width = 20;
+  constexpr int number_width = 9;
+  constexpr int text_width = 22;
+  const auto with_button = [&beside](Placed_Control& field, const Place& place) {
+    const auto button = beside.find(&field);
+    return button == beside.end() ? place : Row({place, button->second});
+  };
+  const Place origin = Fields(
+      {{Winery_Label, with_button(Winery_Combo, Place(Winery_Combo).Grow().Wide(name_width))},
+       {LabelLabel, with_button(Label_Combo, Place(Label_Combo).Grow().Wide(name_width))},
+       {Variety_Label,
+        with_button(Variety_Combo, Place(Variety_Combo).Grow().Wide(name_width).High(6)).Grow()},
+       {Region_Label, Region_Combo},
+       {Country_Label, Country_Combo}});
+  const Place bottle = Fields({{Vintage_Label, Place(Vintage_Combo).Wide(number_width)},
+                               {Color_Label, Color_Combo},
+                               {Merit_Label, Merit_Combo},
+                               {Bottle_Size_Label, Bottle_Size_Combo},
+                               {Total_Bottles_Label, Total_Bottles_Text},
+                               {Alcohol_Label, Alcohol_Text},
+                               {Price_Label, Price_Text},
+                               {Peak_Year_Label, Peak_Year_Combo}});
+  const Place list = Place(Pairing_List).High(2).Grow();
+  const auto pairing_button = beside.find(&Pairing_List);
+  const Place pairings =
+      pairing_button == beside.end() ? list : Column({list, pairing_button->second});
+  const Place notes =
+      Fields({{Description_Label, Place(Description_Text).Wide(text_width).High(2).Grow()},
+              {Pairing_Label, pairings.Grow()},
+              {Classification_Label,
+               with_button(Classification_Combo, Place(Classification_Combo).Grow())},
+              {Comments_Label, Place(Comments_Text).High(2).Grow()},
+              {Last_Day_Uncorked_Label, Last_Date_Uncorked_Text},
+              {Date_Added_Label, Date_Added_Text}});
+  const Place marks = Row({Boxes.Taste_Place(), One_Place({Boxes.Aroma_Place(), Message_Label})});
+  return Row({origin.Grow(5), bottle, notes.Grow(4), marks});
+}
+
+// ---- the fields ----
+
+std::vector<Forms::Lockable_Control*> Cellar_Wine_Screen::Entry_Fields() {
+  std::vector<Forms::Lockable_Control*> fields = Wine_Screen::Entry_Fields();
+  for (Forms::Combo_Box* combo : {&Vintage_Combo, &Peak_Year_Combo, &Bottle_Size_Combo}) {
+    fields.push_back(combo);
+  }
+  for (Forms::Text_Box* box :
+       {&Price_Text, &Total_Bottles_Text, &Last_Date_Uncorked_Text, &Date_Added_Text}) {
+    fields.push_back(box);
+  }
+  return fields;
+}
+
+std::vector<Forms::Text_Box*> Cellar_Wine_Screen::Text_Fields() {
+  std::vector<Forms::Text_Box*> boxes = Wine_Screen::Text_Fields();
+  for (Forms::Text_Box* box :
+       {&Total_Bottles_Text, &Price_Text, &Date_Added_Text, &Last_Date_Uncorked_Text}) {
+    boxes.push_back(box);
+  }
+  return boxes;
+}
+
+// ---- the list ----
+
+void Cellar_Wine_Screen::Add_Wine_to_List() {
+  Wine_Cellar_ListView.Add_Row(
+      To_Text(Wines.Wine_ID),
+      {To_Text(Wines.Vintage), Wineries.Winery_Name, Wines.Label == "x" ? Text() : Wines.Label,
+       Wineries.Region, Wines.Variety, Wines.Color,
+       Wines.Ranking == -1 ? Text() : To_Text(Wines.Ranking), To_Text(Wines.Peak),
+       To_Text(Wines.Total_Bottles)});
+}
+
+// ---- the writes ----
+
+void Cellar_Wine_Screen::Seek_Wine() const {
+  Open_Table(Wines_Recordset, "Wines", "Wine_ID");
+  Wines_Recordset.Seek("=", Selected_Wine_ID);
+  Read_Wines_Record();
+}
+
+// Filling the list reads other wines into the memory record.
+void Cellar_Wine_Screen::Uncork_Wine() {
+  Seek_Wine();
+  Wines.Total_Bottles = To_Integer(static_cast<double>(Wines.Total_Bottles - 1));
+  Wines.Last_Date_Uncorked = Now();
+  Wines_Recordset.Edit();
+  Write_Wines_Record();
+  Close_Table(Wines_Recordset);
+  Forms::Message_Box("Your Wine Cellar was updated. This bottle of Wine was marked as Uncorked",
+                     "WINE UNCORKED");
+  Total_Bottles_Text.Set_Text(To_Text(Wines.Total_Bottles));
+  if (Wines.Total_Bottles == 0) {
+    Require(Total_Bottles_Text);
+    Multi_Functional_Command.Set_Enabled(false);
+  }
+  Last_Date_Uncorked_Text.Set_Text(To_Text(Wines.Last_Date_Uncorked));
+  Fill_Wine_List();
+  Wine_Cellar_ListView.Select(To_Text(Selected_Wine_ID));
+  Seek_Wine();
+}

@@ -7,6 +7,7 @@
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "core/tables/Rows.h"
 #include "platform/run_time/Conversions.h"
 #include "screens/Field_States.h"
 
@@ -115,10 +116,7 @@ void Wine_Form::Region_Combo_Click() {
 // so the boxes stay as they were and the colour does not count as chosen.
 void Wine_Form::Label_Combo_Click() {
   if (Label_Combo.ListIndex() >= 2) {
-    Open_Table(Labels_Recordset, "Labels", "Label_ID");
-    Labels_Recordset.Seek("=", Label_Combo.Key());
-    Read_Labels_Record();
-    Close_Table(Labels_Recordset);
+    Read_By_Key(Labels_Table, Label_Combo.Key());
     if (Labels.Wine_Color != "x") Color_Combo.Set_ListIndex(Color_Index(Labels.Wine_Color));
   }
   Take_Choice(Label_Combo, Label_Add_Command);

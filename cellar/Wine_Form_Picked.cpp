@@ -4,6 +4,7 @@
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "core/tables/Rows.h"
 #include "platform/run_time/Conversions.h"
 #include "screens/Field_States.h"
 
@@ -17,13 +18,12 @@ void Wine_Form::Display_Current_Cellar() {
     Close_Table(Wines_Recordset);
     return;
   }
-  Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
+  Open_By_Key(Wineries_Table);
   Wine_Cellar_ListView.Begin_Anew();
   for (Wines_Recordset.MoveFirst(); !Wines_Recordset.Eof(); Wines_Recordset.MoveNext()) {
     Read_Wines_Record();
     if (Wines.Cellar_ID != Current_Cellar_ID) continue;
-    Wineries_Recordset.Seek("=", Wines.Winery_ID);
-    Read_Wineries_Record();
+    Read_Row(Wineries_Table, Wines.Winery_ID);
     Add_Wine_to_List();
   }
   Close_Table(Wines_Recordset);
@@ -38,9 +38,8 @@ void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
   Checks_Locked = false;
   Selected_Wine_ID = To_Integer(Wine_Cellar_ListView.Key_of(item));
   Seek_Wine();
-  Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
-  Wineries_Recordset.Seek("=", Wines.Winery_ID);
-  Read_Wineries_Record();
+  Open_By_Key(Wineries_Table);
+  Read_Row(Wineries_Table, Wines.Winery_ID);
   Close_Table(Wines_Recordset);
   item.Set_Selected(true);
   if (Command_Is("WineMod")) Picked_for_Mod();

@@ -5,6 +5,7 @@
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "core/tables/Rows.h"
 #include "platform/run_time/Conversions.h"
 #include "screens/Field_States.h"
 
@@ -22,11 +23,6 @@ constexpr int double_line_2 = 2;
 constexpr int double_title = 3;
 constexpr int prompt_for_change = 6;
 constexpr int button_for_change = 7;
-
-void Seek_Maridage(const Text& key) {
-  Open_Table(Maridages_Recordset, "Maridages", "Maridage_ID");
-  Maridages_Recordset.Seek("=", key);
-}
 
 }  // namespace
 
@@ -144,10 +140,8 @@ void Cate_Add_Form::Show_Boxes() {
 
 void Cate_Add_Form::Maridages_ListView_ItemClick(Forms::List_Item item) {
   const Text key = Maridages_ListView.Key_of(item);
-  Seek_Maridage(key);
-  Read_Maridages_Record();
+  Read_By_Key(Maridages_Table, key);
   item.Set_Selected(true);
-  Close_Table(Maridages_Recordset);
   if (Command_Is("MaridageView")) Show_Boxes();
   if (Command_Is("MaridageMod")) {
     picked_ = key;
@@ -190,7 +184,8 @@ void Cate_Add_Form::Add_Maridage() {
 
 // 3021 where nothing was picked, or what was picked has gone.
 void Cate_Add_Form::Modify_Maridage() {
-  Seek_Maridage(picked_);
+  Open_By_Key(Maridages_Table);
+  Maridages_Recordset.Seek("=", picked_);
   Maridages_Recordset.Edit();
   Maridages_Recordset.Fields(System_Language + 2) = Left(CatText.Text(), longest_change);
   Maridages_Recordset.Fields(Other_Language() + 2) =

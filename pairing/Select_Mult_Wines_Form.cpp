@@ -7,6 +7,7 @@
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Mobile_Wines_DB.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "core/tables/Rows.h"
 #include "platform/run_time/Conversions.h"
 #include "screens/Place_Lists.h"
 
@@ -205,10 +206,7 @@ Text Select_Mult_Wines_Form::Color_of_Wine() const {
 
 void Select_Mult_Wines_Form::Mobile_Wines_ListView_ItemClick(Forms::List_Item item) {
   const Text key = Mobile_Wines_ListView.Key_of(item);
-  Open_Table(Mobile_Wines_Recordset, "Mobile_Wines", "Mobile_Wine_ID");
-  Mobile_Wines_Recordset.Seek("=", key);
-  Read_Mobile_Wines_Record();
-  Close_Table(Mobile_Wines_Recordset);
+  Read_By_Key(Mobile_Wines_Table, key);
   item.Set_Selected(true);
   current_ = Entry{item.Text(), key};
   Add_Command.Set_Enabled(true);

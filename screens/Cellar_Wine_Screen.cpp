@@ -4,6 +4,7 @@
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "core/tables/Rows.h"
 #include "platform/run_time/Conversions.h"
 #include "screens/Field_States.h"
 
@@ -99,9 +100,8 @@ void Cellar_Wine_Screen::Add_Wine_to_List() {
 // ---- the writes ----
 
 void Cellar_Wine_Screen::Seek_Wine() const {
-  Open_Table(Wines_Recordset, "Wines", "Wine_ID");
-  Wines_Recordset.Seek("=", Selected_Wine_ID);
-  Read_Wines_Record();
+  Open_By_Key(Wines_Table);
+  Read_Row(Wines_Table, Selected_Wine_ID);
 }
 
 // Filling the list reads other wines into the memory record.

@@ -4,12 +4,12 @@
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "core/tables/Rows.h"
 #include "links/Link_Decoders.h"
 #include "platform/run_time/Conversions.h"
 #include "screens/Cellar_Wine_Screen.h"
 #include "screens/Field_States.h"
 #include "screens/Place_Lists.h"
-
 
 namespace {
 
@@ -55,19 +55,15 @@ void Cellar_Wine_Screen::Load_Region_Unique() {
 
 void Cellar_Wine_Screen::Each_Variety_of_Wine(const std::function<void(const Text&)>& action) {
   Open_Table(Varieties_of_Wines_Recordset, "Varieties_of_Wines", "Wine_ID");
-  Varieties_of_Wines_Recordset.Seek("=", Wines.Wine_ID);
-  for (; !Varieties_of_Wines_Recordset.NoMatch() && !Varieties_of_Wines_Recordset.Eof();
-       Varieties_of_Wines_Recordset.MoveNext()) {
-    if (Varieties_of_Wines_Recordset.Fields("Wine_ID").As_Long() != Wines.Wine_ID) break;
-    action(Varieties_of_Wines_Recordset.Fields("Variety_ID").As_Text());
-  }
+  Each_Row_Of(Varieties_of_Wines_Recordset, "Wine_ID", Wines.Wine_ID,
+              [&] { action(Varieties_of_Wines_Recordset.Fields("Variety_ID").As_Text()); });
   Close_Table(Varieties_of_Wines_Recordset);
 }
 
 void Cellar_Wine_Screen::Show_Varieties_Alone() {
   Variety_Combo.Clear();
   Variety_Combo.Set_BackColor(Forms::Locked_Color);
-  Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
+  Open_By_Key(Varieties_Table);
   Each_Variety_of_Wine([this](const Text& variety_id) {
     Varieties_Recordset.Seek("=", variety_id);
     Variety_Combo.Add(Varieties_Recordset.Fields("Variety_Name").As_Text(), variety_id);

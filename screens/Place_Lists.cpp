@@ -4,6 +4,7 @@
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "core/tables/Rows.h"
 #include "links/Link_Decoders.h"
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
@@ -20,12 +21,10 @@ void Add_All(Keyed_List& list, Record_Store::Recordset& rows, const char* table,
 
 // Of the open table, by its index on the region.
 void Add_Labels_of_Open_Table(Keyed_List& list, Integer region_id) {
-  Labels_Recordset.Seek("=", region_id);
-  for (; !Labels_Recordset.NoMatch() && !Labels_Recordset.Eof(); Labels_Recordset.MoveNext()) {
-    if (Labels_Recordset.Fields("Region_ID").As_Integer() != region_id) break;
+  Each_Row_Of(Labels_Recordset, "Region_ID", region_id, [&list] {
     list.Add(Labels_Recordset.Fields("Label_Name").As_Text(),
              Labels_Recordset.Fields("Label_ID").As_Text());
-  }
+  });
 }
 
 }  // namespace
@@ -118,10 +117,7 @@ void Add_Labels_of_Region(Keyed_List& list, Integer region_id) {
 }
 
 void Add_Varieties_of_Region(Keyed_List& list, Long region_id) {
-  Open_Table(Regions_Recordset, "Regions", "Region_ID");
-  Regions_Recordset.Seek("=", region_id);
-  Read_Regions_Record();
-  Close_Table(Regions_Recordset);
+  Read_By_Key(Regions_Table, region_id);
   Load_Varieties_of_Region();
   for (int item = 1; item <= Decoded_Count; ++item) {
     list.Add(Decoded_Items[item].Name, To_Text(Decoded_Items[item].ID));

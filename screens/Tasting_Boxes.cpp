@@ -6,6 +6,7 @@
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "core/tables/Rows.h"
 #include "platform/run_time/Conversions.h"
 
 namespace {
@@ -131,18 +132,15 @@ void Tasting_Boxes::Show_Marks_of(Long wine_id) {
   const Guarding taste_guarding(taste_guard_);
   const Guarding aroma_guarding(aroma_guard_);
   Open_Table(Wine_Tasting_Recordset, "Wine_Tasting", "Wine_ID");
-  Wine_Tasting_Recordset.Seek("=", wine_id);
-  for (; !Wine_Tasting_Recordset.NoMatch() && !Wine_Tasting_Recordset.Eof();
-       Wine_Tasting_Recordset.MoveNext()) {
+  Each_Row_Of(Wine_Tasting_Recordset, "Wine_ID", wine_id, [this] {
     Read_Wine_Tasting_Record();
-    if (Wine_Tasting.Wine_ID != wine_id) break;
-    if (marks_of_ == Wine_List::General && Wine_Tasting.Cellar_Wine) continue;
+    if (marks_of_ == Wine_List::General && Wine_Tasting.Cellar_Wine) return;
     Boxes* boxes = Wine_Tasting.Type_Taste == taste   ? &Taste_Check
                    : Wine_Tasting.Type_Taste == aroma ? &Aroma_Check
                                                       : nullptr;
     const Integer box = Wine_Tasting.Description;
     if (boxes != nullptr && box >= 0 && box <= boxes->Last()) (*boxes)[box].Set_Value(1);
-  }
+  });
   Close_Table(Wine_Tasting_Recordset);
 }
 

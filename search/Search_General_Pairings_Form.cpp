@@ -6,6 +6,7 @@
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "core/tables/Rows.h"
 #include "platform/run_time/Conversions.h"
 
 Search_General_Pairings_Form::Search_General_Pairings_Form()
@@ -53,7 +54,7 @@ void Search_General_Pairings_Form::Show_Varieties() {
   Recipe_Name.Set_Caption("");
   Open_Table(Varieties_Per_Maridage_Recordset, "Varieties_Per_Maridage", "Maridage_ID");
   Open_Table(Maridages_Recordset, "Maridages", "Maridage_ID");
-  Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
+  Open_By_Key(Varieties_Table);
   for (int item = 1; item <= Selected_Count; ++item) {
     Maridages_Recordset.Seek("=", Selected_IDs[item]);
     if (Maridages_Recordset.NoMatch()) continue;
@@ -66,17 +67,13 @@ void Search_General_Pairings_Form::Show_Varieties() {
 }
 
 void Search_General_Pairings_Form::Add_Varieties_of_Pairing(Long maridage_id) {
-  auto& pairs = Varieties_Per_Maridage_Recordset;
-  pairs.Seek("=", maridage_id);
-  for (; !pairs.NoMatch() && !pairs.Eof(); pairs.MoveNext()) {
-    if (pairs.Fields("Maridage_ID").As_Long() != maridage_id) break;
-    Varieties_Recordset.Seek("=", pairs.Fields("Variety_ID").As_Long());
-    if (!Varieties_Recordset.NoMatch()) Add_Variety();
-  }
+  Record_Store::Recordset& pairs = Varieties_Per_Maridage_Recordset;
+  Each_Row_Of(pairs, "Maridage_ID", maridage_id, [&] {
+    if (Find_Row(Varieties_Table, pairs.Fields("Variety_ID").As_Long())) Add_Variety();
+  });
 }
 
 void Search_General_Pairings_Form::Add_Variety() {
-  Read_Varieties_Record();
   if (Variety_Name_ListView.FindItem(Varieties.Variety_Name)) return;
   Variety_Name_ListView.Add_Row(To_Text(Varieties.Variety_ID),
                                 {Varieties.Variety_Name, Varieties.Variety_Color});
@@ -86,10 +83,7 @@ void Search_General_Pairings_Form::Add_Variety() {
 
 void Search_General_Pairings_Form::Variety_Name_ListView_ItemClick(const Forms::List_Item& item) {
   Recipe_Name.Set_Caption(item.Text());
-  Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
-  Varieties_Recordset.Seek("=", Variety_Name_ListView.Key_of(item));
-  Read_Varieties_Record();
-  Close_Table(Varieties_Recordset);
+  Read_By_Key(Varieties_Table, Variety_Name_ListView.Key_of(item));
   Load_Varieties_Regions();
 }
 
@@ -108,19 +102,17 @@ void Search_General_Pairings_Form::Load_Regions_of_all_Varieties() {
 }
 
 void Search_General_Pairings_Form::Add_Regions_of_Variety(Long variety_id, Same_Name same_name) {
-  auto& pairs = Regions_Per_Variety_Recordset;
+  Record_Store::Recordset& pairs = Regions_Per_Variety_Recordset;
   Open_Table(Regions_Recordset, "Regions", "Region_ID");
   Open_Table(pairs, "Regions_Per_Variety", "Variety_ID");
-  pairs.Seek("=", variety_id);
-  for (; !pairs.NoMatch() && !pairs.Eof(); pairs.MoveNext()) {
-    if (pairs.Fields("Variety_ID").As_Long() != variety_id) break;
+  Each_Row_Of(pairs, "Variety_ID", variety_id, [&] {
     Regions_Recordset.Seek("=", pairs.Fields("Region_ID").As_Long());
-    if (Regions_Recordset.NoMatch()) continue;
+    if (Regions_Recordset.NoMatch()) return;
     const Text name = Regions_Recordset.Fields("Region_Name").As_Text();
-    if (same_name == Same_Name::Is_Passed_Over && Regions_ListView.FindItem(name)) continue;
+    if (same_name == Same_Name::Is_Passed_Over && Regions_ListView.FindItem(name)) return;
     Regions_ListView.Add_Row(Regions_Recordset.Fields("Region_ID").As_Text(),
                              {name, Regions_Recordset.Fields("Country").As_Text()});
-  }
+  });
   Close_Table(Regions_Recordset);
   Close_Table(pairs);
 }

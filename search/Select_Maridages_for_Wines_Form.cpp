@@ -6,6 +6,7 @@
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "core/tables/Rows.h"
 #include "links/Link_Decoders.h"
 
 using Forms::Screen;
@@ -132,12 +133,9 @@ void Select_Maridages_for_Wines_Form::Load_from_Query(const char* condition, con
 void Select_Maridages_for_Wines_Form::Load_Suggestions() {
   Pairings_Label.Set_Caption("Suggestred Pairings for this Grape");
   Cat_List.Clear();
-  Open_Table(Varieties_Recordset, "Varieties", "Variety_ID");
-  Varieties_Recordset.Seek("=", Selection_Option_List.Key());
-  const bool known = !Varieties_Recordset.NoMatch();
-  if (known) Read_Varieties_Record();
-  Close_Table(Varieties_Recordset);
-  if (known) Fill_Lists_with_Variety_Maridages(Cat_List, Cat_List.Keys());
+  if (Find_By_Key(Varieties_Table, Selection_Option_List.Key())) {
+    Fill_Lists_with_Variety_Maridages(Cat_List, Cat_List.Keys());
+  }
   Show_Candidates();
 }
 

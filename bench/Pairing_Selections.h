@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "bench/Bare_Pairings.h"
-#include "links/Link_Store.h"
+#include "links/Link_Builds.h"
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
 

@@ -4,11 +4,10 @@
 #include <array>
 
 #include "core/Globals.h"
+#include "core/Languages.h"
 #include "core/MultiLanguage_Processes.h"
+#include "core/Ownership.h"
 #include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Mobile_Wines_DB.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
 
 namespace {
@@ -28,8 +27,7 @@ int Place_Of(std::string_view wanted, const Bounded_Array<Text, Last>& list, int
   return 0;
 }
 
-template <class Keys>
-Text Country_By(const char* index, Keys key, const char* wanted) {
+Text Country_By(const char* index, std::string_view key, const char* wanted) {
   Open_Table(World_Contries_Recordset, "World_Contries", index);
   World_Contries_Recordset.Seek("=", key);
   Text name = World_Contries_Recordset.Fields(wanted).As_Text();
@@ -74,15 +72,15 @@ void Store_New_Maridage(const Pairing_Address& address) {
   Maridages.Maridage_Name = Left(New_Maridage_Text, longest_name);
   Maridages.Maridage_Group = address.group;
   Maridages.Maridage_SubGr = address.subgroup;
-  Maridages.SERIAL_NUMBER = "CUS" + Trim(Wine_System.Installation_ID) + "-" + Format_Date(Now());
+  Maridages.SERIAL_NUMBER = Dated_Serial_of_User(Trim(Wine_System.Installation_ID));
   Maridages.Used = 0;
   Maridages.Multiuse = for_every_use;
   Write_Maridages_Record();
   Maridages_Recordset.Index("Maridage_ID");
   Maridages_Recordset.MoveLast();
   Maridages_Recordset.Edit();
-  Maridages_Recordset.Fields(System_Language + 2) = New_Maridage_Text;
-  Maridages_Recordset.Fields(Other_Language() + 2) = New_Maridage_Other_Text;
+  Maridages_Recordset.Fields(Maridages_Column()) = New_Maridage_Text;
+  Maridages_Recordset.Fields(Maridages_Column(Other_Language())) = New_Maridage_Other_Text;
   Maridages_Recordset.Update();
 }
 
@@ -136,8 +134,7 @@ void Load_Mobile_Countries() {
   }
   Mobile_Countries_Count = count;
   if (count == 0) return;
-  rows.MoveLast();
-  Read_Mobile_Wines_Record();
+  Read_Last_Row(Mobile_Wines_Table);
   rows.MoveNext();
 }
 
@@ -169,11 +166,6 @@ Text Country_Short_Name(std::string_view long_name) {
 
 Text Country_Long_Name(std::string_view short_name) {
   return Country_By("Short_Name", short_name, "Long_Name");
-}
-
-int Country_Name_Column() {
-  constexpr std::array columns{1, 2, 9, 10, 11, 12, 13};
-  return columns.at(static_cast<std::size_t>(System_Language) - 3);
 }
 
 Integer Color_Index(std::string_view color) {
@@ -218,8 +210,6 @@ bool Valid_E_Mail(const Text& address) {
   return dot > at && dot < Len(address);
 }
 
-Integer Other_Language() { return System_Language == 3 ? 4 : 3; }
-
 bool Add_New_Maridage() {
   Open_Table(Maridages_Recordset, "Maridages");
   const Pairing_Address address = Next_Address_of_User();
@@ -238,13 +228,10 @@ void Open_Regions_Of_Country(std::string_view country) {
 }
 
 void Open_World_Contries_Sorted() {
-  constexpr std::array columns{"Long_Name", "Spanish_Name", "French",    "German",
-                               "Italian",   "Japanese",     "Portuguese"};
   Text statement = "SELECT * FROM World_Contries";
-  if (System_Language >= 3 && System_Language <= 9) {
-    statement += " ORDER BY ";
-    statement += columns[static_cast<std::size_t>(System_Language) - 3];
-    statement += " ASC";
+  if (Language_Place() < Languages.size()) {
+    const auto name = static_cast<std::size_t>(Country_Name_Column());
+    statement += " ORDER BY " + World_Contries_Description.Fields()[name].Schema().name + " ASC";
   }
   Open_Table(World_Contries_Recordset, "World_Contries");
   Open_Query(World_Contries_Query, statement);

@@ -4,6 +4,7 @@
 
 #include <string_view>
 
+#include "core/Languages.h"
 #include "platform/run_time/Bounded_Array.h"
 #include "platform/run_time/Values.h"
 
@@ -20,9 +21,11 @@ struct Country_Entry {
 };
 
 inline Bounded_Array<Text, 14> Bottle_Sizes;
-/// The colours of wine in the language in force; the data holds their English words.
+/// The colours of wine in the language in force: a wine of the cellar is stored with such a word,
+/// labels and grapes with the English one, general wines with the English one in capitals.
 inline Bounded_Array<Text, 5> Color_Names;
-/// Ten by count; the tenth is empty until the words of the language are read.
+/// Ten by count. Start-up gives nine English words; the words of the language, read after it, give
+/// ten.
 inline Bounded_Array<Text, 10> Cheese_Types;
 inline Integer Cheese_Types_Count = 0;
 inline Bounded_Array<Text, 6> Milk_Types;
@@ -71,8 +74,6 @@ void Show_Named_Cellars(std::string_view first, std::string_view second);
 void Read_Winery_By_ID(Integer key);
 Text Country_Short_Name(std::string_view long_name);
 Text Country_Long_Name(std::string_view short_name);
-/// The ordinal of the field of `World_Contries` that names a country in the language in force.
-int Country_Name_Column();
 /// 0 to 4 for "Red", "White", "Rosé", "Sparkling", "Fortified", exactly so written; 0 for any
 /// other.
 Integer Color_Index(std::string_view color);
@@ -90,9 +91,7 @@ bool Valid_E_Mail(const Text& address);
 
 // ---- the catalogue of pairings ----
 
-/// The language in which a pairing's second name is kept: English, or Spanish under English.
-Integer Other_Language();
-/// The names of a pairing to be added, in the language in force and in the other one.
+/// The names of a pairing to be added, in the language in force and in `Other_Language()`.
 inline Text New_Maridage_Text;
 inline Text New_Maridage_Other_Text;
 /// Adds it at the user's next free address: groups from 1,000,000 on, ten to a group. False, and

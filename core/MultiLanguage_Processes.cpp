@@ -1,21 +1,10 @@
 #include "core/MultiLanguage_Processes.h"
 
-#include <array>
-
-#include "core/Globals.h"
-#include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "core/Languages.h"
+#include "core/tables/System_Tables.h"
+#include "core/tables/Text_Tables.h"
 #include "platform/forms/Form.h"
 #include "platform/run_time/Conversions.h"
-
-namespace {
-
-constexpr std::array language_names{"ENGLISH", "SPANISH",  "FRENCH",    "GERMAN",
-                                    "ITALIAN", "JAPANESE", "PORTUGUESE"};
-constexpr Integer first_language = 3;
-
-}  // namespace
 
 void Load_Language_Words(std::string_view form_key) {
   Open_Query(Words_Query,
@@ -43,46 +32,22 @@ void Apply_Language_Words(Forms::Form& form) {
 }
 
 Text Next_Language_Word() {
-  Text word = Words_Query.Fields(System_Language).As_Text();
+  Text word = Words_Query.Fields(Words_Column()).As_Text();
   Words_Query.MoveNext();
   return word;
 }
 
 Integer Language_Number_From_Name() {
   const Text name = Upper_Case(Wine_System.Language_Name_of_Product);
-  if (name == "INGLES") return first_language;
-  if (name == "ESPAÑOL") return first_language + 1;
-  for (std::size_t place = 0; place < language_names.size(); ++place) {
-    if (name == language_names[place]) return static_cast<Integer>(first_language + place);
+  constexpr Integer spanish = 4;
+  if (name == "ESPAÑOL") return spanish;
+  for (Integer number = First_Language; Language_Place(number) < Languages.size(); ++number) {
+    if (name == Language_Name_From_Number(number)) return number;
   }
-  return first_language;
+  return First_Language;
 }
 
 Text Language_Name_From_Number(Integer number) {
-  const bool known = number >= first_language && number < first_language + 7;
-  return language_names[known ? static_cast<std::size_t>(number - first_language) : 0];
-}
-
-Text Data_Text(Long key) {
-  if (key == -1) return " ";
-  Open_Table(Words_for_Data_Recordset, "Words_for_Data", "Multi_Language_ID");
-  Words_for_Data_Recordset.Seek("=", key);
-  Text text = Words_for_Data_Recordset.Fields(System_Language - 2).As_Text();
-  Close_Table(Words_for_Data_Recordset);
-  return text == "x" ? " " : text;
-}
-
-Long Add_Data_Text(std::string_view text) {
-  using R = Words_for_Data_Record;
-  constexpr std::array columns{&R::English, &R::Spanish, &R::French,    &R::German,
-                               &R::Italian, &R::Japanes, &R::Portuguese};
-  Init_Words_for_Data_Record();
-  Words_for_Data.*columns.at(static_cast<std::size_t>(System_Language - first_language)) = text;
-  Open_Table(Words_for_Data_Recordset, "Words_for_Data");
-  Words_for_Data_Recordset.AddNew();
-  Write_Words_for_Data_Record();
-  Words_for_Data_Recordset.MoveLast();
-  const Long key = Words_for_Data_Recordset.Fields("ID").As_Long();
-  Close_Table(Words_for_Data_Recordset);
-  return key;
+  const std::size_t place = Language_Place(number);
+  return Upper_Case(Text(Languages[place < Languages.size() ? place : 0]));
 }

@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "core/Data_Text.h"
 #include "platform/run_time/Bounded_Array.h"
 #include "platform/run_time/Values.h"
 
@@ -33,12 +34,3 @@ Integer Language_Number_From_Name();
 
 /// The language's name in capitals; "ENGLISH" for a number that is no language's.
 Text Language_Name_From_Number(Integer number);
-
-// ---- the long texts of the data: rows of Words_for_Data, named by their key ----
-
-/// The text of the row in the language in force; one blank for the key -1 and where the row has no
-/// text in this language. 3021 for a key without a row.
-Text Data_Text(Long key);
-
-/// Adds a row that holds `text` in the language in force alone, and returns its key.
-Long Add_Data_Text(std::string_view text);

@@ -1,14 +1,14 @@
 // A selection becomes addresses, and what belongs to each item is written.
+#include "links/Link_Builds.h"
+
+#include <array>
 #include <functional>
-#include <initializer_list>
-#include <utility>
 
 #include "core/Globals.h"
+#include "core/Ownership.h"
 #include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Mobile_Wines_DB.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
-#include "links/Link_Store.h"
+#include "links/Link_Table.h"
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
 
@@ -17,19 +17,6 @@ using Record_Store::Recordset;
 namespace {
 
 // ---- the builds: one pass over the selection ----
-
-/// The table whose rows are selected, by the names of its fields.
-struct Selectable {
-  Recordset& rows;
-  const char* table;
-  const char* key;
-  const char* group;
-  const char* subgroup;
-};
-const Selectable pairings{Maridages_Recordset, "Maridages", "Maridage_ID", "Maridage_Group",
-                          "Maridage_SubGr"};
-const Selectable varieties{Varieties_Recordset, "Varieties", "Variety_ID", "Variety_Group",
-                           "Variety_SubGr"};
 
 enum class Missing_Row { Fails, Is_Left_Out };
 enum class Counting { Uses, Nothing };
@@ -43,9 +30,9 @@ void Count_Use(Recordset& rows) {
 }
 
 // `extras` runs on each row, the current one of the table.
-void Build(const Selectable& from, const std::function<void()>& extras,
+void Build(const Addressed_Table& from, const std::function<void()>& extras,
            Missing_Row missing = Missing_Row::Fails, Counting counting = Counting::Uses) {
-  Open_Table(from.rows, from.table, from.key);
+  Open_Table(from.rows, from.name, from.key);
   Sort_Count = 0;
   for (int item = 1; item <= Selected_Count; ++item) {
     from.rows.Seek("=", Selected_IDs[item]);
@@ -60,32 +47,36 @@ void Build(const Selectable& from, const std::function<void()>& extras,
   Close_Table(from.rows);
 }
 
-using Field_Value = std::pair<const char*, Long>;
+// ---- pair rows of cheeses, by the wine; each direction has a table of its own ----
 
-void Add_Pair(Recordset& rows, std::initializer_list<Field_Value> pair) {
-  rows.AddNew();
-  for (const auto& [field, value] : pair) rows.Fields(field) = value;
-  rows.Update();
+constexpr std::array cheeses_of_wines{
+    Link_Table{Cheeses_Per_Wines_Recordset, "Cheeses_Per_Wines", "Wine_ID"},
+    Link_Table{Wines_Per_Cheeses_Recordset, "Wines_Per_Cheeses", "Wine_ID"}};
+constexpr std::array cheeses_of_mobile_wines{
+    Link_Table{Cheeses_Per_Mobile_Wines_Recordset, "Cheeses_Per_Mobile_Wines", "Mobile_Wines_ID"},
+    Link_Table{Mobile_Wines_Per_Cheeses_Recordset, "Mobile_Wines_Per_Cheeses", "Mobile_Wines_ID"}};
+
+void Add_Pair(const Link_Table& pairs, Long wine_id) {
+  pairs.rows.AddNew();
+  pairs.rows.Fields("Cheese_ID") = Maridages.Cheese_ID;
+  pairs.rows.Fields(pairs.owner) = wine_id;
+  pairs.rows.Update();
 }
 
-// Whether the table, by its index on the wine, has the row of this wine and cheese.
-bool Pair_Stands(Recordset& rows, Long wine_id, Long cheese_id) {
-  rows.Index("Mobile_Wines_ID");
-  rows.Seek("=", wine_id);
-  for (; !rows.NoMatch() && !rows.Eof(); rows.MoveNext()) {
-    if (rows.Fields("Mobile_Wines_ID").As_Long() != wine_id) return false;
-    if (rows.Fields("Cheese_ID").As_Long() == cheese_id) return true;
-  }
-  return false;
+bool Pair_Stands(const Link_Table& pairs, Long wine_id) {
+  pairs.rows.Index(pairs.owner);
+  return !Each_Row_Of(pairs.rows, pairs.owner, wine_id, [&pairs] {
+    return pairs.rows.Fields("Cheese_ID").As_Long() != Maridages.Cheese_ID;
+  });
 }
 
-void Add_Cheese_of_Mobile_Wine(Recordset& rows, const char* table) {
-  Open_Table(rows, table);
-  if (!Pair_Stands(rows, Mobile_Wines.Mobile_Wine_ID, Maridages.Cheese_ID)) {
-    Add_Pair(rows, {{"Cheese_ID", Maridages.Cheese_ID},
-                    {"Mobile_Wines_ID", Mobile_Wines.Mobile_Wine_ID}});
+void Add_Cheese_of_Mobile_Wine() {
+  for (const Link_Table& pairs : cheeses_of_mobile_wines) {
+    Open_Table(pairs.rows, pairs.name);
+    if (!Pair_Stands(pairs, Mobile_Wines.Mobile_Wine_ID))
+      Add_Pair(pairs, Mobile_Wines.Mobile_Wine_ID);
+    Close_Table(pairs.rows);
   }
-  Close_Table(rows);
 }
 
 bool Command_Is(const char* one, const char* other) {
@@ -104,14 +95,12 @@ Integer Next_Mobile_Wines_per_Maridage_ID() {
 }  // namespace
 
 void Build_Wine_Maridage_Groups() {
-  Build(pairings, [] {
+  Build(Addressed_Pairings, [] {
     if (!Command_Is("WineAdd", "WineMod") || Maridages.Cheese_ID == -1) return;
-    for (const auto& [rows, table] :
-         {std::pair{&Cheeses_Per_Wines_Recordset, "Cheeses_Per_Wines"},
-          std::pair{&Wines_Per_Cheeses_Recordset, "Wines_Per_Cheeses"}}) {
-      Open_Table(*rows, table);
-      Add_Pair(*rows, {{"Cheese_ID", Maridages.Cheese_ID}, {"Wine_ID", Wines.Wine_ID}});
-      Close_Table(*rows);
+    for (const Link_Table& pairs : cheeses_of_wines) {
+      Open_Table(pairs.rows, pairs.name);
+      Add_Pair(pairs, Wines.Wine_ID);
+      Close_Table(pairs.rows);
     }
   });
 }
@@ -122,28 +111,26 @@ void Build_Mobile_Wine_Maridage_Groups() {
   const bool with_cheeses = Command_Is("WineOtherAdd", "WineOtherMod");
   const auto extras = [&] {
     Read_Maridages_Record();
-    if (with_cheeses && Maridages.Cheese_ID != -1) {
-      Add_Cheese_of_Mobile_Wine(Cheeses_Per_Mobile_Wines_Recordset, "Cheeses_Per_Mobile_Wines");
-      Add_Cheese_of_Mobile_Wine(Mobile_Wines_Per_Cheeses_Recordset, "Mobile_Wines_Per_Cheeses");
-    }
+    if (with_cheeses && Maridages.Cheese_ID != -1) Add_Cheese_of_Mobile_Wine();
     Init_Mobile_Wines_per_Maridage_Record();
     Mobile_Wines_per_Maridage = {next_id, Maridages.Maridage_ID, Mobile_Wines.Mobile_Wine_ID,
                                  Serial_of_User(To_Text(Mobile_Wines.Mobile_Wine_ID))};
     Mobile_Wines_per_Maridage_Recordset.AddNew();
     Write_Mobile_Wines_per_Maridage_Record();
   };
-  Build(pairings, extras, Missing_Row::Is_Left_Out);
+  Build(Addressed_Pairings, extras, Missing_Row::Is_Left_Out);
   Close_Table(Mobile_Wines_per_Maridage_Recordset);
 }
 
 void Build_Mobile_Search_Groups() {
   Build(
-      pairings, [] { Read_Maridages_Record(); }, Missing_Row::Is_Left_Out, Counting::Nothing);
+      Addressed_Pairings, [] { Read_Maridages_Record(); }, Missing_Row::Is_Left_Out,
+      Counting::Nothing);
 }
 
 void Build_Variety_Maridage_Groups() {
   Open_Table(Varieties_Per_Maridage_Recordset, "Varieties_Per_Maridage");
-  Build(pairings, [] {
+  Build(Addressed_Pairings, [] {
     Init_Varieties_Per_Maridage_Record();
     Varieties_Per_Maridage.Maridage_ID = Maridages_Recordset.Fields("Maridage_ID").As_Long();
     Varieties_Per_Maridage.Variety_ID = Varieties.Variety_ID;
@@ -156,7 +143,7 @@ void Build_Variety_Maridage_Groups() {
 
 void Build_Region_Variety_Groups() {
   Open_Table(Regions_Per_Variety_Recordset, "Regions_Per_Variety");
-  Build(varieties, [] {
+  Build(Addressed_Varieties, [] {
     Init_Regions_Per_Variety_Record();
     Regions_Per_Variety.Region_ID = To_Integer(static_cast<double>(Regions.Region_ID));
     Regions_Per_Variety.Variety_ID = Varieties_Recordset.Fields("Variety_ID").As_Integer();
@@ -169,7 +156,7 @@ void Build_Region_Variety_Groups() {
 
 void Build_Cheese_Variety_Groups() {
   Open_Table(Cheeses_Per_Variety_Recordset, "Cheeses_Per_Variety");
-  Build(varieties, [] {
+  Build(Addressed_Varieties, [] {
     const Text variety_id = Varieties_Recordset.Fields("Variety_ID").As_Text();
     Init_Cheeses_Per_Variety_Record();
     Cheeses_Per_Variety.Cheese_ID = To_Integer(static_cast<double>(Cheeses.Cheese_ID));

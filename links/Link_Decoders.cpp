@@ -1,13 +1,8 @@
 #include "links/Link_Decoders.h"
 
-#include <array>
-#include <utility>
-
-#include "core/Globals.h"
+#include "core/Languages.h"
 #include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
-#include "links/Links.h"
+#include "links/Link_Table.h"
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
 
@@ -20,16 +15,14 @@ constexpr int rows_looked_at = 10;
 // Calls `decode()` for each row of the owner, its group and mask in `Decoded_Group` and
 // `Decoded_Mask`. The table is open.
 template <class Decode>
-void Each_Link(const Links& links, Long owner, const Decode& decode) {
+void Each_Link(const Link_Table& links, Long owner, const Decode& decode) {
   Decoded_Count = 0;
   links.rows.Index(links.owner);
-  links.rows.Seek("=", owner);
-  for (; !links.rows.NoMatch() && !links.rows.Eof(); links.rows.MoveNext()) {
-    if (links.rows.Fields(links.owner).As_Long() != owner) break;
+  Each_Row_Of(links.rows, links.owner, owner, [&] {
     Decoded_Group = links.rows.Fields("GROUP").As_Long() / 10;
     Decoded_Mask = links.rows.Fields("SUBCATEGO").As_Long();
     decode();
-  }
+  });
 }
 
 // ---- pairings, straight from the rows ----
@@ -37,20 +30,12 @@ void Each_Link(const Links& links, Long owner, const Decode& decode) {
 using Maridages_Found = Bounded_Array<Decoded_Maridage, 100>;
 
 void Take_Maridage(Maridages_Found& found) {
-  using M = Decoded_Maridage;
-  constexpr std::array<std::pair<const char*, Text M::*>, 8> texts{
-      {{"Maridage_Name", &M::Maridage_Name},
-       {"English", &M::English},
-       {"Spanish", &M::Spanish},
-       {"French", &M::French},
-       {"German", &M::German},
-       {"Italian", &M::Italian},
-       {"Japanese", &M::Japanese},
-       {"Portuguese", &M::Portuguese}}};
   Decoded_Maridage& maridage = found[++Decoded_Count];
   maridage.Maridage_ID = Maridages_Recordset.Fields("Maridage_ID").As_Long();
-  for (const auto& [field, member] : texts) {
-    maridage.*member = Maridages_Recordset.Fields(field).As_Text();
+  maridage.Maridage_Name = Maridages_Recordset.Fields("Maridage_Name").As_Text();
+  for (std::size_t place = 0; place < Languages.size(); ++place) {
+    maridage.*Language_Members<Decoded_Maridage>()[place] =
+        Maridages_Recordset.Fields(Languages[place]).As_Text();
   }
 }
 
@@ -63,7 +48,7 @@ bool Find_Maridage(Long subgroup) {
   return false;
 }
 
-void Load_Maridages(const Links& links, Long owner, Maridages_Found& found) {
+void Load_Maridages(const Link_Table& links, Long owner, Maridages_Found& found) {
   Maridages_Recordset.Index("Maridage_GROUP");
   Each_Link(links, owner, [&] {
     Maridages_Recordset.Seek("=", Decoded_Group);
@@ -74,9 +59,9 @@ void Load_Maridages(const Links& links, Long owner, Maridages_Found& found) {
   });
 }
 
-void Fill_Lists(const Links& links, void (*load)(), const Maridages_Found& found,
+void Fill_Lists(const Link_Table& links, void (*load)(), const Maridages_Found& found,
                 Forms::Item_List& texts, Forms::Item_List& keys) {
-  Open_Table(links.rows, links.table);
+  Open_Table(links.rows, links.name);
   Open_Table(Maridages_Recordset, "Maridages");
   load();
   texts.Clear();
@@ -94,46 +79,34 @@ void Fill_Lists(const Links& links, void (*load)(), const Maridages_Found& found
 
 // ---- by way of a memory record ----
 
-/// The table whose rows a mask names: its memory record's address, and how the current row is read.
-struct Named {
-  Recordset& rows;
-  void (*read)();
-  const Long& group;
-  const Long& subgroup;
-};
-const Named varieties{Varieties_Recordset, Read_Varieties_Record, Varieties.Variety_Group,
-                      Varieties.Variety_SubGr};
-const Named maridages{Maridages_Recordset, Read_Maridages_Record, Maridages.Maridage_Group,
-                      Maridages.Maridage_SubGr};
-
 /// Whether the walks behind the first one of a link row look at the group's first row again.
 enum class First_Row { Is_Looked_At, Is_Passed_Over };
 
-// From the current row on; the memory record holds it, unless it is passed over.
-bool Find_Subgroup(const Named& named, Long subgroup, First_Row first) {
+// From the current row on.
+bool Find_Subgroup(const Addressed_Table& items, Long subgroup, First_Row first) {
   for (int row = 0; row < rows_looked_at; ++row) {
     if (row > 0 || first == First_Row::Is_Looked_At) {
-      if (named.group != Decoded_Group) return false;
-      if (named.subgroup == subgroup) return true;
+      if (items.rows.Fields(items.group).As_Long() != Decoded_Group) return false;
+      if (items.rows.Fields(items.subgroup).As_Long() == subgroup) return true;
     }
-    named.rows.MoveNext();
-    if (named.rows.Eof()) return false;
-    named.read();
+    items.rows.MoveNext();
+    if (items.rows.Eof()) return false;
+    items.read();
   }
   return false;
 }
 
 template <class Take>
-void Decode_Row(const Named& named, First_Row later, const Take& take) {
-  named.rows.Seek("=", Decoded_Group);
-  if (named.rows.NoMatch()) return;
-  named.read();
+void Decode_Row(const Addressed_Table& items, First_Row later, const Take& take) {
+  items.rows.Seek("=", Decoded_Group);
+  if (items.rows.NoMatch()) return;
+  items.read();
   First_Row first = First_Row::Is_Looked_At;
   while (Decoded_Mask >= 1) {
-    if (Find_Subgroup(named, Next_Subgroup_of_Mask(Decoded_Mask), first)) take();
-    named.rows.Seek("=", Decoded_Group);
+    if (Find_Subgroup(items, Next_Subgroup_of_Mask(Decoded_Mask), first)) take();
+    items.rows.Seek("=", Decoded_Group);
     first = later;
-    if (first == First_Row::Is_Looked_At) named.read();
+    if (first == First_Row::Is_Looked_At) items.read();
   }
 }
 
@@ -185,7 +158,7 @@ void Load_Varieties_of_Region() {
   Open_Table(Varieties_Recordset, "Varieties", "Variety_GROUP");
   Open_Table(Varieties_Per_Region_Recordset, "Varieties_Per_Region");
   Each_Link(Varieties_of_Regions, Regions.Region_ID, [] {
-    Decode_Row(varieties, First_Row::Is_Looked_At, [] {
+    Decode_Row(Addressed_Varieties, First_Row::Is_Looked_At, [] {
       Decoded_Items[++Decoded_Count] = {Varieties.Variety_ID, Varieties.Variety_Name,
                                         Varieties.Variety_Color};
     });
@@ -198,7 +171,7 @@ void Load_Maridage_IDs_of_Variety() {
   Open_Table(Maridages_Recordset, "Maridages", "Maridage_GROUP");
   Open_Table(Maridages_Per_Variety_Recordset, "Maridages_Per_Variety");
   Each_Link(Pairings_of_Varieties, Varieties.Variety_ID, [] {
-    Decode_Row(maridages, First_Row::Is_Passed_Over, [] {
+    Decode_Row(Addressed_Pairings, First_Row::Is_Passed_Over, [] {
       Decoded_Items[++Decoded_Count] = {Maridages.Maridage_ID, Maridages.Maridage_Name, {}};
     });
   });

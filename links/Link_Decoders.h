@@ -1,17 +1,18 @@
 // Link rows become lists again.
 //
-// Each decoder takes the owner from its memory record and goes through the owner's group link rows
-// in the order of the table, in each group from the highest subgroup down; a subgroup is looked for
-// among ten rows from the first of its group on. It sets `Decoded_Count`. Failure 9: a 101st item.
+// Each decoder takes the owner's key from its memory record and goes through the owner's group link
+// rows in storage order, and through the subgroups of each from the highest down. To find a
+// subgroup it looks at ten rows, beginning with the first row of the group. `Decoded_Count` tells
+// how many it found. Failure 9: a 101st item.
 #pragma once
 
 #include "platform/forms/Item_List.h"
 
 // ---- pairings, into `Decoded_Maridages`; the tables are open before and after ----
 
-/// The walk goes on behind the group's end, where a subgroup is missing: what has this subgroup
-/// there is taken, and behind the last row of the table it is failure 3021. A group without rows is
-/// left out.
+/// For a subgroup that its group does not have, these look on into the next group, and take a
+/// pairing of this subgroup there; they fail with 3021 where the table ends first. A group without
+/// rows is left out.
 void Load_Maridages_of_Wine();
 void Load_Maridages_of_Mobile_Wine();
 void Load_Maridages_of_Variety();
@@ -31,13 +32,13 @@ bool Wine_Has_Maridages();
 // ---- into `Decoded_Items`; these open and close the tables, and leave the row read last in the
 // memory record ----
 
-/// The varieties of the region; the memory record of `Varieties` holds the first one of the last
-/// link row's group afterwards. What a group does not hold is left out.
+/// The varieties of the region; a subgroup that its group does not have is left out. The memory
+/// record of `Varieties` holds the first row of the group read last.
 void Load_Varieties_of_Region();
 
-/// The pairings of the variety. Behind the first one of a link row, a group's first row is not
-/// looked at any more: subgroup 1 is found only where it is the only one of its row. What a group
-/// does not hold is left out.
+/// The pairings of the variety; a subgroup that its group does not have is left out. The first row
+/// of a group is looked at only for the first subgroup of a link row: what stands in it, usually
+/// subgroup 1, is found only where the link row names no other.
 void Load_Maridage_IDs_of_Variety();
 
 // ---- the reverse tables, made anew from the link rows ----

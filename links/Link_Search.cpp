@@ -5,11 +5,8 @@
 #include <string_view>
 #include <unordered_set>
 
-#include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
-#include "links/Link_Store.h"
-#include "links/Links.h"
+#include "links/Link_Builds.h"
+#include "links/Link_Table.h"
 #include "links/Varieties_Processes.h"
 #include "platform/forms/Message_Box.h"
 #include "platform/run_time/Conversions.h"
@@ -19,20 +16,21 @@ namespace {
 constexpr int most_found = 100;
 
 /// The links, how the selection becomes groups, and what is said of nothing found.
-struct Searched {
-  const Links& links;
+struct Owner_Search {
+  const Link_Table& links;
   void (*build)();
   const char* text;
   const char* title;
 };
-const Searched wines{Pairings_of_Wines, Build_Wine_Maridage_Groups,
-                     "There are NO wines with\rANY of the pairings selected !!!", "NO Wines found"};
-const Searched mobile_wines{Pairings_of_Mobile_Wines, Build_Mobile_Search_Groups,
-                            "There are NO Wines with\rANY of the pairings selected !!!",
-                            "NO Wines found"};
-const Searched regions{Varieties_of_Regions, Build_Region_Variety_Groups,
-                       "There are NO Regions with\rANY of the varieties selected !!!",
-                       "NO Regions found"};
+const Owner_Search wines{Pairings_of_Wines, Build_Wine_Maridage_Groups,
+                         "There are NO wines with\rANY of the pairings selected !!!",
+                         "NO Wines found"};
+const Owner_Search mobile_wines{Pairings_of_Mobile_Wines, Build_Mobile_Search_Groups,
+                                "There are NO Wines with\rANY of the pairings selected !!!",
+                                "NO Wines found"};
+const Owner_Search regions{Varieties_of_Regions, Build_Region_Variety_Groups,
+                           "There are NO Regions with\rANY of the varieties selected !!!",
+                           "NO Regions found"};
 
 // The sum of two full masks is more than a Long.
 bool Masks_Meet(std::int64_t one, std::int64_t other) {
@@ -50,40 +48,36 @@ bool Take_Found(const Text& key) {
 }
 
 // The rows of one merged group. False where the search is full.
-bool Search_Group(const Links& links, Long group, Long mask) {
-  Record_Store::Recordset& rows = links.rows;
-  const int group_at = rows.Ordinal("GROUP");
+bool Search_Group(const Link_Table& links, Long group, Long mask) {
+  const Record_Store::Recordset& rows = links.rows;
   const int mask_at = rows.Ordinal("SUBCATEGO");
   const int owner_at = rows.Ordinal(links.owner);
-  rows.Seek("=", group);
-  for (; !rows.NoMatch() && !rows.Eof(); rows.MoveNext()) {
-    if (rows.Fields(group_at).As_Long() != group) break;
-    if (!Masks_Meet(rows.Fields(mask_at).As_Long(), mask)) continue;
-    if (!Take_Found(rows.Fields(owner_at).As_Text())) return false;
-  }
-  return true;
+  return Each_Row_Of(links.rows, "GROUP", group, [&] {
+    return !Masks_Meet(rows.Fields(mask_at).As_Long(), mask) ||
+           Take_Found(rows.Fields(owner_at).As_Text());
+  });
 }
 
-void Search(const Searched& searched) {
-  searched.build();
-  Open_Table(searched.links.rows, searched.links.table, "GROUP");
+void Run(const Owner_Search& search) {
+  search.build();
+  Open_Table(search.links.rows, search.links.name, "GROUP");
   Found_Count = 0;
   for (int group = 1; group <= Group_Count; ++group) {
-    if (!Search_Group(searched.links, To_Long(Group_Keys[group] * 10.0), Group_Masks[group])) break;
+    if (!Search_Group(search.links, To_Long(Group_Keys[group] * 10.0), Group_Masks[group])) break;
   }
   if (Found_Count > 0) {
     Compact_Found_IDs();
     return;
   }
-  Forms::Message_Box(searched.text, searched.title);
-  Close_Table(searched.links.rows);
+  Forms::Message_Box(search.text, search.title);
+  Close_Table(search.links.rows);
 }
 
 }  // namespace
 
-void Search_Wines_for_Maridages() { Search(wines); }
-void Search_Mobile_Wines_for_Maridages() { Search(mobile_wines); }
-void Search_Regions_for_Varieties() { Search(regions); }
+void Search_Wines_for_Maridages() { Run(wines); }
+void Search_Mobile_Wines_for_Maridages() { Run(mobile_wines); }
+void Search_Regions_for_Varieties() { Run(regions); }
 
 bool Row_Matches_Mask(Long mask) {
   return Masks_Meet(Maridages_Per_Wines_Recordset.Fields("SUBCATEGO").As_Long(), mask);

@@ -1,37 +1,27 @@
 // The owner's rows of a link table are replaced by the merged addresses.
 #include "links/Link_Store.h"
 
+#include "core/Ownership.h"
 #include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
-#include "links/Links.h"
+#include "links/Link_Builds.h"
+#include "links/Link_Table.h"
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
 
 namespace {
 
 /// Pair rows, which are removed as link rows are.
-const Links mobile_wines_of_pairings{Mobile_Wines_per_Maridage_Recordset,
-                                     "Mobile_Wines_per_Maridage", "Mobile_Wine_ID"};
+constexpr Link_Table mobile_wines_of_pairings{Mobile_Wines_per_Maridage_Recordset,
+                                              "Mobile_Wines_per_Maridage", "Mobile_Wine_ID"};
 
-// Of the open table.
-void Remove_Rows(const Links& links, Long owner) {
-  links.rows.Index(links.owner);
-  links.rows.Seek("=", owner);
-  for (; !links.rows.NoMatch() && !links.rows.Eof(); links.rows.MoveNext()) {
-    if (links.rows.Fields(links.owner).As_Long() != owner) break;
-    links.rows.Delete();
-  }
-}
-
-void Remove_All(const Links& links, Long owner) {
-  Open_Table(links.rows, links.table);
-  Remove_Rows(links, owner);
+void Remove_All(const Link_Table& links, Long owner) {
+  Open_Table(links.rows, links.name);
+  Remove_Rows_Of(links.rows, links.owner, owner);
   Close_Table(links.rows);
 }
 
 // A table with serial numbers is read with them: none may be missing.
-void Add_Groups(const Links& links, Long owner, const Text& serial) {
+void Add_Groups(const Link_Table& links, Long owner, const Text& serial) {
   for (int group = 1; group <= Group_Count; ++group) {
     links.rows.AddNew();
     links.rows.Fields(links.owner) = owner;
@@ -42,20 +32,15 @@ void Add_Groups(const Links& links, Long owner, const Text& serial) {
   }
 }
 
-void Store(const Links& links, Long owner, void (*build)(), const Text& serial = {}) {
-  Open_Table(links.rows, links.table);
+void Store(const Link_Table& links, Long owner, void (*build)(), const Text& serial = {}) {
+  Open_Table(links.rows, links.name);
   build();
-  Remove_Rows(links, owner);
+  Remove_Rows_Of(links.rows, links.owner, owner);
   Add_Groups(links, owner, serial);
   Close_Table(links.rows);
 }
 
 }  // namespace
-
-Text Serial_of_User(const Text& key) { return "CUS" + key; }
-Text Dated_Serial_of_User(const Text& key) {
-  return Serial_of_User(key) + "-" + Format_Date(Now());
-}
 
 void Store_Wine_Maridages() { Store(Pairings_of_Wines, Wines.Wine_ID, Build_Wine_Maridage_Groups); }
 

@@ -1,17 +1,15 @@
 #include "links/Varieties_Processes.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <utility>
 
-#include "core/Globals.h"
+#include "core/Languages.h"
 #include "platform/run_time/Conversions.h"
 
 namespace {
 
 constexpr std::size_t subgroups_of_a_group = 10;
-constexpr std::size_t first_language = 3;
 
 // The place of the first group that is smaller than that of the first entry; 0 where there is none.
 int Smaller_than_First() {
@@ -29,12 +27,7 @@ void Kept_Selection::Restore() const {
   Selected_IDs = IDs;
 }
 
-const Text& Decoded_Maridage::Name_in_Language() const {
-  using M = Decoded_Maridage;
-  constexpr std::array names{&M::English, &M::Spanish,  &M::French,    &M::German,
-                             &M::Italian, &M::Japanese, &M::Portuguese};
-  return this->*names.at(static_cast<std::size_t>(System_Language) - first_language);
-}
+const Text& Decoded_Maridage::Name_in_Language() const { return In_Language(*this); }
 
 Long Subgroup_Mask(Long subgroup) {
   return To_Long(std::pow(10.0, static_cast<double>(subgroup - 1)));

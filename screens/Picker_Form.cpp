@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Globals.h"
+#include "core/Languages.h"
 #include "core/MultiLanguage_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
@@ -187,7 +188,7 @@ void List_Picker_Form::Load_Pairings(Integer highest_multiuse) {
   for (; !Maridages_Recordset.Eof(); Maridages_Recordset.MoveNext()) {
     const Integer multiuse = Maridages_Recordset.Fields(multiuse_at).As_Integer();
     if (multiuse < 2 || multiuse > highest_multiuse) continue;
-    Cat_List.Add(Maridages_Recordset.Fields(System_Language + 2).As_Text(),
+    Cat_List.Add(Maridages_Recordset.Fields(Maridages_Column()).As_Text(),
                  Maridages_Recordset.Fields(key_at).As_Text());
   }
   Close_Table(Maridages_Recordset);

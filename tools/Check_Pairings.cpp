@@ -1,10 +1,10 @@
 // Varieties, pairings and cheeses.
 #include <set>
 
+#include "core/Languages.h"
 #include "platform/record_store/Text_Order.h"
 #include "platform/run_time/Conversions.h"
 #include "tools/Compile_Library.h"
-#include "tools/Languages.h"
 #include "tools/Source_Table.h"
 #include "tools/Vocabulary.h"
 

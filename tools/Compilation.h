@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/Languages.h"
 #include "tools/Groups.h"
-#include "tools/Languages.h"
 #include "tools/Library.h"
 #include "tools/Names.h"
 #include "tools/Problems.h"

@@ -10,8 +10,9 @@ namespace {
 /// The number of a language by its English name: 3 to 9, 0 for any other.
 Integer Number_Of_Language(std::string_view name) {
   const auto found = std::find(Languages.begin(), Languages.end(), name);
-  return found == Languages.end() ? Integer{0}
-                                  : static_cast<Integer>(found - Languages.begin() + 3);
+  return found == Languages.end()
+             ? Integer{0}
+             : static_cast<Integer>(found - Languages.begin() + First_Language);
 }
 
 void Check_Language_Number(const Source_Row& row, std::string_view name, Integer number,

@@ -1,4 +1,4 @@
-// Every table of the data file, for those who treat them all alike.
+// Every table of the data file, for those who work with several and those who treat all alike.
 #pragma once
 
 #include <tuple>

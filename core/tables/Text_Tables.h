@@ -20,8 +20,8 @@ struct Words_Record {
 };
 
 inline Words_Record Words;
-inline Record_Store::Recordset Words_Recordset;  ///< opened beside each query of Words
-inline Record_Store::Recordset Words_Query;      ///< one screen's rows; stays open until the next
+inline Record_Store::Recordset Words_Recordset;  ///< open from start-up on, and not read
+inline Record_Store::Recordset Words_Query;      ///< a screen's rows; open until the next screen's
 
 /// A language's number, 3 to 9, is its column's ordinal.
 extern const Tables::Table<Words_Record> Words_Description;

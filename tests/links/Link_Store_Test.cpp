@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include "links/Link_Builds.h"
+#include "links/Used_Counters.h"
 #include "tests/links/Linked_Rows.h"
 #include "tests/support/Expect_Failure.h"
 
@@ -263,6 +265,15 @@ TEST_F(Link_Store, A_removal_takes_the_rows_of_the_variety_alone) {
   EXPECT_EQ(Links_Of(links, "30000,30002").size(), 2U);
   Remove_Variety_Maridages();
   EXPECT_EQ(Rows("SELECT count(*) FROM " + Text(links.table))[0], To_Text(To_Long(all) - 3));
+}
+
+TEST_F(Link_Store, A_grape_with_a_negative_counter_is_not_counted_and_none_falls_below_0) {
+  for (const auto& [used, step, after] : std::vector<std::tuple<Long, int, const char*>>{
+           {-1, 1, "-1"}, {-1, -1, "-1"}, {0, -1, "0"}, {0, 1, "1"}, {7, -1, "6"}}) {
+    const Long grape = Add_Variety(7, 1, used);
+    Count_Variety(grape, step);
+    EXPECT_EQ(Used("Varieties", "Variety_ID", grape), after) << used << " " << step;
+  }
 }
 
 }  // namespace

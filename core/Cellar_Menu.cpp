@@ -1,5 +1,5 @@
-// The entries of the main window's menu that speak of the user's cellars.
-#include "core/Gereral_Processes.h"
+#include "core/Cellar_Menu.h"
+
 #include "core/Globals.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
@@ -8,6 +8,8 @@
 #include "platform/run_time/Conversions.h"
 
 namespace {
+
+constexpr Integer english = 3;
 
 Forms::Control& Entry(std::string_view name) {
   return Forms::Screen("Wine_Cellar_Form").Control(name);
@@ -26,16 +28,28 @@ void Enable_Cellar_Services(bool enabled) {
 
 }  // namespace
 
+void Caption_Main_Window() {
+  Forms::Screen("Wine_Cellar_Form").Set_Caption(Current_Cellar_Word + " " + Current_Cellar_Name);
+}
+
+void Caption_Current_Cellar() {
+  const Text cellar = Current_Cellar_Name + " " + Cellar_Word;
+  Caption_Main_Window();
+  Entry("Wines_Cellar").Set_Caption(cellar);
+  Entry("Pairing_Search_Cellar").Set_Caption(For_Pairings_Word + " " + cellar);
+  Entry("Cheeses_Pairing_Cellar").Set_Caption(With_Word + " " + cellar);
+}
+
+// The other languages name the wines in `With_Word`; English puts them last, and leaves them out
+// once a cellar was chosen in the menu.
 void Show_Named_Cellars(std::string_view first, std::string_view second) {
   Show_Entries(false, {"Cellar_View", "Cellar_Add", "Cellar_Print"});
   Show_Entries(true, {"Cellar_Mod", "Cellars_View", "Cellars_Print", "Cellar1_View", "Cellar2_View",
                       "Cellar1_Print", "Cellar2_Print"});
   Enable_Cellar_Services(true);
-  const Text& name = Current_Cellar_Name;
-  Forms::Screen("Wine_Cellar_Form").Set_Caption("My Current Cellar: " + name);
-  Entry("Wines_Cellar").Set_Caption(name + " Cellar");
-  Entry("Pairing_Search_Cellar").Set_Caption("For Pairings in " + name + " Cellar");
-  Entry("Cheeses_Pairing_Cellar").Set_Caption("With " + name + " Cellar Wines");
+  Caption_Current_Cellar();
+  Forms::Control& cheeses = Entry("Cheeses_Pairing_Cellar");
+  if (System_Language == english) cheeses.Set_Caption(cheeses.Caption() + " Wines");
   for (const char* entry : {"Cellar1_View", "Cellar1_Print"}) Entry(entry).Set_Caption(first);
   for (const char* entry : {"Cellar2_View", "Cellar2_Print"}) Entry(entry).Set_Caption(second);
 }

@@ -62,12 +62,6 @@ void Set_Database_Paths();
 /// Everything that precedes the main window's words: paths, data file, lists, cellar menu, first
 /// run.
 void Start_System();
-/// Brings the main window's menu into line with `Cellars`, and makes the first cellar the current
-/// one. Leaves `Cellars` open where no cellars are named.
-void Set_Cellar_Menu();
-/// The menu of a user who has named cellars: entries shown and captioned. `first` and `second` are
-/// the cellars' names; what speaks of the current cellar takes `Current_Cellar_Name`.
-void Show_Named_Cellars(std::string_view first, std::string_view second);
 
 // ---- look-ups; a key or name without a row is failure 3021, raised by the read ----
 

@@ -1,4 +1,5 @@
-// Start-up: from the program's folder to the open data file and the filled lists.
+// Start-up: finds the program's folder, opens the data file and fills the lists.
+#include "core/Cellar_Menu.h"
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
 #include "core/tables/Catalogue.h"
@@ -17,7 +18,7 @@ Text Parent_Folder() {
   return last == Text::npos ? Text() : path.substr(0, last);
 }
 
-// The settings are not read yet at this point of the start, so the own folder is what it comes to.
+// The start calls this before it reads the settings, and so gets the program's own folder.
 void Set_Database_Paths() {
   const Text folder = Wine_System.Wine_Cellar_as_Option ? Parent_Folder() : App_Path();
   Shared_DB_Path = folder + "/dbase/Marlune2003.mdb";
@@ -25,7 +26,7 @@ void Set_Database_Paths() {
 
 namespace {
 
-// The logo lies across the window and is as wide as it.
+// The logo follows: it spans the window.
 void Fit_Window_To_Language() {
   Read_By_Key(Languages_Available_Table, System_Language);
   Screen("Wine_Cellar_Form").Instance().Set_Width(Languages_Available.Width_Main);

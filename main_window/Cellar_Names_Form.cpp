@@ -1,6 +1,6 @@
 #include "main_window/Cellar_Names_Form.h"
 
-#include "core/Gereral_Processes.h"
+#include "core/Cellar_Menu.h"
 #include "core/Globals.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"

@@ -1,5 +1,6 @@
 #include "main_window/Wine_Cellar_Form.h"
 
+#include "core/Cellar_Menu.h"
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
 #include "core/MultiLanguage_Processes.h"
@@ -17,8 +18,6 @@ using Forms::Screen;
 namespace {
 
 constexpr const char* contact_address = "comments@winecellar.example";
-
-bool Cellars_Are_Named() { return Current_Cellar_Name != "x"; }
 
 }  // namespace
 
@@ -113,24 +112,13 @@ void Wine_Cellar_Form::Set_Up_Handlers() {
   Wine_Cellar_Exit.Click = [] { End_Process(0); };
 }
 
+// The words of the language replace every caption: the menu says again what the cellars are called.
 void Wine_Cellar_Form::Form_Load() {
   Start_System();
   Read_Language_Words("Wine_Cellar_Form", *this);
   Initialize_Wine_Cellar_Language();
   Version_Label.Set_Caption("V " + Wine_System.Version);
-  Caption_Cellars();
-}
-
-// The words of the language have just replaced every caption: what speaks of the user's own cellars
-// is said again.
-void Wine_Cellar_Form::Caption_Cellars() {
-  Open_Table(Cellars_Recordset, "Cellars");
-  Read_Cellars_Record();
-  Current_Cellar_Name = Cellars.Cellar_Name;
-  if (!Cellars_Are_Named()) return;
-  Cellars_Recordset.MoveNext();
-  Show_Named_Cellars(Current_Cellar_Name, Cellars_Recordset.Fields("Cellar_Name").As_Text());
-  Close_Table(Cellars_Recordset);
+  Set_Cellar_Menu();
 }
 
 void Wine_Cellar_Form::Initialize_Wine_Cellar_Language() {
@@ -148,9 +136,7 @@ void Wine_Cellar_Form::Initialize_Wine_Cellar_Language() {
 
 void Wine_Cellar_Form::Form_Activate() {
   Region_Or_Label_Changed = false;
-  if (Wine_System.Number_of_Cellars > 1) {
-    Set_Caption(Current_Cellar_Word + " " + Current_Cellar_Name);
-  }
+  if (Wine_System.Number_of_Cellars > 1) Caption_Main_Window();
 }
 
 void Wine_Cellar_Form::View_Cellar(int row) {
@@ -160,10 +146,7 @@ void Wine_Cellar_Form::View_Cellar(int row) {
   Read_Cellars_Record();
   Current_Cellar_ID = To_Integer(Cellars.ID);
   Current_Cellar_Name = Cellars.Cellar_Name;
-  Wines_Cellar.Set_Caption(Current_Cellar_Name + " " + Cellar_Word);
-  Pairing_Search_Cellar.Set_Caption(For_Pairings_Word + " " + Wines_Cellar.Caption());
-  Set_Caption("My Current Cellar: " + Current_Cellar_Name);
-  Cheeses_Pairing_Cellar.Set_Caption(With_Word + " " + Current_Cellar_Name + " " + Cellar_Word);
+  Caption_Current_Cellar();
   Close_Table(Cellars_Recordset);
   Open_Screen("Wine_Form", Main_Window::Hides);
 }

@@ -11,7 +11,7 @@ class Wine_Cellar_Form : public Forms::Form {
  public:
   Wine_Cellar_Form();
 
-  /// The entries of the menu that cannot be chosen, or can again.
+  /// While locked, none of the menus opens and the exit entry cannot be chosen.
   void Lock_All_Commands();
   void UnLock_All_Commands();
 
@@ -20,26 +20,21 @@ class Wine_Cellar_Form : public Forms::Form {
   void Form_Activate() override;
 
  private:
-  /// Whether the main window steps aside for the screen that an entry opens.
+  /// What the main window does when an entry opens a screen.
   enum class Main_Window { Hides, Stays };
 
   void Lay_Out();
   void Set_Up_Handlers();
-  /// The entry stores `command`, shows the screen and hides the main window or leaves it. An entry
-  /// whose screen is not there leaves everything as it is.
+  /// When the entry is chosen, `command` becomes the current one and the screen opens. If there is
+  /// no such screen, the main window stays whatever `main_window` says.
   void Let(Forms::Menu_Entry& entry, const char* command, const char* screen,
            Main_Window main_window = Main_Window::Hides);
   void Open_Screen(const char* screen, Main_Window main_window);
   void Initialize_Wine_Cellar_Language();
-  void Caption_Cellars();
   void View_Cellar(int row);
   void Help_Comments_Click();
   void Set_All_Commands_Enabled(bool enabled);
 
-  Text Current_Cellar_Word;
-  Text Cellar_Word;
-  Text For_Pairings_Word;
-  Text With_Word;
   Text Comments_Line_1;
   Text Comments_Line_2;
   Text Comments_Line_3;

@@ -24,6 +24,11 @@ class Cellar_Names : public Program_Folder {
   static std::string Caption(const char* control) {
     return Forms::Screen("Wine_Cellar_Form").Control(control).Caption();
   }
+  /// The title of the window, and the entries that speak of the current cellar.
+  static std::vector<std::string> Captions() {
+    return {Shown_Text("Wine_Cellar_Form"), Caption("Wines_Cellar"),
+            Caption("Pairing_Search_Cellar"), Caption("Cheeses_Pairing_Cellar")};
+  }
   static bool Is_Shown(const char* control) {
     return Forms::Screen("Wine_Cellar_Form").Control(control).Visible();
   }
@@ -80,10 +85,8 @@ TEST_F(Cellar_Names, Names_are_stored_and_the_menu_follows_at_once_and_after_a_r
     if (restarted) Restart();
     EXPECT_EQ(Current_Cellar_ID, 1);
     EXPECT_EQ(Current_Cellar_Name, "Home");
-    EXPECT_EQ(Shown_Text("Wine_Cellar_Form"), "My Current Cellar: Home");
-    EXPECT_EQ(Caption("Wines_Cellar"), "Home Cellar");
-    EXPECT_EQ(Caption("Pairing_Search_Cellar"), "For Pairings in Home Cellar");
-    EXPECT_EQ(Caption("Cheeses_Pairing_Cellar"), "With Home Cellar Wines");
+    EXPECT_THAT(Captions(), ElementsAre("My Current Cellar: Home", "Home Cellar",
+                                        "For Pairings in Home Cellar", "With Home Cellar Wines"));
     for (const char* entry : {"Cellar1_View", "Cellar1_Print"}) EXPECT_EQ(Caption(entry), "Home");
     for (const char* entry : {"Cellar2_View", "Cellar2_Print"})
       EXPECT_EQ(Caption(entry), "Büro & 北窖");
@@ -140,20 +143,29 @@ TEST_F(Cellar_Names, A_change_of_names_opens_the_button_when_both_boxes_have_cha
   EXPECT_EQ(Shown_Text("Wine_Cellar_Form"), "My Current Cellar: Work");
 }
 
-TEST_F(Cellar_Names, The_chosen_cellar_lasts_until_the_end_of_the_run_and_speaks_the_language) {
-  Box_Script boxes;
-  Name_Cellars("Haus", "Büro");
+TEST_F(Cellar_Names, What_speaks_of_the_cellar_speaks_the_language_at_a_start_a_name_and_a_choice) {
+  const Box_Script boxes;
+  const auto german = [](const std::string& name) {
+    const std::string wines = name + " (Weinkeller)";
+    return std::vector<std::string>{"Mein aktueller Weinkeller: " + name, wines,
+                                    "zu Speisen in: " + wines, "Mit Weinen aus: " + wines};
+  };
   Set_Language(6);
   Restart();
+  Name_Cellars("Haus", "Büro");
+  EXPECT_EQ(Captions(), german("Haus"));
+  Restart();
+  EXPECT_EQ(Captions(), german("Haus"));
   Pick("Cellar2_View");
   EXPECT_EQ(Current_Cellar_ID, 2);
-  const std::string wines = "Büro (Weinkeller)";
-  EXPECT_EQ(Caption("Wines_Cellar"), wines);
-  EXPECT_EQ(Caption("Pairing_Search_Cellar"), "zu Speisen in: " + wines);
-  EXPECT_EQ(Caption("Cheeses_Pairing_Cellar"), "Mit Weinen aus: " + wines);
-  EXPECT_EQ(Shown_Text("Wine_Cellar_Form"), "My Current Cellar: Büro");
+  EXPECT_EQ(Captions(), german("Büro"));
+  Set_Language(3);
   Restart();
   EXPECT_EQ(Current_Cellar_ID, 1);
+  EXPECT_EQ(Captions().back(), "With Haus Cellar Wines");
+  Pick("Cellar2_View");
+  EXPECT_THAT(Captions(), ElementsAre("My Current Cellar: Büro", "Büro Cellar",
+                                      "For Pairings in Büro Cellar", "With Büro Cellar"));
 }
 
 TEST_F(Cellar_Names, A_locked_cellar_table_ends_the_run_and_keeps_the_old_names) {

@@ -12,7 +12,7 @@ void Wine_Form::Lay_Out() {
       {&Pairing_List, Place(Pairings_Add_Command).At_Right()},
       {&Classification_Combo, Place(Classification_Add_Command).Wide(add_width)}};
   Set_Content(
-      Column({Above_Below(Fields_Place(add_buttons),
+      Column({Above_Below(Fields_Place(add_buttons, {Message_Label}),
                           Column({Row({Current_Cellar_Label, Wine_Cellar_Name_Label, Stretch()}),
                                   Place(Wine_Cellar_ListView).Grow().High(17)})
                               .Grow())

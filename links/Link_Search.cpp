@@ -79,6 +79,9 @@ void Search_Wines_for_Maridages() { Run(wines); }
 void Search_Mobile_Wines_for_Maridages() { Run(mobile_wines); }
 void Search_Regions_for_Varieties() { Run(regions); }
 
+// Where the hundredth match brings a double with it, fewer than a hundred are left.
+bool Search_Was_Cut() { return Found_Count == most_found; }
+
 bool Row_Matches_Mask(Long mask) {
   return Masks_Meet(Maridages_Per_Wines_Recordset.Fields("SUBCATEGO").As_Long(), mask);
 }

@@ -10,6 +10,10 @@
 
 #include "platform/run_time/Values.h"
 
+/// Whether the last search ended so: the last place found is then no key, and there may be more to
+/// find.
+bool Search_Was_Cut();
+
 /// The cellar's wines, whatever their cellar and stock, for the selected pairings. `Used` of each
 /// of these grows by one. Failures: those of Build_Wine_Maridage_Groups.
 void Search_Wines_for_Maridages();

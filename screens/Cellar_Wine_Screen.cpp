@@ -23,7 +23,8 @@ Cellar_Wine_Screen::Cellar_Wine_Screen(std::string_view name, std::string_view c
                    {"ID", 8, false, true}},
                   std::move(words)) {}
 
-Forms::Place Cellar_Wine_Screen::Fields_Place(const Beside& beside) {
+Forms::Place Cellar_Wine_Screen::Fields_Place(const Beside& beside,
+                                              const Forms::Places& over_aromas) {
   using namespace Forms;
   constexpr int name_width = 20;
   constexpr int number_width = 9;
@@ -59,7 +60,9 @@ Forms::Place Cellar_Wine_Screen::Fields_Place(const Beside& beside) {
               {Comments_Label, Place(Comments_Text).High(2).Grow()},
               {Last_Day_Uncorked_Label, Last_Date_Uncorked_Text},
               {Date_Added_Label, Date_Added_Text}});
-  const Place marks = Row({Boxes.Taste_Place(), One_Place({Boxes.Aroma_Place(), Message_Label})});
+  Places aromas = over_aromas;
+  aromas.insert(aromas.begin(), Boxes.Aroma_Place());
+  const Place marks = Row({Boxes.Taste_Place(), One_Place(aromas)});
   return Row({origin.Grow(5), bottle, notes.Grow(4), marks});
 }
 

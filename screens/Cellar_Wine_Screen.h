@@ -29,8 +29,8 @@ class Cellar_Wine_Screen : public Wine_Screen {
   /// What belongs to a field: its button, at the right of it; below a list of pairings.
   using Beside = std::map<const Forms::Placed_Control*, Forms::Place>;
   /// The fields in the order of reading: where the wine comes from, the bottle, the notes, the
-  /// marks. The message shares the place of the aromas.
-  Forms::Place Fields_Place(const Beside& beside);
+  /// marks. `over_aromas` is what shares the place of these.
+  Forms::Place Fields_Place(const Beside& beside, const Forms::Places& over_aromas = {});
 
   // ---- the fields ----
 

@@ -39,8 +39,9 @@ void Wine_Search_Results_Form::Lay_Out() {
   constexpr int list_height = 14;
   constexpr int requested_width = 22;
   Requested_Pairings_Label.Set_Buddy(Requested_Pairings_List);
-  const Place found = Column({Row({Current_Cellar_Label, Stretch(), Wines_Number}),
-                              Place(Wine_Cellar_ListView).High(list_height).Grow()});
+  const Place found =
+      Column({Row({Current_Cellar_Label, One_Place({Message_Label}).Grow(), Wines_Number}),
+              Place(Wine_Cellar_ListView).High(list_height).Grow()});
   const Place requested = Column(
       {Requested_Pairings_Label, Place(Requested_Pairings_List).Wide(requested_width).Grow()});
   Set_Content(Column({Above_Below(Row({found.Grow(), requested}).Grow(), Fields_Place({})).Grow(),
@@ -87,14 +88,15 @@ void Wine_Search_Results_Form::Load_Requested_Pairings() {
 
 // ---- the list ----
 
-// A wine that was removed may still have link rows: it is left out, and so is an entry without a
-// key.
+// A wine that was removed may still have link rows: it is left out.
 void Wine_Search_Results_Form::Get_WineResults_Records() {
   Search_Wines_for_Maridages();
   Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
   Open_Table(Wines_Recordset, "Wines", "Wine_ID");
   Wine_Cellar_ListView.Begin_Anew();
-  for (int found = 1; found <= Found_Count; ++found) {
+  const bool cut = Search_Was_Cut();
+  const int last = cut ? Found_Count - 1 : Found_Count;
+  for (int found = 1; found <= last; ++found) {
     Wines_Recordset.Seek("=", Found_IDs[found]);
     if (Wines_Recordset.NoMatch()) continue;
     Read_Wines_Record();
@@ -103,7 +105,23 @@ void Wine_Search_Results_Form::Get_WineResults_Records() {
   }
   Close_Table(Wineries_Recordset);
   Close_Table(Wines_Recordset);
-  Wines_Number.Set_Caption(To_Text(Wine_Cellar_ListView.Count()));
+  Tell_What_Is_Missing(last - Wine_Cellar_ListView.Count(), cut);
+}
+
+// The list has the focus: what the line says is read with it.
+void Wine_Search_Results_Form::Tell_What_Is_Missing(int removed, bool cut) {
+  const Text listed = To_Text(Wine_Cellar_ListView.Count());
+  Text message;
+  if (cut) message = "The first " + listed + " are shown.";
+  if (removed > 0) {
+    if (cut) message += " ";
+    message +=
+        To_Text(removed) + " of the wines found " + (removed == 1 ? "was" : "were") + " removed.";
+  }
+  Wines_Number.Set_Caption(listed + (cut ? "+" : ""));
+  Message_Label.Set_Caption(message);
+  Message_Label.Set_Visible(!message.empty());
+  Wine_Cellar_ListView.Set_Tool_Tip(message);
 }
 
 // The focus goes back to the list, for the next wine.

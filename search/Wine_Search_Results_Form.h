@@ -2,7 +2,8 @@
 // below, to be looked at and uncorked.
 //
 // The list is what the search finds with the selection of the moment. A click on a wine makes that
-// wine's pairings the selection: what is listed after an uncorking goes by these.
+// wine's pairings the selection: what is listed after an uncorking goes by these. A line above the
+// list says what it lacks: wines behind the first 99, and wines that are no longer in the cellar.
 #pragma once
 
 #include "screens/Cellar_Wine_Screen.h"
@@ -20,6 +21,7 @@ class Wine_Search_Results_Form : public Cellar_Wine_Screen {
   void Initialize_Form_Data();
   void Load_Requested_Pairings();
   void Get_WineResults_Records();
+  void Tell_What_Is_Missing(int removed, bool cut);
   void Wine_Cellar_ListView_ItemClick(Forms::List_Item item);
   void Variety_Combo_ItemCheck(int item);
   void Multi_Functional_Command_Click();

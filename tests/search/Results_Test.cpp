@@ -1,6 +1,8 @@
 // The wines that a search found: their list, the wine that was clicked, and the bottle uncorked.
 #include <gmock/gmock.h>
 
+#include <QWidget>
+
 #include "tests/search/Search_Program.h"
 
 namespace {
@@ -259,6 +261,40 @@ TEST_F(Search_Results, A_wine_that_the_list_no_longer_has_room_for_is_uncorked_a
   Uncork();
   EXPECT_EQ(Bottles_of(last), "1");
   EXPECT_EQ(Bottles_of(99), "3");
+}
+
+TEST_F(Search_Results, A_line_above_the_list_says_what_it_lacks) {
+  Put_Wines_with(Food(0), 105);
+  const Long both = Put_Wine_with({Food(0), Food(1)});
+  const Long gone = Put_Wine_with({Food(1)});
+  Start_With_Found({Food(1)});
+  const auto line = [] { return Is_Seen("Message_Label") ? Shown_Text("Message_Label") : ""; };
+  const int list_top = Find(list).y();
+  EXPECT_EQ(line(), "");
+  EXPECT_EQ(Shown_Text("Wines_Number"), "2");
+  Click("Exit_Command");
+  const auto remove = [this](Long wine) {
+    Change([wine](Record_Store::Database& file) {
+      Record_Store::Recordset wines = file.OpenRecordset("Wines");
+      wines.Index("Wine_ID");
+      wines.Seek("=", wine);
+      wines.Delete();
+    });
+  };
+  remove(gone);
+  Click("MultSelect");
+  EXPECT_EQ(line(), "1 of the wines found was removed.");
+  EXPECT_EQ(Shown_Text("Wines_Number"), "1");
+  Pick_Wine(both);
+  Uncork();
+  EXPECT_EQ(line(), "The first 99 are shown.");
+  EXPECT_EQ(Shown_Text("Wines_Number"), "99+");
+  for (const Long wine : {1, 2}) remove(wine);
+  Uncork();
+  EXPECT_EQ(line(), "The first 97 are shown. 2 of the wines found were removed.");
+  EXPECT_EQ(Shown_Text("Wines_Number"), "97+");
+  EXPECT_EQ(Find(list).accessibleDescription().toStdString(), line());
+  EXPECT_EQ(Find(list).y(), list_top);
 }
 
 TEST_F(Search_Results, A_wine_with_a_number_beyond_16_bits_can_be_shown_and_uncorked) {

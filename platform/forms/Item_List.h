@@ -42,15 +42,17 @@ class Item_List : public Lockable_Control {
   /// The left button, twice; in a list on one and the same entry.
   std::function<void()> DblClick;
 
-  /// For this room: the user chose.
+  // ---- for this room ----
+
+  /// The user chose the entry: raises Click.
   void Chosen_By_User(int index);
+  /// The entry is the chosen one from now on; raises nothing.
+  void Take_Index(int index);
 
  protected:
   Item_List(Form& form, std::string_view name);
   Plain_List& Entries() const { return *entries_; }
   virtual void Show_List_Index() = 0;
-  /// The entry is the chosen one from now on; raises nothing.
-  void Take_Index(int index);
 
  private:
   std::unique_ptr<Plain_List> entries_;

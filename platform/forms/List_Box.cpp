@@ -1,8 +1,7 @@
 #include "platform/forms/List_Box.h"
 
-#include <QKeyEvent>
-
 #include "platform/forms/Handlers.h"
+#include "platform/forms/List_Common.h"
 #include "platform/forms/List_Widget.h"
 #include "platform/forms/Plain_List.h"
 #include "platform/run_time/Run_Time_Error.h"
@@ -10,10 +9,6 @@
 namespace Forms {
 
 namespace {
-
-bool Is_Enter(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
 
 class List_Box_Widget : public List_Widget {
  public:
@@ -54,6 +49,10 @@ void List_Box::EnsureVisible(int index) {
   if (index < 0 || index >= ListCount()) Fail(Failure::Invalid_Property_Array_Index);
   auto* view = static_cast<List_Widget*>(Widget());
   view->scrollTo(view->model()->index(index, 0));
+}
+
+void List_Box::Set_Arrow_Keys_Pick(bool pick) {
+  static_cast<List_Widget*>(Widget())->Set_Arrow_Keys_Pick(pick);
 }
 
 void List_Box::Show_List_Index() { static_cast<List_Widget*>(Widget())->Show_Index(ListIndex()); }

@@ -6,9 +6,9 @@
 namespace Forms {
 
 /// The user's choice raises Click: a click of the mouse, also on the chosen entry, a move by the
-/// arrow keys, and typing, which goes to the next entry that begins so. Where nothing is chosen,
-/// the first arrow key chooses the entry that the focus stands on; after the chosen entry was
-/// removed that is the one that took its place.
+/// arrow keys, and typing, which goes to the next entry that begins so or, where none does, has a
+/// word that begins so. Where nothing is chosen, the first arrow key chooses the entry that the
+/// focus stands on; after the chosen entry was removed that is the one that took its place.
 ///
 /// A double click raises Click once and then DblClick, if the entry is still there and the chosen
 /// one. A handler may add and remove entries, clear the list and unload the form.
@@ -19,9 +19,12 @@ class List_Box : public Item_List {
 
   /// Scrolls the list so that the entry is seen. 381 outside the list.
   void EnsureVisible(int index);
+  /// False where a pick asks a question or leaves the screen: the arrow keys and typing only move
+  /// then, which takes ListIndex along but raises nothing, and Enter or Space raises Click.
+  void Set_Arrow_Keys_Pick(bool pick);
 
   /// The user pressed Return or Enter, or Delete, by itself, while an entry was chosen; also again
-  /// and again while the key is held down. A key whose event is not set does nothing in the list.
+  /// and again while the key is held down. Where Enter_Pressed is set, Enter does nothing else.
   std::function<void()> Enter_Pressed;
   std::function<void()> Delete_Pressed;
 

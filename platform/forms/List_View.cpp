@@ -70,7 +70,7 @@ void List_View::Select(int row, bool selected) {
   } else {
     if (!several) show_->selected.clear();
     show_->selected.insert(row);
-    show_->current = row;
+    show_->current = show_->focus = row;
   }
   Changed(false);
 }
@@ -90,11 +90,8 @@ void List_View::Refresh() {
   Sort_If_Needed();
   Forget_Later(rows_.get());
   show_->is_old = false;
-  show_->model.Show_Rows();
-  std::vector<int> places;
-  for (const int row : show_->selected) places.push_back(rows_->Place_Of(row));
-  show_->view->Select(places, show_->current < 0 ? -1 : rows_->Place_Of(show_->current));
-  if (std::exchange(show_->to_the_top, false)) show_->view->scrollToTop();
+  show_->model.Show_Rows(std::exchange(show_->was_cleared, false));
+  show_->view->Select(Selected_Places(), show_->focus < 0 ? -1 : rows_->Place_Of(show_->focus));
   QHeaderView& header = *show_->view->header();
   header.setSortIndicatorShown(sorted_);
   header.setSortIndicator(sorted_ ? sort_key_ : -1,
@@ -115,8 +112,8 @@ List_Item List_View::Add(std::string_view text) {
 void List_View::Clear() {
   rows_->Clear();
   show_->selected.clear();
-  show_->current = -1;
-  show_->to_the_top = true;
+  show_->current = show_->focus = -1;
+  show_->was_cleared = true;
   ++show_->fill;
   order_is_old_ = false;
   Changed(false);
@@ -127,6 +124,8 @@ void List_View::Remove(int index) {
   rows_->Remove(row);
   show_->selected.erase(row);
   if (show_->current == row) show_->current = -1;
+  if (show_->focus == row)
+    show_->focus = Count() == 0 ? -1 : rows_->Row_At(std::min(index, Count()) - 1);
   Changed(false);
 }
 
@@ -141,12 +140,28 @@ List_Item List_View::ListItems(int index) {
 bool List_View::Has_Selection() const { return !show_->selected.empty(); }
 
 List_Item List_View::SelectedItem() {
-  const std::set<int>& selected = show_->selected;
-  if (selected.empty()) Fail(Failure::Object_Variable_Not_Set);
-  if (selected.contains(show_->current)) return {*this, show_->current};
+  if (!Has_Selection()) Fail(Failure::Object_Variable_Not_Set);
+  if (show_->selected.contains(show_->current)) return {*this, show_->current};
+  return Selected_Items().front();
+}
+
+std::vector<List_Item> List_View::Selected_Items() {
+  std::vector<List_Item> items;
+  for (const int place : Selected_Places()) items.push_back({*this, rows_->Row_At(place)});
+  return items;
+}
+
+std::vector<int> List_View::Selected_Places() const {
   Sort_If_Needed();
-  return {*this, *std::ranges::min_element(selected, {},
-                                           [this](int row) { return rows_->Place_Of(row); })};
+  std::vector<int> places;
+  for (const int row : show_->selected) places.push_back(rows_->Place_Of(row));
+  std::ranges::sort(places);
+  return places;
+}
+
+void List_View::Deselect_All() {
+  show_->selected.clear();
+  Changed(false);
 }
 
 void List_View::Set_SelectedItem(List_Item item) {
@@ -215,9 +230,13 @@ void List_View::Set_MultiSelect(bool several) {
                                         : QAbstractItemView::SingleSelection);
 }
 
+void List_View::Moved_To(int place) {
+  if (place < Count()) show_->focus = rows_->Row_At(place);
+}
+
 void List_View::Picked(int place, bool by_arrow) {
   if (place >= Count()) return;
-  show_->current = rows_->Row_At(place);
+  show_->current = show_->focus = rows_->Row_At(place);
   if (by_arrow && !arrow_keys_pick_) return;
   Raise(*this, ItemClick, List_Item(*this, show_->current));
   if (by_arrow) Focus_Watch::The().Give_Back(*this);

@@ -86,10 +86,13 @@ class List_View : public Placed_Control {
   /// By place, counted from 1 in the order shown. 35600 outside 1 .. Count.
   List_Item ListItems(int index);
 
-  /// The selected row that was picked last, or the first one. 91 where none is selected.
+  /// The row picked last if it is selected, or the first selected one. 91 where none is.
   List_Item SelectedItem();
   void Set_SelectedItem(List_Item item);
   bool Has_Selection() const;
+  /// In the order shown, as they are at the call.
+  std::vector<List_Item> Selected_Items();
+  void Deselect_All();
 
   /// The first row, in the order shown, whose text (or one of whose sub-items, these only as a
   /// whole) is `text`, without regard to case.
@@ -115,14 +118,17 @@ class List_View : public Placed_Control {
 
   // ---- the user ----
 
-  /// Several rows can be selected, with Ctrl.
+  /// Several rows can be selected: a click with Ctrl, or Ctrl+Space, takes a row in and out again.
+  /// Typing, and the arrow keys with Ctrl, only move the focus then: the selection stays.
   void Set_MultiSelect(bool several);
   /// False where a pick asks a question or leaves the screen: the arrow keys and typing only move
-  /// then, and Enter or Space picks.
+  /// then, the selection too, and Enter or Space picks.
   void Set_Arrow_Keys_Pick(bool pick) { arrow_keys_pick_ = pick; }
 
-  /// The user picked a row, by mouse (the selected one too), Enter, Space, the arrow keys, or
-  /// typing, which goes to the next row whose text begins so and is a move like that of an arrow.
+  /// The user picked a row: by mouse (the selected one too), Enter, Space, the arrow keys, or
+  /// typing, which goes to the next row whose text begins so or, where none does, has a word that
+  /// begins so. Comes too where Ctrl takes the row out of several selected ones. Enter or Space
+  /// held down picks once.
   std::function<void(List_Item item)> ItemClick;
   /// The user wants what the row is for: a double click on it, or Enter. Comes after the ItemClick
   /// of the same click or key, and only if that left the row in the list and the form in use. Space
@@ -137,6 +143,8 @@ class List_View : public Placed_Control {
   /// Brings what is shown up to date, which otherwise happens at the end of the handler.
   void Refresh();
   void Picked(int place, bool by_arrow);
+  /// The focus stands on this row now, and nothing is picked.
+  void Moved_To(int place);
   /// ItemClick, then DblClick.
   void Picked_Twice(int place);
   /// Tells a row from all others of this list, past ones too; outside the list it is nobody's.
@@ -146,7 +154,7 @@ class List_View : public Placed_Control {
     bool operator==(const Identity&) const = default;
   };
   Identity Identity_At(int place) const;
-  /// Whether a row was picked or selected since the list was filled.
+  /// Whether a row was picked or selected since the list was filled, and is still there.
   bool Was_Picked_From() const;
   void Header_Clicked(int column);
 
@@ -156,6 +164,7 @@ class List_View : public Placed_Control {
   void Set_Cell(int row, int column, std::string_view text);
   void Select(int row, bool selected);
   void Take_Over(const QItemSelection& places, bool selected);
+  std::vector<int> Selected_Places() const;
   void Sort_If_Needed() const;
   void Check_Column(int column) const;
   bool Is_Found(int row, std::string_view text, Where where, Match match) const;

@@ -15,11 +15,12 @@ struct List_View::Show {
 
   Row_Model model;
   Row_View* view;
-  std::set<int> selected;  ///< rows
-  int current = -1;        ///< the row picked last
-  bool to_the_top = false;
-  int fill = 0;         ///< counts how often the list was cleared: rows are numbered anew
-  bool is_old = false;  ///< the view waits for Refresh
+  std::set<int> selected;    ///< rows
+  int current = -1;          ///< the row picked or selected last
+  int focus = -1;            ///< the row that the focus stands on
+  bool was_cleared = false;  ///< since the last Refresh
+  int fill = 0;              ///< counts how often the list was cleared: rows are numbered anew
+  bool is_old = false;       ///< the view waits for Refresh
 };
 
 }  // namespace Forms

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include "platform/forms/Handlers.h"
+#include "platform/forms/List_Common.h"
 #include "platform/forms/Plain_List.h"
 
 namespace Forms {
@@ -24,6 +25,7 @@ bool Is_Leap(const QKeyEvent& event) {
 List_Widget::List_Widget(QWidget* parent, Item_List& list, Plain_List& entries)
     : QListView(parent), list_(list) {
   setModel(&entries);
+  Go_To_Top_After_Clear(*this);
   setUniformItemSizes(true);
   setSelectionMode(QAbstractItemView::SingleSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -103,24 +105,42 @@ void List_Widget::Choose(int row) {
   list_.Chosen_By_User(row);
 }
 
-void List_Widget::Tell_If_Chosen() {
+void List_Widget::Tell_If_Moved() {
   const QModelIndex current = currentIndex();
   if (!current.isValid() || !Is_Shown_Chosen(current)) return;
-  if (current.row() != list_.ListIndex()) Choose(current.row());
+  if (current.row() == list_.ListIndex()) return;
+  arrow_keys_pick_ ? Choose(current.row()) : list_.Take_Index(current.row());
+}
+
+void List_Widget::keyPressEvent(QKeyEvent* event) {
+  if (search_.Hear(*event, *model())) {
+    keyboardSearch(" ");
+  } else if (Pick_By_Key(*event)) {
+    return;
+  } else {
+    Step(*event);
+  }
+  Tell_If_Moved();
+}
+
+bool List_Widget::Pick_By_Key(const QKeyEvent& event) {
+  if (arrow_keys_pick_ || !(Is_Enter(event) || event.key() == Qt::Key_Space)) return false;
+  if (!currentIndex().isValid() || event.isAutoRepeat()) return true;
+  setCurrentIndex(currentIndex());
+  Choose(currentIndex().row());
+  return true;
 }
 
 // The first step goes onto the entry that the focus stands on, which nobody chose yet.
-void List_Widget::keyPressEvent(QKeyEvent* event) {
-  search_.Hear(event->key());
+void List_Widget::Step(QKeyEvent& event) {
   const bool unchosen = Stands_On_Unchosen();
-  if (!unchosen || !Is_Step(*event)) QListView::keyPressEvent(event);
-  if (unchosen && (Is_Step(*event) || Is_Leap(*event))) setCurrentIndex(currentIndex());
-  Tell_If_Chosen();
+  if (!unchosen || !Is_Step(event)) QListView::keyPressEvent(&event);
+  if (unchosen && (Is_Step(event) || Is_Leap(event))) setCurrentIndex(currentIndex());
 }
 
 void List_Widget::inputMethodEvent(QInputMethodEvent* event) {
   QListView::inputMethodEvent(event);
-  Tell_If_Chosen();
+  Tell_If_Moved();
 }
 
 void List_Widget::keyboardSearch(const QString& typed) {

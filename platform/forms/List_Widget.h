@@ -11,14 +11,16 @@ namespace Forms {
 
 class Plain_List;
 
-/// The entry shown as chosen is the list's ListIndex: whatever the user does that changes the one
-/// tells the other. The focus stands on an entry that need not be chosen.
+/// The entry shown as chosen is always the list's ListIndex. The focus may stand on another entry,
+/// as it does before the user chose one, and after code took the choice back.
 class List_Widget : public QListView {
  public:
   List_Widget(QWidget* parent, Item_List& list, Plain_List& entries);
 
   /// -1 shows none as chosen; the focus stays where it stands.
   void Show_Index(int row);
+  /// See List_Box.
+  void Set_Arrow_Keys_Pick(bool pick) { arrow_keys_pick_ = pick; }
   void keyboardSearch(const QString& typed) override;
 
  protected:
@@ -36,7 +38,9 @@ class List_Widget : public QListView {
  private:
   void Clicked(int clicks);
   void Choose(int row);
-  void Tell_If_Chosen();
+  bool Pick_By_Key(const QKeyEvent& event);
+  void Step(QKeyEvent& event);
+  void Tell_If_Moved();
   bool Stands_On_Unchosen() const;
   bool Is_Shown_Chosen(const QModelIndex& index) const;
 
@@ -45,6 +49,7 @@ class List_Widget : public QListView {
   QPersistentModelIndex chosen_;  ///< the entry chosen last
   Typed_Search search_;
   int clicks_ = 0;  ///< how many the button's release ends
+  bool arrow_keys_pick_ = true;
 };
 
 }  // namespace Forms

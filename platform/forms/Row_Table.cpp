@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include "platform/forms/List_Common.h"
 #include "platform/forms/List_Rows.h"
 #include "platform/forms/Qt_Text.h"
 #include "platform/forms/Sort_Menu.h"
@@ -17,6 +18,8 @@ QVariant Alignment(const List_Column& column) {
   if (!column.number) return {};
   return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
 }
+
+bool Has_Ctrl(const QKeyEvent& event) { return event.modifiers().testFlag(Qt::ControlModifier); }
 
 }  // namespace
 
@@ -53,9 +56,13 @@ Qt::ItemFlags Row_Model::flags(const QModelIndex& index) const {
   return QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
 }
 
-void Row_Model::Show_Rows() {
+void Row_Model::Show_Rows(bool cleared) {
   const int now = rows_.Shown();
-  if (now < shown_) {
+  if (cleared) {
+    beginResetModel();
+    shown_ = now;
+    endResetModel();
+  } else if (now < shown_) {
     beginRemoveRows({}, now, shown_ - 1);
     shown_ = now;
     endRemoveRows();
@@ -70,6 +77,7 @@ void Row_Model::Show_Rows() {
 Row_View::Row_View(QWidget* parent, List_View& list, Row_Model& model)
     : QTreeView(parent), list_(list) {
   setModel(&model);
+  Go_To_Top_After_Clear(*this);
   setRootIsDecorated(false);
   setItemsExpandable(false);
   setUniformRowHeights(true);
@@ -98,18 +106,25 @@ void Row_View::Show_Columns(const std::vector<List_Column>& columns) {
   }
 }
 
+// Rows that stand together are one range: the toolkit compares each range with each other one.
+QItemSelection Row_View::Ranges_Of(const std::vector<int>& places) const {
+  QItemSelection ranges;
+  const int last_column = model()->columnCount() - 1;
+  for (std::size_t first = 0, next = 0; first < places.size(); first = next) {
+    while (++next < places.size() && places[next] == places[next - 1] + 1) continue;
+    ranges.select(model()->index(places[first], 0), model()->index(places[next - 1], last_column));
+  }
+  return ranges;
+}
+
 void Row_View::Select(const std::vector<int>& places, int current) {
   selecting_ = true;
-  QItemSelection selection;
-  for (const int place : places) {
-    selection.select(model()->index(place, 0), model()->index(place, model()->columnCount() - 1));
-  }
   if (current >= 0) {
     selectionModel()->setCurrentIndex(model()->index(current, 0), QItemSelectionModel::NoUpdate);
   } else {
     selectionModel()->clearCurrentIndex();
   }
-  selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+  selectionModel()->select(Ranges_Of(places), QItemSelectionModel::ClearAndSelect);
   selecting_ = false;
 }
 
@@ -183,16 +198,18 @@ bool Row_View::Is_Menu_Key(const QKeyEvent& event) {
 }
 
 void Row_View::keyPressEvent(QKeyEvent* event) {
-  search_.Hear(event->key());
-  if (Is_Menu_Key(*event)) {
+  const int before = currentIndex().row();
+  if (search_.Hear(*event, *model())) {
+    keyboardSearch(" ");
+    Tell_If_Moved(before);
+  } else if (Is_Menu_Key(*event)) {
     Offer_Columns(Below_Header());
-    return;
+  } else if (!Pick_By_Key(*event)) {
+    only_moves_ = Takes_Several() && Has_Ctrl(*event);
+    const bool first_step = Step_Onto_Current(*event);
+    if (!first_step) QTreeView::keyPressEvent(event);
+    Tell_If_Moved(first_step ? -1 : before);
   }
-  if (Pick_By_Key(*event)) return;
-  const bool first_step = Step_Onto_Current(*event);
-  const int before = first_step ? -1 : currentIndex().row();
-  if (!first_step) QTreeView::keyPressEvent(event);
-  Tell_If_Moved(before);
 }
 
 void Row_View::inputMethodEvent(QInputMethodEvent* event) {
@@ -204,13 +221,15 @@ void Row_View::inputMethodEvent(QInputMethodEvent* event) {
 void Row_View::Tell_If_Moved(int before) {
   const int now = currentIndex().row();
   const bool found = std::exchange(found_, false);
-  if (now >= 0 && (found || now != before)) list_.Picked(now, true);
+  const bool only_moves = std::exchange(only_moves_, false);
+  if (now < 0 || (!found && now == before)) return;
+  only_moves ? list_.Moved_To(now) : list_.Picked(now, true);
 }
 
 // The first step goes onto the row that the focus stands on, which nobody picked yet.
 bool Row_View::Step_Onto_Current(const QKeyEvent& event) {
   const bool step = event.key() == Qt::Key_Down || event.key() == Qt::Key_Up;
-  if (!step || list_.Was_Picked_From() || !currentIndex().isValid()) return false;
+  if (!step || only_moves_ || list_.Was_Picked_From() || !currentIndex().isValid()) return false;
   selectionModel()->select(currentIndex(),
                            QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   return true;
@@ -221,21 +240,26 @@ void Row_View::keyboardSearch(const QString& typed) {
   const int place = search_.Find(typed, *model(), currentIndex().row(), !picked);
   if (place < 0) return;
   found_ = !picked;
-  setCurrentIndex(model()->index(place, 0));
+  only_moves_ = Takes_Several();
+  const QModelIndex found = model()->index(place, 0);
+  only_moves_ ? selectionModel()->setCurrentIndex(found, QItemSelectionModel::NoUpdate)
+              : setCurrentIndex(found);
 }
 
-// A blank inside a word that is being typed belongs to it.
 bool Row_View::Pick_By_Key(const QKeyEvent& event) {
-  const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-  const bool space = event.key() == Qt::Key_Space && !search_.Goes_On_With(" ", *model());
-  if (!enter && !space) return false;
+  const bool enter = Is_Enter(event);
+  if (!enter && event.key() != Qt::Key_Space) return false;
   const QModelIndex current = currentIndex();
-  if (!current.isValid()) return true;
-  const auto command =
-      Takes_Several() ? QItemSelectionModel::Select : QItemSelectionModel::ClearAndSelect;
-  selectionModel()->select(current, command | QItemSelectionModel::Rows);
+  if (!current.isValid() || event.isAutoRepeat()) return true;
+  selectionModel()->select(current, Command_Of(event) | QItemSelectionModel::Rows);
   enter ? list_.Picked_Twice(current.row()) : list_.Picked(current.row(), false);
   return true;
+}
+
+QItemSelectionModel::SelectionFlag Row_View::Command_Of(const QKeyEvent& event) const {
+  if (!Takes_Several()) return QItemSelectionModel::ClearAndSelect;
+  const bool in_or_out = Has_Ctrl(event) && !Is_Enter(event);
+  return in_or_out ? QItemSelectionModel::Toggle : QItemSelectionModel::Select;
 }
 
 }  // namespace Forms

@@ -13,8 +13,8 @@ namespace Forms {
 
 class List_Rows;
 
-/// Shows as many rows as Show_Rows told last: the rows may have changed since, and are shown anew
-/// at the end of the handler, not at each step of a fill.
+/// Has as many rows as there were at the last Show_Rows: it is told of a change at the end of the
+/// handler, not at each step of a fill.
 class Row_Model : public QAbstractTableModel {
  public:
   Row_Model(const List_Rows& rows, const std::vector<List_Column>& columns)
@@ -26,7 +26,8 @@ class Row_Model : public QAbstractTableModel {
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
   Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-  void Show_Rows();
+  /// Shows the rows that there are now; `cleared` where all those shown before are gone.
+  void Show_Rows(bool cleared);
 
  private:
   const List_Column& Column_Of(int section) const {
@@ -43,7 +44,8 @@ class Row_View : public QTreeView {
   Row_View(QWidget* parent, List_View& list, Row_Model& model);
 
   void Show_Columns(const std::vector<List_Column>& columns);
-  /// Selects these places, and no others, as code does: nobody is told.
+  /// Selects the rows at these places, in rising order, and no others, as code does: nobody is
+  /// told.
   void Select(const std::vector<int>& places, int current);
   bool Is_Selecting() const { return selecting_; }
 
@@ -63,10 +65,12 @@ class Row_View : public QTreeView {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
+  QItemSelection Ranges_Of(const std::vector<int>& places) const;
   static bool Is_Menu_Key(const QKeyEvent& event);
   QPoint Below_Header() const;
   void Offer_Columns(QPoint place);
   bool Pick_By_Key(const QKeyEvent& event);
+  QItemSelectionModel::SelectionFlag Command_Of(const QKeyEvent& event) const;
   bool Step_Onto_Current(const QKeyEvent& event);
   void Tell_If_Moved(int before);
   bool Takes_Several() const { return selectionMode() == ExtendedSelection; }
@@ -74,9 +78,10 @@ class Row_View : public QTreeView {
   List_View& list_;
   Typed_Search search_;
   bool found_ = false;  ///< typing led to the row on which the focus stood, which nobody picked yet
+  bool only_moves_ = false;  ///< in a list of several: the key leaves the selection as it is
   int pressed_ = -1;
   List_View::Identity pressed_row_;
-  bool second_click_ = false;  ///< the button that is down is to end a double click
+  bool second_click_ = false;  ///< letting go of the button that is down ends a double click
   bool selecting_ = false;
 };
 

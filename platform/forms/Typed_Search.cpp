@@ -2,6 +2,8 @@
 
 #include <QAbstractItemModel>
 #include <QApplication>
+#include <QKeyEvent>
+#include <QTextBoundaryFinder>
 #include <algorithm>
 #include <array>
 
@@ -23,44 +25,80 @@ QString Without_Accents(const QString& text) {
 
 // Most texts begin with a plain letter, which decides at once.
 bool Begins_With(const QString& text, const QString& word) {
-  const QString folded = Folded(text);
-  if (folded.isEmpty() || (folded.front() < QChar(0x80) && folded.front() != word.front())) {
-    return false;
-  }
-  return folded.startsWith(word) || Without_Accents(folded).startsWith(word);
+  if (text.isEmpty() || (text.front() < QChar(0x80) && text.front() != word.front())) return false;
+  return text.startsWith(word) || Without_Accents(text).startsWith(word);
 }
 
+// The Unicode rules know where words begin in scripts without blanks, but take "d'Or" for one word.
+bool Is_Beginning_Of_Word(const QString& text, qsizetype at) {
+  if (at > 0 && (text[at - 1] == u'\'' || text[at - 1] == u'’')) return true;
+  QTextBoundaryFinder words(QTextBoundaryFinder::Word, text);
+  words.setPosition(at);
+  return words.isAtBoundary();
+}
+
+bool Has_Word_As_Written(const QString& text, const QString& word) {
+  for (auto at = text.indexOf(word); at >= 0; at = text.indexOf(word, at + 1)) {
+    if (Is_Beginning_Of_Word(text, at)) return true;
+  }
+  return false;
+}
+
+bool Has_Word(const QString& text, const QString& word) {
+  return Has_Word_As_Written(text, word) || Has_Word_As_Written(Without_Accents(text), word);
+}
+
+using Matches = bool (*)(const QString& folded_text, const QString& folded_word);
+
+// From the best match to the weakest.
+constexpr std::array<Matches, 2> all_matches{Begins_With, Has_Word};
+
 // The first row from `from` on, and around.
-int Search(const QAbstractItemModel& entries, const QString& word, int from) {
+int Search(const QAbstractItemModel& entries, const QString& word, int from, Matches matches) {
   const int count = entries.rowCount();
   const QString wanted = Folded(word);
   for (int i = 0; i < count; ++i) {
     const int row = (from + i) % count;
-    if (Begins_With(entries.index(row, 0).data().toString(), wanted)) return row;
+    if (matches(Folded(entries.index(row, 0).data().toString()), wanted)) return row;
   }
   return -1;
 }
 
-bool Is_One_Letter(const QString& word) {
-  return std::ranges::all_of(word, [&word](QChar letter) { return letter == word.front(); });
+bool Is_Letter_Again(const QString& word) {
+  return word.size() > 1 &&
+         std::ranges::all_of(word, [&word](QChar letter) { return letter == word.front(); });
+}
+
+// `next` is where the search for another entry than the present one starts.
+int Search_Best(const QAbstractItemModel& entries, const QString& word, int from, int next) {
+  for (const Matches matches : all_matches) {
+    int found = Search(entries, word, from, matches);
+    if (found < 0 && Is_Letter_Again(word)) found = Search(entries, word.left(1), next, matches);
+    if (found >= 0) return found;
+  }
+  return -1;
 }
 
 }  // namespace
 
-void Typed_Search::Hear(int key) {
-  constexpr std::array ends{Qt::Key_Return, Qt::Key_Enter,  Qt::Key_Delete,
-                            Qt::Key_Up,     Qt::Key_Down,   Qt::Key_Home,
-                            Qt::Key_End,    Qt::Key_PageUp, Qt::Key_PageDown};
-  if (std::ranges::find(ends, key) != ends.end()) End();
+bool Typed_Search::Hear(const QKeyEvent& key, const QAbstractItemModel& entries) {
+  constexpr std::array ends{Qt::Key_Return, Qt::Key_Enter,   Qt::Key_Delete, Qt::Key_Space,
+                            Qt::Key_Up,     Qt::Key_Down,    Qt::Key_Home,   Qt::Key_End,
+                            Qt::Key_PageUp, Qt::Key_PageDown};
+  if (Is_Blank_In_Word(key, entries)) return true;
+  if (std::ranges::find(ends, key.key()) != ends.end()) End();
+  return false;
+}
+
+bool Typed_Search::Is_Blank_In_Word(const QKeyEvent& key, const QAbstractItemModel& entries) const {
+  const bool blank = key.key() == Qt::Key_Space && key.modifiers() == Qt::NoModifier;
+  if (!blank || !Is_In_A_Word()) return false;
+  return Search_Best(entries, word_ + ' ', 0, 0) >= 0;
 }
 
 bool Typed_Search::Is_In_A_Word() const {
   return !word_.isEmpty() && since_.isValid() &&
          !since_.hasExpired(QApplication::keyboardInputInterval());
-}
-
-bool Typed_Search::Goes_On_With(const QString& typed, const QAbstractItemModel& entries) const {
-  return Is_In_A_Word() && Search(entries, word_ + typed, 0) >= 0;
 }
 
 int Typed_Search::Find(const QString& typed, const QAbstractItemModel& entries, int here,
@@ -74,9 +112,7 @@ int Typed_Search::Find(const QString& typed, const QAbstractItemModel& entries, 
   if (word_.isEmpty()) return -1;
   const int first = std::max(here, 0);
   const int next = here_too || here < 0 ? first : first + 1;
-  const int found = Search(entries, word_, goes_on ? first : next);
-  if (found >= 0 || !Is_One_Letter(word_)) return found;
-  return Search(entries, word_.left(1), next);
+  return Search_Best(entries, word_, goes_on ? first : next, next);
 }
 
 }  // namespace Forms

@@ -5,26 +5,30 @@
 #include <QString>
 
 class QAbstractItemModel;
+class QKeyEvent;
 
 namespace Forms {
 
-/// Letters that follow each other quickly are one word. Case does not count, and a letter typed
-/// without its accent is found with it. The same letter again goes to the next entry.
+/// Letters that follow each other quickly are one word. Upper and lower case are the same, and a
+/// letter typed without its accent finds one that has it. An entry that begins with the word comes
+/// first; where none does, one in which a later word begins so. The same letter again goes to the
+/// next entry.
 class Typed_Search {
  public:
-  /// The row of the entry whose text, in the first column, begins with the word so far; -1 if none.
-  /// A new word is looked for from the row after `here`, or from `here` itself where that is only
-  /// where the focus stands; around the end.
+  /// The row of the entry, looked for in the first column; -1 if there is none. The search for a
+  /// new word starts behind the row `here`, or at `here` itself with `here_too`, and goes on from
+  /// the top after the last row.
   int Find(const QString& typed, const QAbstractItemModel& entries, int here, bool here_too);
-  /// Whether a word is being typed that goes on with `typed` in some entry.
-  bool Goes_On_With(const QString& typed, const QAbstractItemModel& entries) const;
+  /// To be told of every key before the list acts on it. True for a blank that some entry has at
+  /// this place of the word being typed: it is to be looked for like a letter. Any other key that
+  /// acts on an entry or moves ends the word.
+  bool Hear(const QKeyEvent& key, const QAbstractItemModel& entries);
   /// What is typed next is a new word.
   void End() { word_.clear(); }
-  /// To be told of every key: one that acts on the entry or moves on ends the word.
-  void Hear(int key);
 
  private:
   bool Is_In_A_Word() const;
+  bool Is_Blank_In_Word(const QKeyEvent& key, const QAbstractItemModel& entries) const;
 
   QString word_;
   QElapsedTimer since_;

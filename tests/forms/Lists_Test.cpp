@@ -3,7 +3,9 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QScreen>
+#include <QScrollBar>
 #include <QWidget>
 
 #include "platform/forms/Forms.h"
@@ -166,12 +168,27 @@ TEST_F(Lists_Test, A_locked_combo_box_can_be_read_copied_and_set_but_not_changed
 }
 
 TEST_F(Lists_Test, The_user_chooses_in_a_list) {
+  Forms::List_Box& list = Shown().Cat_List;
   Click_Row("Cat_List", 1);
   Click_Row("Cat_List", 1);
   Press("Down");
   Type("s");
   EXPECT_EQ(Taken(), Log({"List France", "List France", "List Greece", "List Spain"}));
-  EXPECT_EQ(Shown().Cat_List.ListIndex(), 3);
+  EXPECT_EQ(list.ListIndex(), 3);
+  list.Set_Arrow_Keys_Pick(false);
+  Press("Home");
+  Type_Anew("fr");
+  EXPECT_EQ(Taken(), Log());
+  EXPECT_EQ(list.Text(), "France");
+  Press("Return");
+  Press("Down");
+  Press("Space");
+  Click_Row("Cat_List", 3);
+  Hold_Down("Cat_List", Qt::Key_Return);
+  list.RemoveItem(0);
+  Press("Space");
+  EXPECT_EQ(Taken(), Log({"List France", "List Greece", "List Spain", "List Spain"}));
+  EXPECT_EQ(Chosen_Row("Cat_List"), 2);
 }
 
 TEST_F(Lists_Test, Enter_and_delete_are_events_of_a_list_in_which_an_entry_is_chosen) {
@@ -319,26 +336,59 @@ TEST_F(Lists_Test, The_first_key_chooses_what_the_focus_stands_on) {
 }
 
 TEST_F(Lists_Test, Typing_finds_entries_in_every_script) {
-  Forms::List_Box& list = Shown().Cat_List;
-  for (const char* entry : {"São Tomé", "South Africa", "Éire", "日本", "日本酒", "𠮷野"}) {
-    list.AddItem(entry);
+  for (Forms::Item_List* list :
+       std::initializer_list<Forms::Item_List*>{&Shown().Cat_List, &Shown().Variety_Combo}) {
+    for (const char* entry : {"São Tomé", "South Africa", "Éire", "日本", "日本酒", "𠮷野",
+                              "Rôti d'agneau", "Roast chicken", "Chili"}) {
+      list->AddItem(entry);
+    }
+    list->Click = [list] { Lists_Form::log.push_back(list->Text()); };
+    list->SetFocus();
+    const auto typed = [](const char* word) {
+      Type_Anew(word);
+      return Taken();
+    };
+    EXPECT_EQ(typed("s"), Log({"Spain"}));
+    EXPECT_EQ(typed("s"), Log({"São Tomé"}));
+    EXPECT_EQ(typed("sss"), Log({"South Africa", "Spain", "São Tomé"}));
+    EXPECT_EQ(typed("SOUTH A"), Log({"South Africa"}));
+    EXPECT_EQ(typed("sao t"), Log({"Spain", "São Tomé"}));
+    EXPECT_EQ(typed("é"), Log({"Éire"}));
+    EXPECT_EQ(typed("日本酒"), Log({"日本", "日本酒"}));
+    EXPECT_EQ(typed("ж"), Log());
+    EXPECT_EQ(typed("chicken"), Log({"Chili", "Roast chicken"}));
+    EXPECT_EQ(typed("AGN"), Log({"South Africa", "Rôti d'agneau"}));
+    EXPECT_EQ(typed("hicken"), Log());
+    EXPECT_EQ(typed("tom"), Log({"São Tomé"}));
+    Type_Anew("roast");
+    Press("Space");
+    Type("c");
+    EXPECT_EQ(Taken(), Log({"Rôti d'agneau", "Roast chicken"}));
+    Compose_Anew(list->Name(), "𠮷");
+    Compose_Anew(list->Name(), "酒");
+    EXPECT_EQ(Taken(), Log({"𠮷野", "日本酒"}));
   }
-  list.SetFocus();
-  const auto typed = [](const char* word) {
-    Type_Anew(word);
-    return Taken();
-  };
-  EXPECT_EQ(typed("s"), Log({"List Spain"}));
-  EXPECT_EQ(typed("s"), Log({"List São Tomé"}));
-  EXPECT_EQ(typed("sss"), Log({"List South Africa", "List Spain", "List São Tomé"}));
-  EXPECT_EQ(typed("SOUTH A"), Log({"List South Africa"}));
-  EXPECT_EQ(typed("sao t"), Log({"List Spain", "List São Tomé"}));
-  EXPECT_EQ(typed("é"), Log({"List Éire"}));
-  EXPECT_EQ(typed("日本酒"), Log({"List 日本", "List 日本酒"}));
-  EXPECT_EQ(typed("ж"), Log());
-  Compose_Anew("Cat_List", "𠮷");
-  Compose_Anew("Cat_List", "日本酒");
-  EXPECT_EQ(Taken(), Log({"List 𠮷野", "List 日本酒"}));
+}
+
+TEST_F(Lists_Test, A_list_that_is_filled_anew_stands_at_its_top) {
+  for (Forms::Item_List* list : std::initializer_list<Forms::Item_List*>{
+           &Shown().Country_Combo, &Shown().Cat_List, &Shown().Variety_Combo}) {
+    auto* combo = dynamic_cast<QComboBox*>(&Find(list->Name()));
+    const auto filled_to = [&](int chosen) {
+      list->Clear();
+      for (int i = 0; i < 60; ++i) list->AddItem("Entry " + std::to_string(i));
+      list->Set_ListIndex(chosen);
+      Settle_Events();
+      if (combo == nullptr) return View_Of(list->Name()).verticalScrollBar()->value();
+      combo->showPopup();
+      const int scrolled = combo->view()->verticalScrollBar()->value();
+      combo->hidePopup();
+      return scrolled;
+    };
+    EXPECT_GT(filled_to(59), 0) << list->Name();
+    EXPECT_EQ(filled_to(-1), 0) << list->Name();
+  }
+  Taken();
 }
 
 TEST_F(Lists_Test, Ticks_raise_item_check_by_the_user_and_by_code_that_changes_one) {

@@ -52,6 +52,12 @@ inline void Compose_Anew(std::string_view name, const char* word) {
   Begin_Word([&] { QApplication::sendEvent(&Find(name), &composed); });
 }
 
+/// What the desktop sends while a key is held down.
+inline void Hold_Down(std::string_view name, Qt::Key key) {
+  QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, {}, true);
+  QApplication::sendEvent(&Find(name), &again);
+}
+
 /// Presses the left button on one row and lets it go on another one.
 inline void Drag_Row(std::string_view name, int from, int to) {
   QWindow* window = Find(name).window()->windowHandle();

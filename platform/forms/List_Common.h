@@ -1,0 +1,21 @@
+// What the kinds of list have in common towards the toolkit. For the sources of this room only.
+#pragma once
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+
+namespace Forms {
+
+/// Whenever the entries behind `view` are cleared, it goes back to its top: filled anew, it would
+/// otherwise stay scrolled as far down as before (the list of a combo box goes there by itself when
+/// it opens). To be called once the view has its model.
+inline void Go_To_Top_After_Clear(const QAbstractItemView& view) {
+  QObject::connect(view.model(), &QAbstractItemModel::modelReset, &view,
+                   &QAbstractItemView::scrollToTop);
+}
+
+inline bool Is_Enter(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+}  // namespace Forms

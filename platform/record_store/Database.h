@@ -22,8 +22,10 @@ inline constexpr int Schema_Version = 1;
 /// Destroying it gives up what was not committed; recordsets still open on it are closed ones then.
 ///
 /// Any operation, on it or on its recordsets, can fail for the sake of the file: 3260 where another
-/// process holds it longer than five seconds, 3026 on a full disk, 3043 where the disk fails, 3343
-/// where a page turns out damaged. What was committed before stays.
+/// process holds it longer than five seconds, 3026 on a full disk, 3027 where it cannot be written
+/// (any longer), 3043 where the disk fails, 3343 where a page turns out damaged. The first write of
+/// a burst is 3260 too where another process wrote after this burst had begun to read. What was
+/// committed before stays.
 class Database {
  public:
   explicit Database(std::unique_ptr<Database_Core> core);
@@ -51,15 +53,17 @@ class Database {
 
 /// Opens the file at `path`. The password is the PWD part of `connect` (";PWD=..."). Writing is
 /// shared between processes, unless `exclusive`: then no other process can open or use the file.
-/// Fails with 3024 where there is no file, 3031 for a wrong or missing password, 3343 where the
-/// file is damaged, is no data file of this program or has another Schema_Version, 3260 where
-/// another process holds it. A file is never changed by an opening that fails.
+/// Fails with 3024 where there is no file, 3027 where it is to be written and it, its journal or,
+/// for want of one, its folder forbids that (the text names which), 3031 for a wrong or missing
+/// password, 3043 where the path leads nowhere or the file may not be read, 3343 where the file is
+/// damaged, is no data file of this program or has another Schema_Version, 3260 where another
+/// process holds it. A file is never changed by an opening that fails.
 std::unique_ptr<Database> OpenDatabase(const std::string& path, bool exclusive, bool read_only,
                                        std::string_view connect);
 
-/// Makes a new data file with these tables, all of them empty, and opens it exclusively for being
-/// filled: here a new row's counter may be assigned. 3219 where a file of this name exists, 3031
-/// without a password. The tables are durable from the next Commit on.
+/// Makes a new data file with these tables, all of them empty, for its owner's eyes only, and opens
+/// it exclusively for being filled: here a new row's counter may be assigned. 3219 where a file of
+/// this name exists, 3031 without a password. The tables are durable from the next Commit on.
 std::unique_ptr<Database> Create_Database(const std::string& path, std::string_view connect,
                                           std::span<const Table_Schema> tables);
 

@@ -60,14 +60,19 @@ void Database_Core::Look_For_Changes() {
   last_version_ = version;
 }
 
-// The engine takes the file for writing at the beginning of a burst only. What stands read is given
-// up for it, and read again when it is needed.
+// The engine takes the file for writing at the beginning of a burst only, and between the end of
+// the reading one and that, another process can write. What the handler has read, and is about to
+// write back with a change, would undo what the other one was told is stored.
 void Database_Core::Begin_Write(Table& table) {
   const bool running = burst_kind_ != Burst_Kind::None && engine_->In_Burst();
   if (!running || burst_kind_ == Burst_Kind::Read) {
-    Detach_All();
-    if (running) engine_->Execute("COMMIT");
+    const std::int64_t version_read = last_version_;
+    if (running) Commit();
     Begin("BEGIN IMMEDIATE", Burst_Kind::Write);
+    if (running && last_version_ != version_read) {
+      Commit();
+      Fail(Failure::Currently_Locked);
+    }
   }
   for (Table_Cursor* cursor : open_tables_) {
     if (cursor->Is_On(table)) cursor->Settle();

@@ -1,6 +1,9 @@
 #include "platform/record_store/Engine.h"
 
 #include <sqlite3.h>
+#include <unistd.h>
+
+#include <filesystem>
 
 #include "platform/record_store/Text_Order.h"
 
@@ -27,7 +30,7 @@ Failure Failure_Of(int result) {
     case SQLITE_NOMEM:
       return Failure::Out_Of_Memory;
     case SQLITE_READONLY:
-      return Failure::Invalid_Operation;
+      return Failure::Read_Only;
     // A page whose seal is broken comes back as a plain error: our own statements know no other.
     case SQLITE_ERROR:
     case SQLITE_CORRUPT:
@@ -47,7 +50,27 @@ void Leave_Out_Bookkeeping() {
   static_cast<void>(result);
 }
 
+// A journal that cannot be made comes back as a file that cannot be opened, or written.
+[[noreturn]] void Fail_On(const std::string& path, int result, bool writes) {
+  const Failure failure = Failure_Of(result);
+  if (writes && failure == Failure::Disk_Error) Require_Writable(path);
+  if (failure == Failure::Read_Only || failure == Failure::Disk_Error) Fail(failure, {}, path);
+  Fail(failure, path);
+}
+
 }  // namespace
+
+// The engine makes the journal beside the file itself, not beside a link to it.
+void Require_Writable(const std::string& path) {
+  const auto require = [](const std::filesystem::path& place) {
+    if (access(place.c_str(), W_OK) != 0) Fail(Failure::Read_Only, {}, place.string());
+  };
+  std::error_code gone;
+  const std::filesystem::path file = std::filesystem::canonical(path, gone);
+  const std::filesystem::path journal = file.string() + "-journal";
+  require(file);
+  require(std::filesystem::exists(journal, gone) ? journal : file.parent_path());
+}
 
 void Statement_End::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 
@@ -58,7 +81,7 @@ Engine::Engine(const std::string& path, Mode mode, std::string_view password) : 
   const int result = sqlite3_open_v2(path.c_str(), &handle_, flags, nullptr);
   if (result != SQLITE_OK) {
     sqlite3_close(handle_);
-    Fail(Failure_Of(result), path);
+    Fail_On(path, result, mode != Mode::Read);
   }
   sqlite3_busy_timeout(handle_, patience);
   sqlite3_create_collation(handle_, "WINE", SQLITE_UTF8, nullptr, Collate<Compare_Keys>);
@@ -105,6 +128,8 @@ int Engine::Run(sqlite3_stmt* statement) const {
 
 bool Engine::In_Burst() const { return sqlite3_get_autocommit(handle_) == 0; }
 
-void Engine::Fail_By(int result) const { Fail(Failure_Of(result), path_); }
+void Engine::Fail_By(int result) const {
+  Fail_On(path_, result, sqlite3_db_readonly(handle_, "main") == 0);
+}
 
 }  // namespace Record_Store

@@ -22,6 +22,10 @@ using Statement = std::unique_ptr<sqlite3_stmt, Statement_End>;
 inline constexpr int Page_Size = 4096;
 inline constexpr int Application_Id = 0x57434D42;
 
+/// Fails with 3027, and the path that stands in the way, where the file's content, or the journal
+/// that each write needs beside it, cannot be written by this process.
+void Require_Writable(const std::string& path);
+
 class Engine {
  public:
   enum class Mode { Read, Write, Create };

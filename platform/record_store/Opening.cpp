@@ -41,7 +41,8 @@ std::string_view Password_Of(std::string_view connect) {
 void Require_File(const std::string& path) {
   struct stat status {};
   if (stat(path.c_str(), &status) != 0) {
-    Fail(errno == ENOENT || errno == ENOTDIR ? Failure::File_Not_There : Failure::Disk_Error, path);
+    if (errno == ENOENT || errno == ENOTDIR) Fail(Failure::File_Not_There, path);
+    Fail(Failure::Disk_Error, {}, path);
   }
   // The engine would take an empty file for a new one.
   if (!S_ISREG(status.st_mode) || status.st_size == 0) Fail(Failure::Unrecognized_Format, path);
@@ -72,6 +73,14 @@ bool Ends_Within_A_Page(const std::string& path) {
   return std::filesystem::file_size(path, no_size) % Page_Size != 0;
 }
 
+void Require_Format(const Engine& engine) {
+  const bool ours = engine.Number_Of("PRAGMA application_id") == Application_Id;
+  const std::int64_t version = engine.Number_Of("PRAGMA user_version");
+  if (ours && version == Schema_Version) return;
+  Fail(Failure::Unrecognized_Format, engine.Path(),
+       ours && version > Schema_Version ? "It was made by a newer version of this program." : "");
+}
+
 // One file to back up: the journal is emptied, not left, and the emptying is synced too, so that a
 // power cut cannot bring an old one back.
 void Set_Up(const Engine& engine) {
@@ -81,14 +90,16 @@ void Set_Up(const Engine& engine) {
   engine.Execute("PRAGMA temp_store=MEMORY");
 }
 
+// Nobody else's business. The engine gives the journal the same rights.
 void Make_File(const std::string& path) {
-  const int file = open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0644);
+  const int file = open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
   if (file >= 0) {
     close(file);
     return;
   }
   if (errno == EEXIST) Fail(Failure::Invalid_Operation);
-  Fail(errno == ENOENT || errno == ENOTDIR ? Failure::Path_Not_Found : Failure::Disk_Error);
+  if (errno == ENOENT || errno == ENOTDIR) Fail(Failure::Path_Not_Found);
+  Fail(Failure::Disk_Error, {}, path);
 }
 
 void Set_First_Counter(const Engine& engine, const Table_Schema& table) {
@@ -122,16 +133,14 @@ void Make_Tables(const Engine& engine, std::span<const Table_Schema> tables) {
 std::unique_ptr<Database> OpenDatabase(const std::string& path, bool exclusive, bool read_only,
                                        std::string_view connect) {
   Require_File(path);
+  if (!read_only) Require_Writable(path);
   const std::string_view password = Password_Of(connect);
   auto engine = std::make_unique<Engine>(path, read_only ? Engine::Mode::Read : Engine::Mode::Write,
                                          password);
   if (exclusive) engine->Execute("PRAGMA locking_mode=EXCLUSIVE");
   Read_First_Page(*engine, path, password);
   if (Ends_Within_A_Page(path)) Fail(Failure::Unrecognized_Format, path);
-  if (engine->Number_Of("PRAGMA application_id") != Application_Id ||
-      engine->Number_Of("PRAGMA user_version") != Schema_Version) {
-    Fail(Failure::Unrecognized_Format, path);
-  }
+  Require_Format(*engine);
   Set_Up(*engine);
   if (exclusive && !read_only) engine->Execute("BEGIN EXCLUSIVE; COMMIT");
   return std::make_unique<Database>(std::make_unique<Database_Core>(std::move(engine), false));

@@ -36,6 +36,8 @@ void Table_Cursor::Release() {
   pool_->Give_Back(std::move(statement_));
 }
 
+// A statement that stands on a row keeps the burst from ending, and would step over rows that are
+// being changed: what is needed of it is copied, and the next move asks anew from there.
 void Table_Cursor::Detach() {
   if (live_ != nullptr) {
     Take_Row(live_);
@@ -57,6 +59,8 @@ void Table_Cursor::Keep_Own() {
   at_ = 0;
 }
 
+// The first row is looked for as late as possible, because most recordsets are opened for a Seek or
+// an AddNew. A write is the last moment: behind it another row could be the first.
 void Table_Cursor::Settle() {
   if (place_ == Place::First) Find_First();
   Detach();
@@ -85,11 +89,14 @@ bool Table_Cursor::Step() {
 
 void Table_Cursor::Bind() {
   int parameter = 0;
+  // An index on the counter has no sort columns, as it is the storage order: its key is sought all
+  // the same.
   const int equal = order_->sort.empty() && form_.range == Form::Sought ? 1 : form_.prefix;
   for (int i = 0; i < equal; ++i) Bind_Value(statement_.get(), ++parameter, anchor_.At(0, i));
   if (form_.range == Form::Beyond) {
     Bind_Value(statement_.get(), ++parameter, anchor_.At(0, form_.prefix));
   }
+  // Behind the nulls: nothing that is a value stands below these two.
   if (form_.range == Form::From) {
     const int ordinal = order_->sort[Position(form_.prefix)].ordinal;
     const bool text = layout_->At(ordinal).type == Field_Type::Text;
@@ -131,12 +138,15 @@ void Table_Cursor::Move(bool backwards) {
     Fail(Failure::No_Current_Record);
   }
   if (found) return;
+  // Behind the last row, or no row left at all: Bof tells the two apart, and rows may have gone
+  // since the last move.
   const bool rows = Ask({});
   Release();
   place_ = !rows ? Place::Empty : backwards ? Place::Before : Place::Behind;
 }
 
 bool Table_Cursor::Advance(bool backwards) {
+  // The statement of one counter gives no second row.
   const bool lone = order_->sort.empty() && form_.range == Form::Sought;
   // The row of a look-up that was answered without asking: ask now.
   if (kept_ != &row_ && !backwards && !lone) Ask(form_);
@@ -206,6 +216,8 @@ void Table_Cursor::Seek(std::string_view comparison, std::span<const Key> keys) 
   if (no_match_) place_ = Place::Missed;
 }
 
+// Screens look up the same few rows (a country, a language) again for each row of a list: such an
+// answer is remembered until the file changes, and costs no question then.
 bool Table_Cursor::Look_Up(const Form& form) {
   core->Begin_Read();
   const Value key = anchor_.At(0, 0);
@@ -242,6 +254,8 @@ Long Table_Cursor::Count() {
 
 // ---- changes ----
 
+// The file is taken for writing before the counter is read: another process could give the same
+// number otherwise.
 void Table_Cursor::Add_New() {
   change_ = Change::None;
   core->Begin_Write(*table_);
@@ -254,6 +268,8 @@ void Table_Cursor::Add_New() {
   }
 }
 
+// A row that was copied may be an old one: another recordset can have changed it since, and what is
+// computed from it is going to be written.
 void Table_Cursor::Edit() {
   change_ = Change::None;
   Require_Row();
@@ -297,6 +313,8 @@ void Table_Cursor::Insert_New_Row() {
   table_->Has_Seen(number);
 }
 
+// Fields that were not assigned keep what another recordset stored in them meanwhile. The values
+// written become the current row here, as it will not be read again before the next move.
 void Table_Cursor::Store_Changes() {
   const std::int64_t number = Row_Number();
   sqlite3_stmt* update = nullptr;

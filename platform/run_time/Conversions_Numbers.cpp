@@ -99,7 +99,8 @@ std::int64_t Scaled(const Decimal& number) {
   const std::string rest = number.digits.substr(static_cast<std::size_t>(kept));
   const bool half = rest[0] == '5' && rest.find_first_not_of('0', 1) == std::string::npos;
   const bool up = half ? value % 2 == 1 : rest[0] >= '5';
-  return value + (up ? 1 : 0);
+  if (__builtin_add_overflow(value, up ? 1 : 0, &value)) Fail(Failure::Overflow);
+  return value;
 }
 
 template <class Number>

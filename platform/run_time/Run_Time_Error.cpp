@@ -17,6 +17,8 @@ constexpr std::array wordings{
     Wording{Failure::Type_Mismatch, "Type mismatch"},
     Wording{Failure::Internal_Error, "Internal error"},
     Wording{Failure::File_Not_Found, "File not found"},
+    Wording{Failure::Disk_Full, "Disk full"},
+    Wording{Failure::Permission_Denied, "Permission denied"},
     Wording{Failure::Path_Not_Found, "Path not found"},
     Wording{Failure::Object_Variable_Not_Set, "Object variable or With block variable not set"},
     Wording{Failure::Invalid_Use_Of_Null, "Invalid use of Null"},
@@ -34,6 +36,7 @@ constexpr std::array wordings{
             "The changes would create duplicate values in an index or primary key."},
     Wording{Failure::File_Not_There, "Could not find file '%'."},
     Wording{Failure::Not_Enough_Space, "Not enough space on disk."},
+    Wording{Failure::Read_Only, "Cannot update. Database or object is read-only."},
     Wording{Failure::Not_A_Valid_Password, "Not a valid password."},
     Wording{Failure::Disk_Error, "Disk or network error."},
     Wording{Failure::Syntax_Error_In_Query, "Syntax error in query expression '%'."},
@@ -59,7 +62,11 @@ std::string Text_Of(Failure failure, std::string_view name) {
 
 }  // namespace
 
-Run_Time_Error::Run_Time_Error(Failure failure, std::string_view name)
-    : failure_(failure), text_(Text_Of(failure, name)) {}
+Run_Time_Error::Run_Time_Error(Failure failure, std::string_view name, std::string_view more)
+    : failure_(failure), text_(Text_Of(failure, name)) {
+  if (!more.empty()) text_.append("\n").append(more);
+}
 
-void Fail(Failure failure, std::string_view name) { throw Run_Time_Error(failure, name); }
+void Fail(Failure failure, std::string_view name, std::string_view more) {
+  throw Run_Time_Error(failure, name, more);
+}

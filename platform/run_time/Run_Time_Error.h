@@ -15,6 +15,8 @@ enum class Failure : int {
   Type_Mismatch = 13,
   Internal_Error = 51,
   File_Not_Found = 53,
+  Disk_Full = 61,
+  Permission_Denied = 70,
   Path_Not_Found = 76,
   Object_Variable_Not_Set = 91,
   Invalid_Use_Of_Null = 94,
@@ -31,6 +33,7 @@ enum class Failure : int {
   Duplicate_Key = 3022,
   File_Not_There = 3024,
   Not_Enough_Space = 3026,
+  Read_Only = 3027,
   Not_A_Valid_Password = 3031,
   Disk_Error = 3043,
   Syntax_Error_In_Query = 3075,
@@ -48,8 +51,9 @@ enum class Failure : int {
 /// border catches it.
 class Run_Time_Error : public std::exception {
  public:
-  /// `name` takes the place of the name, path or statement that the failure's wording speaks of.
-  explicit Run_Time_Error(Failure failure, std::string_view name = {});
+  /// `name` takes the place of the name, path or statement that the failure's wording speaks of;
+  /// `more` stands behind the wording, on a line of its own.
+  explicit Run_Time_Error(Failure failure, std::string_view name = {}, std::string_view more = {});
 
   int Number() const { return static_cast<int>(failure_); }
   const std::string& Text() const { return text_; }
@@ -61,4 +65,4 @@ class Run_Time_Error : public std::exception {
 };
 
 /// Raises `failure`. A function of its own, so that the places that test stay short.
-[[noreturn]] void Fail(Failure failure, std::string_view name = {});
+[[noreturn]] void Fail(Failure failure, std::string_view name = {}, std::string_view more = {});

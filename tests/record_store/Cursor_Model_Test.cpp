@@ -42,7 +42,7 @@ int Compare_Rows(Kind kind, const Row& a, const Row& b) {
   return result != 0 ? result : numbers(a.number, b.number);
 }
 
-// A recordset as the contract tells of it.
+// A recordset as Recordset.h promises it, over rows in plain memory.
 class Model_Cursor {
  public:
   enum class Place { Row, Deleted, Missed, Before, Behind, Empty };

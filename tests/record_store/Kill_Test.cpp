@@ -1,4 +1,4 @@
-// A program that writes is killed at any instant.
+// A program that writes is killed at any instant, or lets this one wait.
 #include <fcntl.h>
 #include <poll.h>
 #include <signal.h>
@@ -14,29 +14,39 @@ using namespace Record_Store;
 
 class Kill_Test : public Store_Test {
  protected:
-  // The writer runs until its first commit and `microseconds` more. Returns the last number that it
-  // said was stored.
-  Long Run_And_Kill(int microseconds) {
+  struct Writer {
+    pid_t process;
+    int said;  // what it says can be read here
+  };
+  // Starts the writer, for ever or for one burst, and waits until it has said something.
+  Writer Start_Writer(const char* once) const {
     std::array<int, 2> pipe_ends{};
     EXPECT_EQ(pipe2(pipe_ends.data(), O_CLOEXEC), 0);
     const pid_t writer = fork();
     if (writer == 0) {
       dup2(pipe_ends[1], STDOUT_FILENO);
-      execl(WRITE_STREAM, WRITE_STREAM, path_.c_str(), Right_Connect.c_str(), nullptr);
+      execl(WRITE_STREAM, WRITE_STREAM, path_.c_str(), Right_Connect.c_str(), once, nullptr);
       _exit(127);
     }
     close(pipe_ends[1]);
     pollfd said{pipe_ends[0], POLLIN, 0};
     EXPECT_EQ(poll(&said, 1, 60000), 1);
+    return {writer, pipe_ends[0]};
+  }
+
+  // The writer runs until its first commit and `microseconds` more. Returns the last number that it
+  // said was stored.
+  Long Run_And_Kill(int microseconds) const {
+    const Writer writer = Start_Writer(nullptr);
     usleep(static_cast<useconds_t>(microseconds));
-    kill(writer, SIGKILL);
-    waitpid(writer, nullptr, 0);
+    kill(writer.process, SIGKILL);
+    waitpid(writer.process, nullptr, 0);
     std::string lines;
     std::array<char, 4096> part{};
-    for (ssize_t length = 0; (length = read(pipe_ends[0], part.data(), part.size())) > 0;) {
+    for (ssize_t length = 0; (length = read(writer.said, part.data(), part.size())) > 0;) {
       lines.append(part.data(), static_cast<std::size_t>(length));
     }
-    close(pipe_ends[0]);
+    close(writer.said);
     // A line that the kill cut off is no word given.
     const std::size_t end = lines.rfind('\n');
     if (end == std::string::npos) return 0;
@@ -86,4 +96,31 @@ TEST_F(Kill_Test, Every_Row_That_Was_Acknowledged_Is_There) {
     if (HasFailure()) break;
   }
   EXPECT_GE(bursts, 50);
+}
+
+// The other one has the file for its writing, and commits as soon as this one lets go of what it
+// reads: which is between its reading and its own first write.
+TEST_F(Kill_Test, What_Was_Read_Before_Another_Wrote_Is_Not_Written_Back) {
+  Add_Bottle("of both", 1);
+  database_->Commit();
+  Recordset bottles = database_->OpenRecordset("Bottles");
+  const auto Take_One = [&] {
+    bottles.MoveFirst();
+    bottles.Edit();
+    bottles["Rack"] = bottles["Rack"].As_Long() - 1;
+    bottles.Update();
+    database_->Commit();
+  };
+  EXPECT_EQ(bottles["Rack"].As_Long(), 1);
+  const Writer other = Start_Writer("once");
+  EXPECT_EQ(Failure_Of(Take_One), 3260);
+  int status = -1;
+  waitpid(other.process, &status, 0);
+  close(other.said);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(Failure_Of(Take_One), 0);
+  Reopen();
+  Recordset stored = database_->OpenRecordset("Bottles");
+  EXPECT_EQ(stored["Rack"].As_Long(), 0);
+  EXPECT_EQ(stored.RecordCount(), 2);
 }

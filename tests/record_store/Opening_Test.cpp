@@ -1,8 +1,11 @@
 // Opening and making data files, and what stands in them for others to see.
 #include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 
 #include "platform/record_store/Engine.h"
@@ -91,6 +94,65 @@ TEST_F(Opening_Test, Failures_Name_The_File) {
   EXPECT_EQ(message(absent), "Could not find file '" + absent + "'.");
   EXPECT_EQ(message(folder_), "Unrecognized database format '" + folder_.string() + "'.");
   EXPECT_FALSE(std::filesystem::exists(absent));
+  const std::string loop = folder_ / "loop.mdb";
+  std::filesystem::create_symlink(loop, loop);
+  EXPECT_EQ(message(loop), "Disk or network error.\n" + loop);
+  Engine(path_, Engine::Mode::Write, "open9sesame").Execute("PRAGMA user_version=2");
+  EXPECT_EQ(message(path_), "Unrecognized database format '" + path_ +
+                                "'.\nIt was made by a newer version of this program.");
+}
+
+// Permissions do not bind root, so a process of its own becomes somebody else, who owns the folder,
+// and says the failure in which `action` ends.
+[[noreturn]] static void Act_As_A_User(const std::filesystem::path& folder,
+                                       const std::function<void()>& action) {
+  constexpr unsigned nobody = 65534;
+  if (geteuid() == 0) {
+    bool done = chown(folder.c_str(), nobody, nobody) == 0;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+      done = done && chown(entry.path().c_str(), nobody, nobody) == 0;
+    }
+    if (!done || setgid(nobody) != 0 || setuid(nobody) != 0) _exit(1);
+  }
+  try {
+    action();
+    std::cerr << "no failure";
+  } catch (const Run_Time_Error& error) {
+    std::cerr << error.Number() << ": " << error.Text();
+  }
+  _exit(chmod(folder.c_str(), S_IRWXU));
+}
+
+TEST_F(Opening_Test, What_Cannot_Be_Written_Is_Found_Before_Anything_Is_Read) {
+  const std::string journal = path_ + "-journal";
+  const auto Expect = [&](const std::string& said, const std::function<void()>& action) {
+    EXPECT_EXIT(Act_As_A_User(folder_, action), testing::ExitedWithCode(0), said);
+  };
+  const auto Read_Only = [](const std::string& path) {
+    return "3027: Cannot update. Database or object is read-only.\n" + path + "$";
+  };
+  const auto Forbid = [](const std::string& path, mode_t left) {
+    EXPECT_EQ(chmod(path.c_str(), left), 0);
+  };
+  const auto Write = [&] {
+    Reopen();
+    Add_Bottle("late", 1);
+    database_->Commit();
+  };
+  std::filesystem::remove(journal);
+  Expect(Read_Only(folder_), [&] { Forbid(folder_, 0500), Write(); });
+  Expect("no failure", [&] { Write(), Forbid(folder_, 0500), Write(); });
+  Expect(Read_Only(journal), [&] { Forbid(journal, 0400), Write(); });
+  std::filesystem::remove(journal);
+  Expect(Read_Only(path_), [&] { Forbid(path_, 0400), Write(); });
+  Expect("3043: Disk or network error.\n" + path_ + "$", [&] { Forbid(path_, 0200), Write(); });
+  Forbid(path_, 0600);
+  // The folder is closed while the file is open.
+  Expect(Read_Only(folder_), [&] {
+    Reopen();
+    Forbid(folder_, 0500);
+    Add_Bottle("late", 1);
+  });
 }
 
 TEST_F(Opening_Test, Other_Files_Of_The_Engine_Are_Refused) {
@@ -134,8 +196,8 @@ TEST_F(Opening_Test, Reading_Only) {
   database_ = OpenDatabase(path_, false, true, Right_Connect);
   Recordset rows = database_->OpenRecordset("Bottles");
   EXPECT_EQ(rows["Name"].As_Text(), "Pomerol number 0");
-  EXPECT_EQ(Failure_Of([&] { rows.AddNew(); }), 3219);
-  EXPECT_EQ(Failure_Of([&] { rows.Delete(); }), 3219);
+  EXPECT_EQ(Failure_Of([&] { rows.AddNew(); }), 3027);
+  EXPECT_EQ(Failure_Of([&] { rows.Delete(); }), 3027);
 }
 
 TEST_F(Opening_Test, Two_Open_Files_See_What_The_Other_Committed) {
@@ -187,4 +249,13 @@ TEST_F(Opening_Test, New_Files_Replace_Nothing) {
   EXPECT_EQ(make(folder_ / "new.mdb", ""), 3031);
   EXPECT_EQ(make(folder_ / "absent" / "new.mdb", Right_Connect), 76);
   EXPECT_EQ(make(folder_ / "new.mdb", Right_Connect), 0);
+}
+
+TEST_F(Opening_Test, The_File_And_Its_Journal_Are_For_Their_Owner_Only) {
+  constexpr auto owner_only = std::filesystem::perms{0600};
+  Reopen();
+  Add_Bottle("private", 1);
+  database_->Commit();
+  EXPECT_EQ(std::filesystem::status(path_).permissions(), owner_only);
+  EXPECT_EQ(std::filesystem::status(path_ + "-journal").permissions(), owner_only);
 }

@@ -1,5 +1,6 @@
 // Writes bursts into a data file until it is killed, and says so after each commit. A burst is a
-// bottle, three notes on it, and a change of the bottle before it.
+// bottle, three notes on it, and a change of the bottle before it. With one more argument it is one
+// burst, and said before the commit.
 #include <unistd.h>
 
 #include <string>
@@ -8,7 +9,13 @@
 
 using namespace Record_Store;
 
-int main(int, char** arguments) {
+static bool Say(Long number) {
+  const std::string line = std::to_string(number) + "\n";
+  return write(STDOUT_FILENO, line.data(), line.size()) > 0;
+}
+
+int main(int count, char** arguments) {
+  const bool once = count > 3;
   const auto database = OpenDatabase(arguments[1], false, false, arguments[2]);
   for (;;) {
     Recordset bottles = database->OpenRecordset("Bottles");
@@ -30,8 +37,8 @@ int main(int, char** arguments) {
       notes["Bottle"] = number;
       notes.Update();
     }
+    if (once) Say(number);
     database->Commit();
-    const std::string done = std::to_string(number) + "\n";
-    if (write(STDOUT_FILENO, done.data(), done.size()) < 0) return 1;
+    if (once || !Say(number)) return 0;
   }
 }

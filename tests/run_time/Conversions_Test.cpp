@@ -87,6 +87,7 @@ TEST_F(Conversions, Money_is_exact_from_text_and_back) {
     EXPECT_EQ(To_Currency(given.text).ten_thousandths, given.ten_thousandths) << given.text;
   }
   EXPECT_FAILURE(6, To_Currency("922337203685477.5808"));
+  EXPECT_FAILURE(6, To_Currency("-922337203685477.58075"));
   EXPECT_FAILURE(6, To_Currency("1e30"));
   EXPECT_EQ(To_Text(Currency{125000}), "12.5");
   EXPECT_EQ(To_Text(Currency{-1}), "-0.0001");

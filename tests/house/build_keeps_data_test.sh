@@ -45,10 +45,15 @@ check "the new file is in the language asked for" holds "$file" "--language Germ
 check "the program stands in its folder" "$work/house/build/app/wine_cellar"
 check "the folder of the photos is there" test -d "$work/house/build/app/photos"
 
+modes() { stat -c %a "$program/dbase" "$program/photos" "$file" | tr '\n' ' '; }
+program=$(dirname "$(dirname "$file")")
+chmod 644 "$file"
+chmod 755 "$program/dbase" "$program/photos"
 echo "my cellar" >"$file"
 touch -d '2001-02-03' "$file"
 before=$(stat -c '%i %s %Y' "$file")
 check "a second build succeeds" build --language Japanese
+check "nobody else can read it (modes: $(modes))" test "$(modes)" = "700 700 600 "
 check "the data file is kept" holds "$file" "my cellar"
 check "it is not even touched" test "$before" = "$(stat -c '%i %s %Y' "$file")"
 : >"$file"

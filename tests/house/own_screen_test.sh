@@ -35,11 +35,20 @@ cat >"$work/probe" <<'PROBE'
 xdpyinfo >"$1/inside" 2>&1
 XAUTHORITY=/dev/null xdpyinfo >"$1/keyless" 2>&1 && echo open >"$1/open"
 echo "$DISPLAY" >"$1/display"
+umask >"$1/umask"
 stat -c %a "$(dirname "$XAUTHORITY")" "$(dirname "$XAUTHORITY")/password" >"$1/modes"
 while [[ ! -e $1/go_on ]]; do sleep 0.1; done
 exit 7
 PROBE
-chmod +x "$work/probe"
+# Notes its command line, as anybody could, and does what it was called for.
+cat >"$work/xauth" <<XAUTH
+#!/bin/sh
+echo "\$*" >>"$work/command_lines"
+exec $(command -v xauth) "\$@"
+XAUTH
+chmod +x "$work/probe" "$work/xauth"
+PATH=$work:$PATH
+umask 027
 
 "$own_screen" "$work/probe" "$work" >"$work/out" 2>&1 </dev/null &
 screen=$!
@@ -49,6 +58,8 @@ check "the program has its screen" grep -q '1280x720' "$work/inside"
 check "nobody has it without the key" test ! -e "$work/open"
 check "it listens on this machine only" test "$(listens_at "$port")" = "0100007F:$(printf '%04X' "$port")"
 check "the password is private" test "$(tr '\n' ' ' <"$work/modes")" = "700 600 "
+check "the key is in no command line" eval 'test -s "$work/command_lines" && ! grep -Eq "[0-9a-f]{32}" "$work/command_lines"'
+check "the program keeps the user's umask" grep -qx 0027 "$work/umask"
 check "address and password are told" eval 'grep -q "127.0.0.1:$port" "$work/out" && grep -Eq "Password +[a-z0-9]{8} " "$work/out"'
 touch "$work/go_on"
 status=0

@@ -59,6 +59,8 @@ void Open_Databases();
 /// The path of the shared reference file by what the `Wine_System` memory record says at this
 /// moment.
 void Set_Database_Paths();
+/// The data file in the program's folder.
+Text Own_Data_File();
 /// Everything that precedes the main window's words: paths, data file, lists, cellar menu, first
 /// run.
 void Start_System();

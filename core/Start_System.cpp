@@ -18,6 +18,8 @@ Text Parent_Folder() {
   return last == Text::npos ? Text() : path.substr(0, last);
 }
 
+Text Own_Data_File() { return App_Path() + "/dbase/Wine_Cellar.mdb"; }
+
 // The start calls this before it reads the settings, and so gets the program's own folder.
 void Set_Database_Paths() {
   const Text folder = Wine_System.Wine_Cellar_as_Option ? Parent_Folder() : App_Path();
@@ -52,7 +54,7 @@ void Open_Databases() {
 }
 
 void Start_System() {
-  Wine_Cellar_DB_Path = App_Path() + "/dbase/Wine_Cellar.mdb";
+  Wine_Cellar_DB_Path = Own_Data_File();
   Set_Database_Paths();
   Open_Databases();
   Set_Cellar_Menu();

@@ -9,6 +9,7 @@
 #include "platform/forms/Focus.h"
 #include "platform/forms/Later.h"
 #include "platform/forms/Message_Box.h"
+#include "platform/forms/Only_Start.h"
 #include "platform/forms/Qt_Text.h"
 #include "platform/forms/Screens.h"
 #include "platform/forms/Screens_Inside.h"
@@ -60,6 +61,7 @@ struct Application::Data {
   Data(int& argc, char** argv) : toolkit(argc, argv) {}
   QApplication toolkit;
   QStyle* style = new Desktop_Style;  ///< the toolkit owns it
+  Only_Start only_start;
 };
 
 Application::Application(int& argc, char** argv) : data_(std::make_unique<Data>(argc, argv)) {
@@ -80,6 +82,8 @@ Application::~Application() {
   Hooks().settled = [] {};
   Screens::Clear_For_Tests();
 }
+
+bool Application::Is_Only_One_On(const std::string& file) { return data_->only_start.Take(file); }
 
 int Application::Run(const std::function<void()>& start) {
   Run_Guarded(start);

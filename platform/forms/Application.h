@@ -18,6 +18,10 @@ class Application {
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;
 
+  /// To be asked before `file` is opened. False where the user runs the program on this file
+  /// already, by whatever path: that one's windows come to the front, and this start is to end.
+  bool Is_Only_One_On(const std::string& file);
+
   /// Runs `start` inside the guard, then handles events until the program ends.
   int Run(const std::function<void()>& start);
 

@@ -24,6 +24,7 @@ class Focus_Watch : public QObject {
   void Remove(const QWidget* widget, const Placed_Control& control);
   Placed_Control* Control_Of(const QWidget* widget) const;
   Placed_Control* Owner() const { return owner_; }
+  Form* Front() const { return front_; }  ///< whose Form_Activate ran last, or none
 
   /// From code.
   void Set_Focus(Placed_Control& control);

@@ -201,6 +201,25 @@ TEST_F(Program, Killed_at_any_moment_of_a_stream_of_changes_keeps_whole_what_it_
   EXPECT_GT(changed, 0);
 }
 
+TEST_F(Program, A_second_start_on_the_same_file_brings_the_first_to_the_front) {
+  program.Start();
+  ASSERT_TRUE(program.Has_Keys());
+  Real_Window::Program other(display);
+  other.Start();
+  ASSERT_TRUE(other.Has_Keys());  // a file of its own, side by side
+  other.Kill();
+  other.Start();
+  ASSERT_TRUE(other.Has_Keys());  // nothing stayed behind of the killed one
+  EXPECT_TRUE(program.Is_Running());
+  Real_Window::Program second(display);
+  QFile::remove(QString::fromStdString(second.Data_File()));
+  QFile::link(QString::fromStdString(program.Data_File()),
+              QString::fromStdString(second.Data_File()));
+  second.Start();
+  EXPECT_EQ(second.Wait_For_End(), 0);
+  EXPECT_TRUE(program.Has_Keys());
+}
+
 TEST_F(Program, Without_its_data_file_says_so_once_and_ends_with_status_1) {
   QFile::remove(QString::fromStdString(program.Data_File()));
   program.Start();

@@ -99,6 +99,13 @@ int Program::Wait_For_End() {
 
 bool Program::Is_Running() const { return process_ && process_->state() == QProcess::Running; }
 
+bool Program::Has_Keys() const {
+  const QString own = QString::number(process_->processId());
+  return Comes_True([&] {
+    return display_.Run("xdotool", {"getwindowfocus", "getwindowpid"}) == own;
+  });
+}
+
 // The search takes an apostrophe that is escaped for the end of the text.
 QString Program::Window_Of(const QString& title) const {
   const QString exactly = "^" + QRegularExpression::escape(title).replace("\\'", "'") + "$";

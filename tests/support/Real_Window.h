@@ -38,6 +38,8 @@ class Program {
   /// Waits for its own end; the exit status, or -1 after ten seconds.
   int Wait_For_End();
   bool Is_Running() const;
+  /// Waits until a window of this very program has the keys.
+  bool Has_Keys() const;
 
   std::string Folder() const { return folder_.path().toStdString(); }
   std::string Data_File() const { return Folder() + "/dbase/Wine_Cellar.mdb"; }

@@ -1,15 +1,9 @@
 // The fields of the cellar screen: what their lists hold, what a choice brings about, what opens
 // the button, what a text is refused for, and a stored wine on them.
-#include <gmock/gmock.h>
 
-#include "platform/forms/Screens.h"
-#include "platform/run_time/Conversions.h"
-#include "tests/cellar/Cellar_Program.h"
+#include "tests/support/Cellar_Program.h"
 
 namespace {
-
-using testing::ElementsAre;
-using Texts = std::vector<Text>;
 
 constexpr const char* grapes = "Variety_Combo";
 constexpr const char* bottles = "Total_Bottles_Text";
@@ -18,7 +12,7 @@ class Fields : public Cellar_Program {
  protected:
   // The entries that are no rows, then the stored ones.
   Texts List_of(Texts first, const Text& select) const {
-    for (const Text& row : Stored("SELECT " + select, 1)) first.push_back(row);
+    for (const Text& row : Stored("SELECT " + select)) first.push_back(row);
     return first;
   }
   // Of the grapes each digit is a row to tick.
@@ -86,7 +80,7 @@ TEST_F(Fields, Country_and_winery_bring_what_belongs_to_them) {
     EXPECT_EQ(Shown_Rows("Classification_Combo"), classifications);
     Texts expected{"New Variety"};
     expected.insert(expected.end(), winery.varieties.begin(), winery.varieties.end());
-    EXPECT_THAT(Shown_Rows(grapes), testing::UnorderedElementsAreArray(expected));
+    EXPECT_THAT(Shown_Rows(grapes), UnorderedElementsAreArray(expected));
   }
 }
 
@@ -158,7 +152,7 @@ TEST_F(Fields, What_is_no_choice_closes_the_button_again) {
     EXPECT_TRUE(Gate_Is_Open()) << field;
     EXPECT_EQ(Color_of(field), "open") << field;
   }
-  EXPECT_THAT(Ticked_Varieties(), ElementsAre(Shown_Rows(grapes)[3]));
+  EXPECT_THAT(Ticked_Rows(grapes), ElementsAre(Shown_Rows(grapes)[3]));
 }
 
 // The last text of each field is one that it takes.
@@ -212,12 +206,12 @@ TEST_F(Fields, A_locked_list_of_grapes_undoes_a_tick_and_an_untick) {
   const Long wine = Put_Wine(Sample_Wine());
   Start_With("Wine_Add");
   Click_Tick(grapes, 1);
-  EXPECT_THAT(Ticked_Varieties(), ElementsAre());
+  EXPECT_THAT(Ticked_Rows(grapes), ElementsAre());
   Click("Exit_Command");
   Pick("Cellar1_View");
   Pick_Wine(wine);
   Click_Tick(grapes, 0);
-  EXPECT_THAT(Ticked_Varieties(), ElementsAre(Sample().varieties[0]));
+  EXPECT_THAT(Ticked_Rows(grapes), ElementsAre(Sample().varieties[0]));
 }
 
 TEST_F(Fields, A_stored_wine_shows_the_same_in_every_mode) {
@@ -244,8 +238,8 @@ TEST_F(Fields, A_stored_wine_shows_the_same_in_every_mode) {
                             "12.5", "13.5", "round", " ", To_Text(wine.Last_Date_Uncorked),
                             To_Text(wine.Date_Added)}))
         << entry;
-    EXPECT_THAT(Ticked_Varieties(),
-                testing::UnorderedElementsAre(Sample().varieties[0], Sample().varieties[2]));
+    EXPECT_THAT(Ticked_Rows(grapes),
+                UnorderedElementsAre(Sample().varieties[0], Sample().varieties[2]));
     EXPECT_THAT(Ticked_Boxes(), ElementsAre("Taste_Check_1", "Aroma_Check_7")) << entry;
     Click("Exit_Command");
   }

@@ -1,6 +1,5 @@
 // Whatever a user types on the screen of the cellar gives its message or is stored and shown again;
 // and a long walk of clicks at random ends in nothing but the failures that are known.
-#include <gmock/gmock.h>
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -11,15 +10,9 @@
 #include <random>
 #include <set>
 
-#include "core/Globals.h"
-#include "platform/forms/Forms.h"
-#include "platform/forms/Screens.h"
-#include "tests/cellar/Cellar_Program.h"
+#include "tests/support/Cellar_Program.h"
 
 namespace {
-
-using testing::IsEmpty;
-using Lines = std::vector<std::string>;
 
 constexpr const char* button = "Multi_Functional_Command";
 
@@ -35,7 +28,7 @@ void Paste_Into(const std::string& field, const Text& text) {
   Press("Ctrl+V");
 }
 
-class Cellar_Fuzz : public Cellar_Program {};
+using Cellar_Fuzz = Cellar_Program;
 
 struct Number {
   Text text;
@@ -72,7 +65,7 @@ TEST_F(Cellar_Fuzz, A_number_gives_its_message_or_is_stored_and_shown_again) {
       {'B', "Total_Bottles_Text"}, {'P', "Price_Text"}, {'A', "Alcohol_Text"}};
   for (std::size_t count = 0; count < numbers.size(); ++count) Put_Wine(Sample_Wine());
   for (const bool restarted : {false, true}) {
-    Restart();
+    Start();
     Pick("Wine_Mod");
     for (std::size_t place = 0; place < numbers.size(); ++place) {
       const Number& number = numbers[place];
@@ -103,7 +96,7 @@ TEST_F(Cellar_Fuzz, A_number_gives_its_message_or_is_stored_and_shown_again) {
 }
 
 TEST_F(Cellar_Fuzz, A_date_gives_its_message_or_passes) {
-  const std::map<Text, Lines> dates{
+  const std::map<Text, Texts> dates{
       {"", {"", "  ", "6/15/2026 14:30:05", "2020-02-29", "1/1/2006"}},
       {"This date is in the FUTURE !!!", {"6/15/2026 14:30:06", "6/16/2026"}},
       {"This date is TOO far into the PAST !!!", {"12/31/2005", "1/1/0100"}},
@@ -113,7 +106,7 @@ TEST_F(Cellar_Fuzz, A_date_gives_its_message_or_passes) {
         Repeated("1/", 30'000)}}};
   Put_Wine(Sample_Wine());
   for (const bool add : {true, false}) {
-    Restart();
+    Start();
     Pick(add ? "Wine_Add" : "Wine_Mod");
     add ? Choose_Winery() : Pick_Wine(1);
     for (const char* field : {"Date_Added_Text", "Last_Date_Uncorked_Text"}) {
@@ -122,7 +115,7 @@ TEST_F(Cellar_Fuzz, A_date_gives_its_message_or_passes) {
           const Box_Script boxes;
           Paste_Into(field, text);
           Press("Tab");
-          EXPECT_EQ(boxes.Texts(), fault.empty() ? Lines{} : Lines{fault}) << text.substr(0, 40);
+          EXPECT_EQ(boxes.Texts(), fault.empty() ? Texts{} : Texts{fault}) << text.substr(0, 40);
           EXPECT_EQ(Focused() == field, !fault.empty()) << text.substr(0, 40);
           Paste_Into(field, "");
         }
@@ -132,7 +125,7 @@ TEST_F(Cellar_Fuzz, A_date_gives_its_message_or_passes) {
 }
 
 TEST_F(Cellar_Fuzz, A_text_is_stored_to_the_letter_and_shown_again) {
-  const Lines texts{"It's \"x\"; -- ' OR 1=1",
+  const Texts texts{"It's \"x\"; -- ' OR 1=1",
                     "first\r\nsecond\r\n\r\n fourth ",
                     "🍷👨‍👩‍👧 \u202eabc\u202c שלום مرحبا",
                     "à la fin\u00a0: 12\u202f%",
@@ -147,7 +140,7 @@ TEST_F(Cellar_Fuzz, A_text_is_stored_to_the_letter_and_shown_again) {
     if (place + 1 < texts.size()) {
       Pick_Wine(static_cast<Long>(place + 1));
     } else {
-      Restart();
+      Start();
       Pick("Wine_Add");
       Fill_Add();
     }
@@ -158,12 +151,11 @@ TEST_F(Cellar_Fuzz, A_text_is_stored_to_the_letter_and_shown_again) {
   }
   const auto stored = [this](const char* field) {
     return Stored("SELECT English FROM Wines w JOIN Words_for_Data t ON t.Multi_Language_ID = w." +
-                      Text(field) + " ORDER BY w.Wine_ID",
-                  1);
+                  Text(field) + " ORDER BY w.Wine_ID");
   };
   EXPECT_TRUE(stored("Description") == texts);
-  EXPECT_TRUE(stored("Comments") == Lines(texts.rbegin(), texts.rend()));
-  Restart();
+  EXPECT_TRUE(stored("Comments") == Texts(texts.rbegin(), texts.rend()));
+  Start();
   Pick("Cellar1_View");
   for (std::size_t place = 0; place < texts.size(); ++place) {
     Pick_Wine(static_cast<Long>(place + 1));
@@ -186,7 +178,7 @@ class Cellar_Walk : public Cellar_Program {
     if (Is_Seen("Wine_Cellar_Form")) {
       Begin();
     } else if (kept_in_field) {
-      Paste_Into(Focused(), One_of(Lines{"", "", "6"}));
+      Paste_Into(Focused(), One_of(Texts{"", "", "6"}));
     } else if (const int choice = Random(10); choice < 2 && Is_Usable(button)) {
       Click(button);
     } else if (choice < 3) {
@@ -194,7 +186,7 @@ class Cellar_Walk : public Cellar_Program {
     } else if (choice < 5 && Current_Command != "WineAdd") {
       Use(Find("Wine_Cellar_ListView"));
     } else if (choice < 6) {
-      Use(Find(One_of(Lines{"Total_Bottles_Text", "Price_Text", "Alcohol_Text"})));
+      Use(Find(One_of(Texts{"Total_Bottles_Text", "Price_Text", "Alcohol_Text"})));
     } else {
       Use(*One_of(Usable_Controls()));
     }
@@ -202,13 +194,13 @@ class Cellar_Walk : public Cellar_Program {
 
  private:
   void Begin() {
-    Pick(One_of(Lines{"Wine_Add", "Wine_Mod", "Wine_Mod", "Wine_Mod", "Wine_Uncork", "Wine_Del",
+    Pick(One_of(Texts{"Wine_Add", "Wine_Mod", "Wine_Mod", "Wine_Mod", "Wine_Uncork", "Wine_Del",
                       "Cellar1_View", "Cellar2_View"}));
     if (Current_Command != "WineAdd" || !Is_Seen("Wine_Form")) return;
     const int winery = Random(2);
     const Text& label = Sample(winery).label;
-    Fill_Add({One_of(Lines{"No Label", label, label, label}),
-              One_of(Lines{"NO Classification", Sample(winery).classification}),
+    Fill_Add({One_of(Texts{"No Label", label, label, label}),
+              One_of(Texts{"NO Classification", Sample(winery).classification}),
               {1, 2}},
              winery);
   }
@@ -228,7 +220,7 @@ class Cellar_Walk : public Cellar_Program {
     const std::string name = control.objectName().toStdString();
     if (qobject_cast<QComboBox*>(&control) != nullptr) {
       control.setFocus();
-      Press(One_of(Lines{"Down", "Up", "End", "Home", "PgDown", "S"}));
+      Press(One_of(Texts{"Down", "Up", "End", "Home", "PgDown", "S"}));
     } else if (const auto* list = qobject_cast<QAbstractItemView*>(&control)) {
       const auto rows = static_cast<std::size_t>(list->model()->rowCount());
       if (name == "Wine_Cellar_ListView" && Random(8) == 0) {
@@ -237,7 +229,7 @@ class Cellar_Walk : public Cellar_Program {
         name == "Variety_Combo" ? Click_Tick(name, Random(rows)) : Click_Row(name, Random(rows));
       }
     } else if (name.ends_with("_Text")) {
-      Paste_Into(name, One_of(Lines{"", " ", "7", "8", "12.5", "-1", "abc", "40000", "x",
+      Paste_Into(name, One_of(Texts{"", " ", "7", "8", "12.5", "-1", "abc", "40000", "x",
                                     "1/1/2020", "It's", "🍷", "1e400"}));
     } else {
       Click(name);
@@ -276,18 +268,17 @@ TEST_F(Cellar_Walk, Ends_in_known_failures_alone_and_leaves_every_wine_whole) {
     if (!end->Ended()) continue;
     ends.insert(Current_Command + boxes.Texts().back().substr(14, 7));
     end = nullptr;
-    Restart();
+    Start();
     end = std::make_unique<End_Watch>();
   }
   EXPECT_THAT(ends, testing::IsSubsetOf({"WineMod '380':", "WineMod '3020'", "WineMod '3021'"}));
   EXPECT_GT(count(), 0);
-  EXPECT_EQ(static_cast<long>(Stored("SELECT Wine_ID FROM Wines", 1).size()), 6 + added - removed);
+  EXPECT_EQ(static_cast<long>(Stored("SELECT Wine_ID FROM Wines").size()), 6 + added - removed);
   EXPECT_THAT(Stored("SELECT Wine_ID FROM Wines w WHERE Winery_ID NOT IN (SELECT Winery_ID FROM "
                      "Wineries) OR Vintage NOT BETWEEN 1977 AND 2026 OR Peak NOT BETWEEN Vintage "
                      "AND Vintage + 15 OR Total_Bottles < 0 OR Bottle_Size = 'x' OR Color = 'x' "
                      "OR Clasification = 'x' OR (Wine_ID > 1 AND (Variety IN ('', 'x') OR "
-                     "Wine_ID NOT IN (SELECT Wine_ID FROM Varieties_of_Wines)))",
-                     1),
+                     "Wine_ID NOT IN (SELECT Wine_ID FROM Varieties_of_Wines)))"),
               IsEmpty());
 }
 

@@ -1,17 +1,8 @@
 // The list of the cellar: its columns, its order, and the wine that a pick means.
-#include <gmock/gmock.h>
 
-#include "core/Globals.h"
-#include "platform/forms/Forms.h"
-#include "platform/forms/Screens.h"
-#include "platform/record_store/Text_Order.h"
-#include "tests/cellar/Cellar_Program.h"
+#include "tests/support/Cellar_Program.h"
 
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
-using Texts = std::vector<Text>;
 
 constexpr const char* list = "Wine_Cellar_ListView";
 constexpr int stock = 8;
@@ -19,15 +10,7 @@ constexpr int id = 9;
 
 class Cellar_List : public Cellar_Program {
  protected:
-  static Texts Column(int column) {
-    Texts cells;
-    for (const Text& row : Shown_Rows(list)) {
-      std::size_t begin = 0;
-      for (int skipped = 0; skipped < column; ++skipped) begin = row.find(" | ", begin) + 3;
-      cells.push_back(row.substr(begin, row.find(" | ", begin) - begin));
-    }
-    return cells;
-  }
+  static Texts Column(int column) { return Shown_Column(list, static_cast<std::size_t>(column)); }
   static bool Something_Is_Selected() {
     return Forms::Screen("Wine_Form").Get<Forms::List_View>(list).Has_Selection();
   }
@@ -53,11 +36,16 @@ class Cellar_List : public Cellar_Program {
 };
 
 TEST_F(Cellar_List, A_row_tells_the_wine_and_each_cellar_has_its_own) {
+  Start_With("Cellar1_View");
+  EXPECT_THAT(Shown_Rows(list), IsEmpty());
+  Click("Exit_Command");
   Put_Three_Wines();
+  Pick("Cellar2_View");
+  EXPECT_THAT(Shown_Rows(list), IsEmpty());
+  Click("Exit_Command");
   Wines_Record other = Sample_Wine(1);
   other.Cellar_ID = 2;
   Put_Wine(other);
-  Start();
   const auto row = [this](int winery, const Text& vintage, const Text& label, const Text& rest) {
     return vintage + " | " + Sample(winery).name + " | " + label + " | " + Sample(winery).region +
            " | " + rest;
@@ -80,29 +68,14 @@ TEST_F(Cellar_List, A_row_tells_the_wine_and_each_cellar_has_its_own) {
   EXPECT_THAT(Shown_Rows(list), ElementsAre(row(1, "2016", Sample(1).label, rest(1, "4"))));
 }
 
-TEST_F(Cellar_List, An_empty_table_and_an_empty_cellar_show_nothing) {
-  Start_With("Cellar1_View");
-  EXPECT_THAT(Shown_Rows(list), IsEmpty());
-  Click("Exit_Command");
-  Put_Wine(Sample_Wine());
-  Pick("Cellar2_View");
-  EXPECT_THAT(Shown_Rows(list), IsEmpty());
-}
-
 TEST_F(Cellar_List, Headers_sort_by_text_and_turn_the_order_at_each_click) {
   Put_Three_Wines();
   Start_With("Cellar1_View");
-  const auto sorted = [](int column, bool descending) {
-    const Texts cells = Column(column);
-    return std::is_sorted(cells.begin(), cells.end(), [&](const Text& a, const Text& b) {
-      return descending ? Compare_Texts(a, b) > 0 : Compare_Texts(a, b) < 0;
-    });
-  };
   bool descending = false;
   for (const int column : {0, 1, 2, 3, 4, 5, 6, 7, stock, 4, 4}) {
     Click_Header(list, column);
     descending = !descending;
-    EXPECT_TRUE(sorted(column, descending)) << column;
+    EXPECT_TRUE(Is_Sorted(Column(column), descending)) << column;
   }
   Click_Header(list, stock);
   EXPECT_THAT(Column(stock), ElementsAre("0", "10", "3"));
@@ -141,7 +114,7 @@ TEST_F(Cellar_List, A_requested_wine_is_found_by_its_number_alone) {
                                           {"2016", "New Winery"},
                                           {"", "New Winery"}}) {
     Requested_Wine_Text = requested;
-    Open_Under("CheeseParingsCellar");
+    Open_Under("Wine_Form", "CheeseParingsCellar");
     EXPECT_EQ(Shown_Text("Winery_Combo"), winery) << requested;
     EXPECT_EQ(Something_Is_Selected(), winery != "New Winery") << requested;
   }
@@ -157,23 +130,14 @@ TEST_F(Cellar_List, A_wine_number_beyond_16_bits_and_a_winery_that_has_gone_end_
     }
   });
   Start_With("Cellar1_View");
-  Box_Script boxes;
   Pick_Wine(32767);
   EXPECT_EQ(Shown_Text("Winery_Combo"), Sample().name);
-  {
-    const End_Watch end;
-    Pick_Wine(32768);
-    EXPECT_EQ(end.Status(), 1);
-  }
+  Expect_End(6, [] { Pick_Wine(32768); });
   Wines_Record wine = Sample_Wine();
   wine.Winery_ID = 999999;
   Put_Wine(wine);
-  Restart();
-  const End_Watch end;
-  Pick("Cellar1_View");
-  EXPECT_EQ(end.Status(), 1);
-  EXPECT_THAT(boxes.Texts(), ElementsAre("Run-time error '6':\n\nOverflow",
-                                         "Run-time error '3021':\n\nNo current record."));
+  Start();
+  Expect_End(3021, [] { Pick("Cellar1_View"); });
 }
 
 }  // namespace

@@ -1,16 +1,11 @@
 // What the screen shows and allows in each of its modes: from its opening over the choice or the
 // pick to the button, to other screens and back.
-#include <gmock/gmock.h>
 
 #include <functional>
 
-#include "core/Globals.h"
-#include "core/tables/Geography_Tables.h"
 #include "links/Varieties_Processes.h"
-#include "platform/forms/Forms.h"
-#include "platform/forms/Screens.h"
 #include "platform/run_time/Guard.h"
-#include "tests/cellar/Cellar_Program.h"
+#include "tests/support/Cellar_Program.h"
 
 namespace {
 
@@ -87,22 +82,6 @@ class Modes : public Cellar_Program {
     Run_Guarded([] { screen.Show(); });
     Settle_Events();
   }
-
-  // Stands where another screen will stand.
-  void Stand_In(const Text& name) {
-    class Empty_Form : public Forms::Form {
-     public:
-      explicit Empty_Form(const Text& form) : Form(form, form) { Set_Content(Forms::Stretch()); }
-    };
-    Forms::Screens::Register(name, [name] { return std::make_unique<Empty_Form>(name); });
-    stand_ins_.push_back(name);
-  }
-  ~Modes() override {
-    for (const Text& name : stand_ins_) Forms::Screens::Register(name, nullptr);
-  }
-
- private:
-  std::vector<Text> stand_ins_;
 };
 
 TEST_F(Modes, Adding) {
@@ -151,7 +130,7 @@ TEST_F(Modes, Modifying) {
                                    {Wine(wines[0]), picked + "....P; "},
                                    {Wine(wines[1]), picked + "....P; "}});
   EXPECT_EQ(Shown_Text("Pairings_Add_Command"), "Modify Pairing");
-  EXPECT_EQ(boxes.Texts(), std::vector<Text>{"Wine information was Modified."});
+  EXPECT_EQ(boxes.Texts(), Texts{"Wine information was Modified."});
 }
 
 TEST_F(Modes, Looking) {
@@ -171,7 +150,7 @@ TEST_F(Modes, Looking) {
 
   Stand_In("Cheeses_Form");
   Requested_Wine_Text = std::to_string(wines[1]);
-  Walk(caption, {{[] { Open_Under("CheeseParingsCellar"); }, look}});
+  Walk(caption, {{[] { Open_Under("Wine_Form", "CheeseParingsCellar"); }, look}});
   EXPECT_EQ(Shown_Text("Winery_Combo"), Sample(1).name);
   Click("Exit_Command");
   EXPECT_TRUE(Is_Seen("Cheeses_Form"));
@@ -258,7 +237,7 @@ TEST_F(Modes, Chosen_pairings_are_taken_over_once) {
     for (int visit = 0; visit < 2; ++visit) {
       screen.Control("Pairings_Add_Command").Set_Tag("1");
       Activate();
-      EXPECT_EQ(Shown_Rows("Pairing_List"), (std::vector<Text>{"food 1", "food 2"}));
+      EXPECT_EQ(Shown_Rows("Pairing_List"), (Texts{"food 1", "food 2"}));
       EXPECT_EQ(Tag_of("Pairings_Add_Command"), "0");
     }
     EXPECT_EQ(Shown_Rows("Pairing_Index_List").size(), keys) << entry;

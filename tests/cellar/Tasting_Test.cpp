@@ -1,15 +1,12 @@
 // The boxes of taste and aroma: how many a colour offers, which exclude each other, what a click
 // means for what is stored, and the marks of a stored wine.
-#include <gmock/gmock.h>
 
 #include <set>
 
-#include "tests/cellar/Cellar_Program.h"
+#include "tests/support/Cellar_Program.h"
 
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using Boxes = std::vector<int>;
 
 Text Taste(int box) { return "Taste_Check_" + std::to_string(box); }
@@ -24,13 +21,9 @@ class Tasting : public Cellar_Program {
   }
   // Of a colour the file then offers only so many marks of each kind.
   void Keep_Marks_of(const Text& color, int taste, int aroma) const {
-    Change([&](Record_Store::Database& file) {
-      Record_Store::Recordset rows = file.OpenRecordset("Wine_Taste_Type");
-      for (; !rows.Eof(); rows.MoveNext()) {
-        if (rows.Fields("Color").As_Text() != color) continue;
-        int& left = rows.Fields("Type").As_Text() == "Taste" ? taste : aroma;
-        if (--left < 0) rows.Delete();
-      }
+    Remove_Rows("Wine_Taste_Type", [&](const Record_Store::Recordset& row) {
+      if (row.Fields("Color").As_Text() != color) return false;
+      return --(row.Fields("Type").As_Text() == "Taste" ? taste : aroma) < 0;
     });
   }
 };
@@ -84,15 +77,14 @@ TEST_F(Tasting, What_was_clicked_is_stored_and_a_click_that_clears_counts_as_wel
   for (const Clicks& way : ways) {
     Fill_Add({.color = way.color});
     for (const int box : way.clicked) Click(Taste(box));
-    std::vector<Text> ticked, stored;
+    Texts ticked, stored;
     for (const int box : way.ticked) ticked.push_back(Taste(box));
     for (const int box : way.stored) stored.push_back(std::to_string(box));
     EXPECT_EQ(Ticked_Boxes(), ticked) << way.color;
     Click("Multi_Functional_Command");
     EXPECT_EQ(
         Stored("SELECT Description FROM Wine_Tasting WHERE Type_Taste = 'Taste' AND Wine_ID = " +
-                   std::to_string(++wine) + " AND Cellar_Wine ORDER BY Description",
-               1),
+               std::to_string(++wine) + " AND Cellar_Wine ORDER BY Description"),
         stored)
         << way.color;
   }
@@ -111,11 +103,7 @@ TEST_F(Tasting, A_color_offers_as_many_boxes_as_the_file_has_rows_of_it_and_none
     for (const char* box : {"Taste_Check_1", "Aroma_Check_0", "Aroma_Check_2"}) Click(box);
     EXPECT_THAT(Ticked_Boxes(), ElementsAre("Taste_Check_1", "Aroma_Check_0", "Aroma_Check_2"));
   }
-  End_Watch end;
-  Box_Script boxes;
-  Choose("Color_Combo", "Rosé");
-  EXPECT_EQ(end.Status(), 1);
-  EXPECT_THAT(boxes.Texts(), ElementsAre("Run-time error '3021':\n\nNo current record."));
+  Expect_End(3021, [] { Choose("Color_Combo", "Rosé"); });
 }
 
 TEST_F(Tasting, Marks_of_a_wine_are_shown_and_locked_boxes_stay_as_they_are) {
@@ -124,7 +112,7 @@ TEST_F(Tasting, Marks_of_a_wine_are_shown_and_locked_boxes_stay_as_they_are) {
   Put_Mark(wine, "Odour", 3);
   Put_Mark(wine + 1, "Taste", 4);
   Put_Mark(wine, "Aroma", 0, false);  // of a general wine with the same number
-  const std::vector<Text> shown{"Taste_Check_2", "Aroma_Check_0"};
+  const Texts shown{"Taste_Check_2", "Aroma_Check_0"};
   Start();
   for (const char* entry : {"Cellar1_View", "Wine_Uncork", "Wine_Del"}) {
     Pick(entry);

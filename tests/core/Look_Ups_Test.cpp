@@ -1,25 +1,32 @@
 // The lists of start-up, the look-ups between names, and the ordered queries.
-#include <gmock/gmock.h>
 
 #include "core/Gereral_Processes.h"
-#include "core/Globals.h"
-#include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "platform/forms/Application.h"
-#include "platform/record_store/Text_Order.h"
-#include "tests/support/Expect_Failure.h"
 #include "tests/support/Program_Folder.h"
 
 namespace {
-
-using testing::ElementsAre;
 
 class Look_Ups : public Program_Folder {
  protected:
   void SetUp() override { Start(); }
 
-  static std::vector<std::string> Column(Record_Store::Recordset& rows, const char* field) {
-    std::vector<std::string> texts;
+  /// Rows with "1" in every other field that can hold it.
+  void Add_Rows(const char* table, const char* field, const Texts& values) const {
+    Change([&](Record_Store::Database& file) {
+      Record_Store::Recordset rows = file.OpenRecordset(table);
+      for (const Text& value : values) {
+        rows.AddNew();
+        for (int at = 0; at < rows.Field_Count(); ++at) {
+          if (rows.Fields(at).Is_Null()) rows.Fields(at) = "1";
+        }
+        rows.Fields(field) = value;
+        rows.Update();
+      }
+    });
+  }
+  static Texts Column(Record_Store::Recordset& rows, const char* field) {
+    Texts texts;
     for (; !rows.Eof(); rows.MoveNext()) texts.push_back(rows.Fields(field).As_Text());
     return texts;
   }
@@ -32,7 +39,7 @@ TEST_F(Look_Ups, The_lists_are_filled_from_entry_1) {
   EXPECT_FAILURE(9, Bottle_Sizes[15]);
   EXPECT_EQ(Cheese_Types_Count, 10);
   EXPECT_EQ(Milk_Types_Count, 6);
-  const auto names = Stored("SELECT Long_Name FROM World_Contries ORDER BY Long_Name", 1);
+  const auto names = Stored("SELECT Long_Name FROM World_Contries ORDER BY Long_Name");
   ASSERT_EQ(static_cast<std::size_t>(Countries_Count), names.size());
   for (int entry = 1; entry <= Countries_Count; ++entry) {
     ASSERT_EQ(Countries[entry].Long_Name, names[static_cast<std::size_t>(entry) - 1]);
@@ -47,22 +54,11 @@ TEST_F(Look_Ups, The_tenth_cheese_type_is_empty_until_the_words_are_read) {
 }
 
 TEST_F(Look_Ups, Countries_of_wines_stand_once_and_countries_of_cheeses_once_a_run) {
-  Stop();
-  Change([](Record_Store::Database& file) {
-    for (const auto& [table, field] :
-         {std::pair{"Mobile_Wines", "Mobile_Wine_Country"}, {"Cheeses", "Cheese_Country"}}) {
-      Record_Store::Recordset rows = file.OpenRecordset(table);
-      for (; !rows.Eof(); rows.MoveNext()) rows.Delete();
-      for (const char* country : {"FRA", "FRA", "ITA", "FRA"}) {
-        rows.AddNew();
-        for (int at = 0; at < rows.Field_Count(); ++at) {
-          if (rows.Fields(at).Is_Null()) rows.Fields(at) = "1";
-        }
-        rows.Fields(field) = country;
-        rows.Update();
-      }
-    }
-  });
+  for (const auto& [table, field] :
+       {std::pair{"Mobile_Wines", "Mobile_Wine_Country"}, {"Cheeses", "Cheese_Country"}}) {
+    Remove_Rows(table);
+    Add_Rows(table, field, {"FRA", "FRA", "ITA", "FRA"});
+  }
   Start();
   EXPECT_EQ(Mobile_Countries_Count, 2);
   EXPECT_EQ(Mobile_Countries[2], "ITA");
@@ -71,14 +67,7 @@ TEST_F(Look_Ups, Countries_of_wines_stand_once_and_countries_of_cheeses_once_a_r
 }
 
 TEST_F(Look_Ups, More_than_200_countries_are_a_subscript_failure) {
-  Change([](Record_Store::Database& file) {
-    Record_Store::Recordset rows = file.OpenRecordset("World_Contries");
-    while (rows.RecordCount() <= 200) {
-      rows.AddNew();
-      for (int at = 0; at < rows.Field_Count(); ++at) rows.Fields(at) = "1";
-      rows.Update();
-    }
-  });
+  Add_Rows("World_Contries", "Short_Name", Texts(200, "ZZZ"));
   EXPECT_FAILURE(9, Load_Countries());
 }
 
@@ -129,8 +118,7 @@ TEST_F(Look_Ups, Ordered_queries) {
   Open_Regions_Of_Country("fra");
   const auto regions = Column(Regions_Query, "Region_Name");
   EXPECT_GT(regions.size(), 5U);
-  EXPECT_TRUE(std::is_sorted(regions.begin(), regions.end(),
-                             [](const Text& a, const Text& b) { return Compare_Texts(a, b) < 0; }));
+  EXPECT_TRUE(Is_Sorted(regions));
   Open_Regions_Of_Country("");
   EXPECT_TRUE(Regions_Query.Eof());
   EXPECT_FAILURE(3075, Open_Regions_Of_Country("CÔTE D'IVOIRE"));
@@ -147,10 +135,8 @@ TEST_F(Look_Ups, Countries_are_sorted_by_their_name_in_the_language) {
                            "Italian",   "Japanese",     "Portuguese"};
   for (System_Language = 3; System_Language <= 9; ++System_Language) {
     Open_World_Contries_Sorted();
-    const auto names = Column(World_Contries_Query, columns[System_Language - 3]);
-    EXPECT_TRUE(std::is_sorted(names.begin(), names.end(), [](const Text& a, const Text& b) {
-      return Compare_Texts(a, b) < 0;
-    })) << System_Language;
+    EXPECT_TRUE(Is_Sorted(Column(World_Contries_Query, columns[System_Language - 3])))
+        << System_Language;
   }
   System_Language = 2;
   Open_World_Contries_Sorted();

@@ -1,5 +1,4 @@
 // Start-up: languages, versions, what cannot be started on.
-#include <gmock/gmock.h>
 
 #include <QIcon>
 #include <QImage>
@@ -8,17 +7,11 @@
 #include <fstream>
 
 #include "core/Gereral_Processes.h"
-#include "core/Globals.h"
 #include "core/MultiLanguage_Processes.h"
-#include "core/tables/Catalogue.h"
-#include "platform/forms/Screens.h"
-#include "tests/support/Drive.h"
-#include "tests/support/Expect_Failure.h"
 #include "tests/support/Program_Folder.h"
 
 namespace {
 
-using testing::ElementsAre;
 using testing::EndsWith;
 
 class Start_Up : public Program_Folder {};
@@ -28,24 +21,20 @@ TEST_F(Start_Up, The_main_window_is_in_front_in_every_language) {
                            "Italian", "Japanese", "Portuguese"};
   for (Integer language = 3; language <= 9; ++language) {
     Set_Language(language);
-    Restart();
+    Start();
     ASSERT_TRUE(Is_Seen("Wine_Cellar_Form")) << language;
     const std::string column = columns[language - 3];
     const auto rows = Stored("SELECT Variable, types_variable, " + column +
-                                 " FROM Words WHERE Program='Wine_Cellar_Form' ORDER BY ID",
-                             3);
-    std::vector<std::string> words;
-    for (const std::string& row : rows) {
-      const auto first = row.find('|');
-      const auto second = row.find('|', first + 1);
-      const std::string text = row.substr(second + 1);
-      const std::string type = row.substr(first + 1, second - first - 1);
+                             " FROM Words WHERE Program='Wine_Cellar_Form' ORDER BY ID");
+    Texts words;
+    for (const Text& row : rows) {
+      const Texts part = Cells_of(row);
+      const Text &control = part[0], &type = part[1], &text = part[2];
       if (type == "Head") words.push_back(text);
       if (type == "Frm") {
         EXPECT_EQ(Shown_Text("Wine_Cellar_Form"), text);
       }
       if (type == "Cap") {
-        const std::string control = row.substr(0, first);
         EXPECT_EQ(Forms::Screen("Wine_Cellar_Form").Control(control).Caption(), text) << control;
       }
     }
@@ -58,10 +47,8 @@ TEST_F(Start_Up, The_main_window_is_in_front_in_every_language) {
     EXPECT_EQ(Shown_Text("Version_Label"), "V 1.0");
     EXPECT_FALSE(Is_Seen("Wait_Label"));
     EXPECT_EQ(Find("Wine_Cellar_Form").width(),
-              std::stoi(Stored("SELECT Width_Main FROM Languages_Available WHERE Language_Number=" +
-                                   std::to_string(language),
-                               1)
-                            .at(0)));
+              std::stoi(One("SELECT Width_Main FROM Languages_Available WHERE Language_Number=" +
+                            std::to_string(language))));
   }
 }
 
@@ -92,14 +79,13 @@ TEST_F(Start_Up, Without_a_sound_data_file_the_run_ends_with_one_message) {
   struct Case {
     const char* what;
     std::function<void(const std::string&)> harm;
-    const char* number;
+    int number;
   };
   const std::vector<Case> cases{
-      {"missing", [](const std::string& file) { std::filesystem::remove(file); }, "3024"},
-      {"cut off", [](const std::string& file) { std::filesystem::resize_file(file, 40960); },
-       "3343"},
+      {"missing", [](const std::string& file) { std::filesystem::remove(file); }, 3024},
+      {"cut off", [](const std::string& file) { std::filesystem::resize_file(file, 40960); }, 3343},
       {"plain", [](const std::string& file) { std::ofstream(file) << "not a data file at all\n"; },
-       "3343"},
+       3343},
   };
   const std::string whole = Folder() + "/whole";
   std::filesystem::copy_file(Data_File(), whole);
@@ -107,21 +93,15 @@ TEST_F(Start_Up, Without_a_sound_data_file_the_run_ends_with_one_message) {
     std::filesystem::copy_file(whole, Data_File(),
                                std::filesystem::copy_options::overwrite_existing);
     given.harm(Data_File());
-    End_Watch end;
-    Box_Script boxes;
-    Start();
-    EXPECT_EQ(end.Status(), 1) << given.what;
-    ASSERT_EQ(boxes.Boxes().size(), 1U) << given.what;
-    EXPECT_EQ(boxes.Boxes()[0].title, "Wine Cellar");
-    EXPECT_THAT(boxes.Boxes()[0].text,
-                testing::StartsWith("Run-time error '" + std::string(given.number) + "':"));
+    SCOPED_TRACE(given.what);
+    Expect_End(given.number, [this] { Start(); });
     Stop();
   }
 }
 
 TEST_F(Start_Up, The_exit_entry_and_the_frame_end_the_run_at_once) {
   for (const bool by_frame : {false, true}) {
-    Restart();
+    Start();
     End_Watch end;
     Box_Script boxes;
     by_frame ? Close_Window("Wine_Cellar_Form") : Pick("Wine_Cellar_Exit");
@@ -139,35 +119,20 @@ TEST_F(Start_Up, The_esc_key_does_not_end_the_run) {
 }
 
 TEST_F(Start_Up, More_than_one_cellar_by_the_settings_speaks_in_the_title) {
-  Change([](Record_Store::Database& file) {
-    Record_Store::Recordset system = file.OpenRecordset("Wine_System");
-    system.Edit();
-    system.Fields("Number_of_Cellars") = 2;
-    system.Update();
-  });
+  Set("Wine_System", {{"Number_of_Cellars", 2}});
   Start();
   EXPECT_EQ(Shown_Text("Wine_Cellar_Form"), "My Current Cellar: x");
 }
 
 TEST_F(Start_Up, A_part_of_another_product_is_set_up_before_the_main_window_shows) {
-  class Set_Up_Screen : public Forms::Form {
-   public:
-    Set_Up_Screen() : Form("Initialize_Form", "Set-up") { Set_Content(Forms::Stretch()); }
-  };
-  Forms::Screens::Register<Set_Up_Screen>("Initialize_Form");
-  Change([](Record_Store::Database& file) {
-    Record_Store::Recordset system = file.OpenRecordset("Wine_System");
-    system.Edit();
-    system.Fields("Wine_Cellar_as_Option") = true;
-    system.Update();
-  });
+  Stand_In("Initialize_Form");
+  Set("Wine_System", {{"Wine_Cellar_as_Option", "True"}});
   Start();
   EXPECT_TRUE(First_Run);
   EXPECT_TRUE(Is_Seen("Initialize_Form"));
   EXPECT_FALSE(Is_Seen("Wine_Cellar_Form"));
   Close_Window("Initialize_Form");
   EXPECT_TRUE(Is_Seen("Wine_Cellar_Form"));
-  Forms::Screens::Register("Initialize_Form", nullptr);
 }
 
 class Words : public Program_Folder {
@@ -180,17 +145,9 @@ class Words : public Program_Folder {
   };
 
   void Add_Rows(int count, const char* variable, const char* type, bool with_text = true) const {
-    Change([=](Record_Store::Database& file) {
-      Record_Store::Recordset words = file.OpenRecordset("Words");
-      for (int row = 0; row < count; ++row) {
-        words.AddNew();
-        words.Fields("Program") = "Small_Form";
-        words.Fields("Variable") = variable;
-        words.Fields("types_variable") = type;
-        if (with_text) words.Fields("English") = "word";
-        words.Update();
-      }
-    });
+    Row words{{"Program", "Small_Form"}, {"Variable", variable}, {"types_variable", type}};
+    if (with_text) words.emplace_back("English", "word");
+    for (int row = 0; row < count; ++row) Put("Words", words);
   }
 };
 
@@ -233,19 +190,18 @@ TEST_F(Words, Without_a_text_in_the_language_fail) {
 }
 
 TEST_F(Words, Languages_are_known_by_name_in_any_case_and_by_number) {
-  for (const auto& [name, number] : std::vector<std::pair<const char*, int>>{{"English", 3},
-                                                                             {"INGLES", 3},
-                                                                             {"español", 4},
-                                                                             {"Spanish", 4},
-                                                                             {"french", 5},
-                                                                             {"German", 6},
-                                                                             {"Italian", 7},
-                                                                             {"jaPANese", 8},
-                                                                             {"Portuguese", 9},
-                                                                             {"Français", 3},
-                                                                             {"", 3}}) {
-    Wine_System.Language_Name_of_Product = name;
-    EXPECT_EQ(Language_Number_From_Name(), number) << name;
+  const char* names[] = {"English INGLES Français x",
+                         "español Spanish",
+                         "french",
+                         "German",
+                         "Italian",
+                         "jaPANese",
+                         "Portuguese"};
+  for (int number = 3; number <= 9; ++number) {
+    for (const Text& name : Cells_of(names[number - 3], " ")) {
+      Wine_System.Language_Name_of_Product = name;
+      EXPECT_EQ(Language_Number_From_Name(), number) << name;
+    }
   }
   EXPECT_EQ(Language_Name_From_Number(4), "SPANISH");
   EXPECT_EQ(Language_Name_From_Number(9), "PORTUGUESE");

@@ -2,22 +2,14 @@
 // a screen, and the reverse tables made anew.
 #include "links/Link_Decoders.h"
 
-#include <gmock/gmock.h>
-
-#include <algorithm>
 #include <bitset>
 #include <random>
 
 #include "core/tables/Mobile_Wines_DB.h"
 #include "links/Link_Store.h"
-#include "platform/forms/Forms.h"
-#include "platform/run_time/Guard.h"
 #include "tests/links/Linked_Rows.h"
-#include "tests/support/Expect_Failure.h"
 
 namespace {
-
-using testing::ElementsAre;
 
 constexpr Long all_ten = 1111111111;
 
@@ -50,21 +42,21 @@ class Link_Decoders : public Linked_Rows {
   static void Link(const Decoder& decoder, Long owner, Long group, Long mask) {
     Add(decoder.table, {{decoder.owner, owner}, {"GROUP", group * 10}, {"SUBCATEGO", mask}});
   }
-  static Lines Decode(const Decoder& decoder, Long owner) {
+  static Texts Decode(const Decoder& decoder, Long owner) {
     decoder.set_owner(owner);
     Open_Table(decoder.rows, decoder.table);
     Open_Table(Maridages_Recordset, "Maridages");
     decoder.load();
-    Lines names;
+    Texts names;
     for (int item = 1; item <= Decoded_Count; ++item) {
       names.push_back(decoder.found[item].Maridage_Name);
     }
     return names;
   }
-  static Lines Decode_IDs_of_Variety(Long variety) {
+  static Texts Decode_IDs_of_Variety(Long variety) {
     Varieties.Variety_ID = variety;
     Load_Maridage_IDs_of_Variety();
-    Lines names;
+    Texts names;
     for (int item = 1; item <= Decoded_Count; ++item) names.push_back(Decoded_Items[item].Name);
     return names;
   }
@@ -76,7 +68,7 @@ TEST_F(Link_Decoders, What_was_stored_comes_back_for_every_set_of_subgroups) {
   for (unsigned set = 1; set < 1024; ++set) {
     const std::bitset<10> bits(set);
     Wines.Wine_ID = static_cast<Long>(40000 + set);
-    Lines names;
+    Texts names;
     Keys chosen;
     for (std::size_t subgroup = 10; subgroup >= 1; --subgroup) {
       if (!bits.test(subgroup - 1)) continue;
@@ -88,7 +80,7 @@ TEST_F(Link_Decoders, What_was_stored_comes_back_for_every_set_of_subgroups) {
     Store_Wine_Maridages();
     ASSERT_EQ(Rows("SELECT \"GROUP\", SUBCATEGO FROM Maridages_Per_Wines WHERE Wine_ID=" +
                    To_Text(Wines.Wine_ID)),
-              Lines{"9000010|" + To_Text(To_Long(bits.to_string()))});
+              Texts{"9000010|" + To_Text(To_Long(bits.to_string()))});
     ASSERT_EQ(Decode(of_wines, Wines.Wine_ID), names) << bits;
   }
 }
@@ -178,29 +170,20 @@ TEST_F(Link_Decoders, Pairing_keys_of_a_variety_pass_over_a_first_row_behind_the
 
 // ---- the lists of a screen ----
 
-class Two_Lists_Form : public Forms::Form {
- public:
-  Two_Lists_Form() : Form("Two_Lists_Form", "Lists") {
-    Set_Content(Forms::Column({Cat_List, Cat_Index_List}));
-  }
-  Forms::List_Box Cat_List{*this, "Cat_List"};
-  Forms::List_Box Cat_Index_List{*this, "Cat_Index_List"};
-};
-
 TEST_F(Link_Decoders, The_lists_show_the_language_in_force_and_the_selection_holds_the_same) {
-  Forms::Screens::Register<Two_Lists_Form>("Two_Lists_Form");
-  Run_Guarded([] { Forms::Screen("Two_Lists_Form").Open(); });
-  auto& form = dynamic_cast<Two_Lists_Form&>(Forms::Screen("Two_Lists_Form").Instance());
+  Stand_In("Two_Lists_Form", {"Cat_List", "Cat_Index_List"});
+  auto& list = Forms::Screen("Two_Lists_Form").Get<Forms::List_Box>("Cat_List");
+  auto& keys_beside = Forms::Screen("Two_Lists_Form").Get<Forms::List_Box>("Cat_Index_List");
   const auto shown = [&] {
-    Lines rows;
-    for (int row = 0; row < form.Cat_List.ListCount(); ++row) {
-      rows.push_back(form.Cat_List.List(row) + "|" + form.Cat_Index_List.List(row));
+    Texts rows;
+    for (int row = 0; row < list.ListCount(); ++row) {
+      rows.push_back(list.List(row) + "|" + keys_beside.List(row));
     }
     for (int item = 1; item <= Selected_Count; ++item) {
       const std::string row = Selected_Names[item] + "|" + Selected_IDs[item];
       EXPECT_EQ(row, rows.at(static_cast<std::size_t>(item) - 1));
     }
-    EXPECT_EQ(Selected_Count, form.Cat_List.ListCount());
+    EXPECT_EQ(Selected_Count, list.ListCount());
     return rows;
   };
   const Keys keys = Add_Full_Group(900001);
@@ -214,9 +197,9 @@ TEST_F(Link_Decoders, The_lists_show_the_language_in_force_and_the_selection_hol
     decoder->set_owner(30001);
     System_Language = 3;
     for (const char letter : std::string("ESFGIJP")) {
-      fill(form.Cat_List, form.Cat_Index_List);
+      fill(list, keys_beside);
       const std::string name = std::string(1, letter) + " 900001.";
-      EXPECT_EQ(shown(), (Lines{name + "6|" + To_Text(keys[5]), name + "2|" + To_Text(keys[1])}));
+      EXPECT_EQ(shown(), (Texts{name + "6|" + To_Text(keys[5]), name + "2|" + To_Text(keys[1])}));
       ++System_Language;
     }
     System_Language = 3;
@@ -225,7 +208,7 @@ TEST_F(Link_Decoders, The_lists_show_the_language_in_force_and_the_selection_hol
     EXPECT_TRUE(decoder != &of_wines || Wine_Has_Maridages());
     decoder->set_owner(30002);
     EXPECT_FALSE(decoder == &of_wines && Wine_Has_Maridages());
-    fill(form.Cat_List, form.Cat_Index_List);
+    fill(list, keys_beside);
     EXPECT_TRUE(shown().empty());
   }
   EXPECT_EQ(Maridages.Cheese_ID, 77) << "the memory record belongs to the builds";
@@ -237,7 +220,7 @@ TEST_F(Link_Decoders, The_lists_show_the_language_in_force_and_the_selection_hol
 TEST_F(Link_Decoders, The_reverse_tables_are_made_anew_from_the_link_rows) {
   Add("Regions_Per_Variety", {{"Variety_ID", 1}, {"Region_ID", 30001}});
   Genera_Regions_Per_Variety();
-  const Lines regions = Rows(
+  const Texts regions = Rows(
       "SELECT l.Region_ID, v.Variety_ID, 0, 0, 'CUS' FROM Varieties_Per_Region l JOIN Varieties v "
       "ON v.Variety_Group = l.\"GROUP\" / 10 AND substr(l.SUBCATEGO, -v.Variety_SubGr, 1) = '1' "
       "ORDER BY l.Region_ID, l.Varieties_Per_Region_ID, v.Variety_SubGr DESC");
@@ -248,7 +231,7 @@ TEST_F(Link_Decoders, The_reverse_tables_are_made_anew_from_the_link_rows) {
   // Subgroup 1, where it is not alone, is what the decoder passes over.
   Add("Varieties_Per_Maridage", {{"Maridage_ID", 1}, {"Variety_ID", 30001}});
   Genera_Varieties_Per_Maridage();
-  const Lines varieties = Rows(
+  const Texts varieties = Rows(
       "SELECT l.Variety_ID, m.Maridage_ID, -1, 0, 'CUS' "
       "FROM Maridages_Per_Variety l JOIN Maridages m "
       "ON m.Maridage_Group = l.\"GROUP\" / 10 AND substr(l.SUBCATEGO, -m.Maridage_SubGr, 1) = '1' "

@@ -2,9 +2,6 @@
 // nothing.
 #include "links/Link_Search.h"
 
-#include <gmock/gmock.h>
-
-#include <algorithm>
 #include <array>
 #include <map>
 #include <random>
@@ -12,12 +9,8 @@
 
 #include "links/Link_Store.h"
 #include "tests/links/Linked_Rows.h"
-#include "tests/support/Drive.h"
-#include "tests/support/Expect_Failure.h"
 
 namespace {
-
-using testing::ElementsAre;
 
 /// A search, the table it looks at and the one that is selected from.
 struct Searched {
@@ -67,8 +60,8 @@ class Link_Search : public Linked_Rows {
     rows.Fields("SUBCATEGO") = mask;
     rows.Update();
   }
-  static Lines Found() {
-    Lines found;
+  static Texts Found() {
+    Texts found;
     for (int item = 1; item <= Found_Count; ++item) found.push_back(Found_IDs[item]);
     return found;
   }
@@ -127,8 +120,8 @@ std::set<Text> Plain_Set(const std::vector<Link_Row>& rows, const std::vector<Ad
 }
 
 // The order: that of the merged groups, which have their own test, and of the rows in each.
-Lines First_Found_Order(const std::vector<Link_Row>& rows) {
-  Lines order;
+Texts First_Found_Order(const std::vector<Link_Row>& rows) {
+  Texts order;
   for (int entry = 1; entry <= Group_Count; ++entry) {
     const Text wanted = To_Text(Group_Masks[entry]);
     for (const Link_Row& row : rows) {
@@ -148,7 +141,7 @@ Lines First_Found_Order(const std::vector<Link_Row>& rows) {
 void Expect_Found(const std::vector<Link_Row>& rows, const std::vector<Address>& selection) {
   const std::set<Text> expected = Plain_Set(rows, selection);
   ASSERT_LE(Found_Count, 100);
-  Lines found;
+  Texts found;
   for (int item = 1; item <= Found_Count; ++item) {
     if (item < 100 || !Found_IDs[item].empty()) found.push_back(Found_IDs[item]);
   }
@@ -161,7 +154,7 @@ void Expect_Found(const std::vector<Link_Row>& rows, const std::vector<Address>&
     EXPECT_TRUE(std::includes(expected.begin(), expected.end(), distinct.begin(), distinct.end()));
     EXPECT_EQ(found.size(), 99U);
   }
-  Lines order = First_Found_Order(rows);
+  Texts order = First_Found_Order(rows);
   order.resize(std::min<std::size_t>(order.size(), 99));
   EXPECT_EQ(found, order);
 }

@@ -2,17 +2,11 @@
 // stands then.
 #include "links/Link_Store.h"
 
-#include <gmock/gmock.h>
-
 #include "links/Link_Builds.h"
 #include "links/Used_Counters.h"
 #include "tests/links/Linked_Rows.h"
-#include "tests/support/Expect_Failure.h"
 
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 const Date fifth_of_march = Date::Of(2024, 3, 5);
 
@@ -64,13 +58,13 @@ class Link_Store : public Linked_Rows {
   static void Link(const Stored_Links& links, Long owner, Long group, Long mask) {
     Add(links.table, {{links.owner, owner}, {"GROUP", group}, {"SUBCATEGO", mask}});
   }
-  static Lines Links_Of(const Stored_Links& links, const Text& owners) {
+  static Texts Links_Of(const Stored_Links& links, const Text& owners) {
     const Text serial = *links.serial == '\0' ? "" : ", SERIAL_NUMBER";
     return Rows("SELECT \"GROUP\", SUBCATEGO" + serial + " FROM " + links.table + " WHERE " +
                 links.owner + " IN (" + owners + ") ORDER BY rowid");
   }
-  static Lines Pairs(const Stored_Links& links) {
-    return *links.pairs == '\0' ? Lines() : Rows(links.pairs + Text(" ORDER BY rowid"));
+  static Texts Pairs(const Stored_Links& links) {
+    return *links.pairs == '\0' ? Texts() : Rows(links.pairs + Text(" ORDER BY rowid"));
   }
   static Text Used_Of(const Stored_Links& links, Long key) {
     const bool pairings = Text(links.items) == "Maridages";
@@ -80,7 +74,7 @@ class Link_Store : public Linked_Rows {
     return Text(links.items) == "Maridages" ? Add_Pairing(group, subgroup, used)
                                             : Add_Variety(group, subgroup, used);
   }
-  static Lines Cheese_Pairs(const char* table, const char* wine_field) {
+  static Texts Cheese_Pairs(const char* table, const char* wine_field) {
     return Rows("SELECT Cheese_ID, " + Text(wine_field) + " FROM " + table +
                 " ORDER BY Cheese_ID, 2");
   }
@@ -97,7 +91,7 @@ TEST_F(Link_Store, Every_store_replaces_the_rows_of_its_owner_and_counts_each_us
     Link(links, 30001, 20, 11);
     Link(links, 30002, 30, 1);
     Link(links, 30001, 40, 1);
-    const Lines others = Links_Of(links, "30000,30002");
+    const Texts others = Links_Of(links, "30000,30002");
     for (const Stored_Links& others_too : all_stores) others_too.set_owner(30000);
     links.set_owner(30001);
     Select({first, second, third});
@@ -105,20 +99,20 @@ TEST_F(Link_Store, Every_store_replaces_the_rows_of_its_owner_and_counts_each_us
     for (int time = 0; time < 2; ++time) {
       links.store();
       EXPECT_EQ(Links_Of(links, "30001"),
-                (Lines{"9000010|100" + serial, "9000020|1000000001" + serial}));
+                (Texts{"9000010|100" + serial, "9000020|1000000001" + serial}));
     }
     EXPECT_EQ(Links_Of(links, "30000,30002"), others);
     EXPECT_EQ(Used_Of(links, first), "2");
     EXPECT_EQ(Used_Of(links, second), "9");
     EXPECT_EQ(Used_Of(links, third), "-1");
-    Lines pairs;
+    Texts pairs;
     for (const Long key : {first, second, third, first, second, third}) {
       pairs.push_back(links.pair + To_Text(key));
     }
-    EXPECT_EQ(Pairs(links), *links.pairs == '\0' ? Lines() : pairs);
+    EXPECT_EQ(Pairs(links), *links.pairs == '\0' ? Texts() : pairs);
     Select({second});
     links.store();
-    EXPECT_EQ(Links_Of(links, "30001"), Lines{"9000010|100" + serial});
+    EXPECT_EQ(Links_Of(links, "30001"), Texts{"9000010|100" + serial});
     Select({});
     links.store();
     EXPECT_THAT(Links_Of(links, "30001"), IsEmpty());
@@ -131,7 +125,7 @@ TEST_F(Link_Store, The_last_pairing_read_decides_about_the_cheese_of_a_cellar_wi
   Remove_All("Cheeses_Per_Wines");
   Remove_All("Wines_Per_Cheeses");
   const auto both = [] {
-    Lines pairs = Cheese_Pairs("Cheeses_Per_Wines", "Wine_ID");
+    Texts pairs = Cheese_Pairs("Cheeses_Per_Wines", "Wine_ID");
     EXPECT_EQ(pairs, Cheese_Pairs("Wines_Per_Cheeses", "Wine_ID"));
     return pairs;
   };
@@ -149,7 +143,7 @@ TEST_F(Link_Store, The_last_pairing_read_decides_about_the_cheese_of_a_cellar_wi
   EXPECT_THAT(both(), ElementsAre("77|30001", "77|30001"));
   Current_Command = "WineMod";
   Store_Wine_Maridages();
-  EXPECT_EQ(both(), Lines(4, "77|30001"));
+  EXPECT_EQ(both(), Texts(4, "77|30001"));
 }
 
 TEST_F(Link_Store, A_general_wine_has_its_pairings_once_under_one_key_and_each_cheese_once) {
@@ -171,7 +165,7 @@ TEST_F(Link_Store, A_general_wine_has_its_pairings_once_under_one_key_and_each_c
   Mobile_Wines.Mobile_Wine_ID = 30001;
   Select({food, 32000, one_cheese, other_cheese});  // the second has no row
 
-  Lines expected = pairs();
+  Texts expected = pairs();
   const Text next = To_Text(To_Long(expected.back().substr(0, expected.back().find('|'))) + 1);
   for (const Long key : {food, one_cheese, other_cheese}) {
     expected.push_back(next + "|" + To_Text(key) + "|30001|CUS30001");
@@ -182,7 +176,7 @@ TEST_F(Link_Store, A_general_wine_has_its_pairings_once_under_one_key_and_each_c
   EXPECT_THAT(cheeses_of("Cheeses_Per_Mobile_Wines"), ElementsAre("5|30000"));
   EXPECT_EQ(Rows("SELECT \"GROUP\", SUBCATEGO FROM Maridages_Per_Mobile_Wines "
                  "WHERE Mobile_Wine_ID=30001"),
-            (Lines{"9000010|1", "9000020|110"}));
+            (Texts{"9000010|1", "9000020|110"}));
   EXPECT_EQ(Maridages.Maridage_ID, other_cheese);
 
   for (const char* command : {"WineOtherAdd", "WineOtherMod"}) {
@@ -199,7 +193,7 @@ TEST_F(Link_Store, A_general_wine_has_its_pairings_once_under_one_key_and_each_c
   Store_Mobile_Wine_Maridages();
   EXPECT_EQ(pairs().at(2), "1|" + To_Text(other_cheese) + "|30001|CUS30001");
 
-  const Lines before = pairs();
+  const Texts before = pairs();
   Select({32000, other_cheese, food});
   Build_Mobile_Search_Groups();
   EXPECT_EQ(Group_Count, 2);
@@ -215,7 +209,7 @@ TEST_F(Link_Store, A_key_without_a_row_is_a_failure_and_what_was_written_stays) 
     const Long first = Add_Item(links, 900001, 1, 0);
     const Long second = Add_Item(links, 900001, 2, 0);
     Link(links, 30001, 20, 1);
-    const Lines old = Links_Of(links, "30001");
+    const Texts old = Links_Of(links, "30001");
     links.set_owner(30001);
     Select({first, 32000, second});
     EXPECT_FAILURE(3021, links.store());

@@ -2,31 +2,11 @@
 // tables, and a selection, all in the running program's own burst.
 #pragma once
 
-#include <concepts>
-#include <initializer_list>
-#include <string>
-#include <vector>
-
-#include "core/Globals.h"
-#include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
 #include "links/Varieties_Processes.h"
-#include "platform/run_time/Conversions.h"
 #include "tests/support/Program_Folder.h"
 
-using Lines = std::vector<std::string>;
 using Keys = std::vector<Long>;
-
-/// The value of a field; all values convert from text.
-struct Cell {
-  Cell(const char* name, const Text& text) : field(name), value(text) {}
-  template <std::integral Number>
-  Cell(const char* name, Number number) : field(name), value(To_Text(std::int64_t{number})) {}
-
-  const char* field;
-  Text value;
-};
 
 /// A program that has started, with nothing chosen and nothing found before.
 class Linked_Rows : public Program_Folder {
@@ -40,7 +20,7 @@ class Linked_Rows : public Program_Folder {
   }
 
   /// A new row with these values, "0" in whatever else can hold it; its first field is returned.
-  static Long Add(const char* table, std::initializer_list<Cell> cells) {
+  static Long Add(const char* table, const Row& cells) {
     Record_Store::Recordset rows = Wine_Cellar_DB->OpenRecordset(table);
     rows.AddNew();
     for (const Cell& cell : cells) rows.Fields(cell.field) = cell.value;
@@ -92,19 +72,8 @@ class Linked_Rows : public Program_Folder {
     for (const Long key : keys) Selected_IDs[++Selected_Count] = To_Text(key);
   }
 
-  /// The rows of a query as the program sees them, committed or not, the fields parted by "|".
-  static Lines Rows(const std::string& statement) {
-    Record_Store::Recordset rows = Wine_Cellar_DB->OpenRecordset(statement);
-    Lines lines;
-    for (; !rows.Eof(); rows.MoveNext()) {
-      Text line;
-      for (int at = 0; at < rows.Field_Count(); ++at) {
-        line += (at == 0 ? "" : "|") + rows.Fields(at).As_Text();
-      }
-      lines.push_back(line);
-    }
-    return lines;
-  }
+  /// The rows of a query as the program sees them, committed or not.
+  static Texts Rows(const Text& statement) { return Rows_of(*Wine_Cellar_DB, statement); }
   /// `Used` of a row.
   static Text Used(const char* table, const char* key_field, Long key) {
     return Rows("SELECT Used FROM " + Text(table) + " WHERE " + key_field + "=" + To_Text(key))

@@ -1,16 +1,10 @@
 // Masks and merged addresses of group link rows, and the grapes of a region as its rows tell them.
 #include "links/Varieties_Processes.h"
 
-#include <gmock/gmock.h>
-
-#include <algorithm>
 #include <map>
 #include <random>
 
-#include "core/tables/Catalogue.h"
 #include "links/Link_Decoders.h"
-#include "platform/run_time/Conversions.h"
-#include "tests/support/Expect_Failure.h"
 #include "tests/support/Program_Folder.h"
 
 namespace {
@@ -96,10 +90,10 @@ TEST(Merge, Whatever_is_selected_the_masks_of_a_group_add_up_and_neighbours_diff
 
 class Varieties_of_Region : public Program_Folder {
  protected:
-  static std::vector<Text> Decode(Long region) {
+  static Texts Decode(Long region) {
     Regions.Region_ID = region;
     Load_Varieties_of_Region();
-    std::vector<Text> decoded;
+    Texts decoded;
     for (int item = 1; item <= Decoded_Count; ++item) {
       const Decoded_Item& grape = Decoded_Items[item];
       decoded.push_back(To_Text(grape.ID) + "|" + grape.Name + "|" + grape.Color);
@@ -122,34 +116,31 @@ class Varieties_of_Region : public Program_Folder {
 // name the same grapes.
 TEST_F(Varieties_of_Region, Every_region_has_the_grapes_of_its_link_rows_in_their_order) {
   Start();
-  std::vector<Text> decoded;
-  for (const Text& region : Stored("SELECT Region_ID FROM Regions ORDER BY Region_ID", 1)) {
+  Texts decoded;
+  for (const Text& region : Stored("SELECT Region_ID FROM Regions ORDER BY Region_ID")) {
     for (const Text& grape : Decode(To_Long(region)))
       decoded.push_back(Text(region).append("|").append(grape));
   }
   EXPECT_GT(decoded.size(), 1000U);
-  EXPECT_EQ(decoded, Stored("SELECT l.Region_ID, v.Variety_ID, v.Variety_Name, v.Variety_Color "
-                            "FROM Varieties_Per_Region l JOIN Varieties v "
-                            "ON v.Variety_Group = l.\"GROUP\" / 10 "
-                            "AND substr(l.SUBCATEGO, -v.Variety_SubGr, 1) = '1' "
-                            "ORDER BY l.Region_ID, l.Varieties_Per_Region_ID, v.Variety_SubGr DESC",
-                            4));
-  EXPECT_THAT(decoded, testing::UnorderedElementsAreArray(Stored(
+  EXPECT_EQ(decoded,
+            Stored("SELECT l.Region_ID, v.Variety_ID, v.Variety_Name, v.Variety_Color "
+                   "FROM Varieties_Per_Region l JOIN Varieties v "
+                   "ON v.Variety_Group = l.\"GROUP\" / 10 "
+                   "AND substr(l.SUBCATEGO, -v.Variety_SubGr, 1) = '1' "
+                   "ORDER BY l.Region_ID, l.Varieties_Per_Region_ID, v.Variety_SubGr DESC"));
+  EXPECT_THAT(decoded, UnorderedElementsAreArray(Stored(
                            "SELECT p.Region_ID, v.Variety_ID, v.Variety_Name, v.Variety_Color "
                            "FROM Regions_Per_Variety p JOIN Varieties v "
-                           "ON v.Variety_ID = p.Variety_ID",
-                           4)));
+                           "ON v.Variety_ID = p.Variety_ID")));
   EXPECT_TRUE(Decode(30000).empty());
 }
 
 TEST_F(Varieties_of_Region, A_subgroup_that_no_row_holds_is_left_out_and_the_101st_is_a_failure) {
   const auto groups = Stored(
       "SELECT Variety_Group FROM Varieties GROUP BY Variety_Group "
-      "HAVING count(*) = 10 ORDER BY 1",
-      1);
-  const auto last = Stored("SELECT max(Variety_Group) FROM Varieties", 1);
-  const auto in_last =
-      Stored("SELECT Variety_ID FROM Varieties WHERE Variety_Group = " + last[0], 1);
+      "HAVING count(*) = 10 ORDER BY 1");
+  const auto last = Stored("SELECT max(Variety_Group) FROM Varieties");
+  const auto in_last = Stored("SELECT Variety_ID FROM Varieties WHERE Variety_Group = " + last[0]);
   ASSERT_GT(groups.size(), 11U);
   Change([&](Record_Store::Database& file) {
     Record_Store::Recordset varieties = file.OpenRecordset("Varieties");

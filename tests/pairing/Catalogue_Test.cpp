@@ -1,12 +1,7 @@
 // The catalogue of pairings as it is shown: its three uses, its list, its words.
-#include "core/Globals.h"
-#include "tests/forms/Row_Clicks.h"
 #include "tests/pairing/Catalogue_Program.h"
 
 namespace {
-
-using testing::ElementsAre;
-using Texts = std::vector<Text>;
 
 TEST_F(Catalogue, An_addition_needs_the_first_name_alone) {
   Open("Pairing_Add");
@@ -17,15 +12,15 @@ TEST_F(Catalogue, An_addition_needs_the_first_name_alone) {
   EXPECT_EQ(Shown_Text("Current_Maridages_Label"), "Current Available Pairings");
   EXPECT_FALSE(Is_Seen("System_Label"));
   EXPECT_FALSE(Forms::Screen("Cate_Add_Form").Get<Forms::List_View>(list).Has_Selection());
-  EXPECT_EQ(State_of(list), "locked");
-  EXPECT_EQ(State_of("CAT_Other_Language_Text"), "open");
-  const auto waits = [] { return State_of("CatText") == "required" && !Is_Usable("Cat_Add_Now"); };
+  EXPECT_EQ(Color_of(list), "locked");
+  EXPECT_EQ(Color_of("CAT_Other_Language_Text"), "open");
+  const auto waits = [] { return Color_of("CatText") == "required" && !Is_Usable("Cat_Add_Now"); };
   EXPECT_TRUE(waits());
   EXPECT_EQ(Focused(), "CatText");
   Type_Into("CAT_Other_Language_Text", "b");
   EXPECT_TRUE(waits());
   Type_Into("CatText", " ");
-  EXPECT_EQ(State_of("CatText"), "open");
+  EXPECT_EQ(Color_of("CatText"), "open");
   EXPECT_TRUE(Is_Usable("Cat_Add_Now"));
   Press("Backspace");
   EXPECT_TRUE(waits());
@@ -35,34 +30,34 @@ TEST_F(Catalogue, An_addition_needs_the_first_name_alone) {
 }
 
 TEST_F(Catalogue, The_list_alone_shows_a_pairing_and_lets_nothing_be_written) {
-  Put(Made_Up("Pie"));
+  Put_Pairing(Made_Up("Pie"));
   Open("Pairings_List");
   EXPECT_EQ(Shown_Text("Cate_Add_Form"), "List of Current Available Pairings");
   for (const char* unseen : {"Cat_Add_Now", "CatLabel", "System_Label"}) {
     EXPECT_FALSE(Is_Seen(unseen)) << unseen;
   }
   for (const char* box : {list, "CatText", "CAT_Other_Language_Text"}) {
-    EXPECT_EQ(State_of(box), "locked") << box;
+    EXPECT_EQ(Color_of(box), "locked") << box;
   }
   EXPECT_EQ(Focused(), list);
   Click_Pairing("Pie en");
   EXPECT_THAT(Boxes(), ElementsAre("Pie en", "Pie es"));
   Type_Names({"other", "words"});
   EXPECT_THAT(Boxes(), ElementsAre("Pie en", "Pie es"));
-  EXPECT_EQ(State_of("CatText"), "locked");
+  EXPECT_EQ(Color_of("CatText"), "locked");
   EXPECT_FALSE(Is_Seen("Cat_Add_Now"));
   Click_Row(list, 1);
   Press("Up");
-  EXPECT_THAT(Boxes(), ElementsAre(Column(0)[0], Column(1)[0]));
+  EXPECT_THAT(Boxes(), ElementsAre(Shown_Column(list, 0)[0], Shown_Column(list, 1)[0]));
 }
 
 TEST_F(Catalogue, A_change_begins_with_a_pick) {
-  Put(Made_Up("Pie"));
+  Put_Pairing(Made_Up("Pie"));
   Open("Pairing_Mod");
   EXPECT_EQ(Shown_Text("CatLabel"), "Please select the Category to modify and type its new text");
   EXPECT_EQ(Shown_Text("Cat_Add_Now"), "MODIFY");
   for (const char* box : {list, "CatText", "CAT_Other_Language_Text"}) {
-    EXPECT_EQ(State_of(box), "open") << box;
+    EXPECT_EQ(Color_of(box), "open") << box;
   }
   EXPECT_THAT(Boxes(), ElementsAre("", ""));
   EXPECT_FALSE(Is_Usable("Cat_Add_Now"));
@@ -70,7 +65,7 @@ TEST_F(Catalogue, A_change_begins_with_a_pick) {
   EXPECT_THAT(Boxes(), ElementsAre("Pie en", "Pie es"));
   EXPECT_TRUE(Is_Usable("Cat_Add_Now"));
   Type_Into("CatText", "");
-  EXPECT_EQ(State_of("CatText"), "required");
+  EXPECT_EQ(Color_of("CatText"), "required");
   EXPECT_FALSE(Is_Usable("Cat_Add_Now"));
   Type("x");
   EXPECT_TRUE(Is_Usable("Cat_Add_Now"));
@@ -79,54 +74,46 @@ TEST_F(Catalogue, A_change_begins_with_a_pick) {
 TEST_F(Catalogue, The_list_names_English_and_beside_it_the_language_in_force) {
   Maridages_Record pairing = Made_Up("Listed");
   pairing.Multiuse = 2;
-  const Text listed = Put(pairing);
+  const Text listed = Put_Pairing(pairing);
   for (const Integer use : {Integer{0}, Integer{1}}) {
     pairing = Made_Up("Of another use");
     pairing.Multiuse = use;
-    Put(pairing);
+    Put_Pairing(pairing);
   }
   pairing = Made_Up("No name");
   pairing.Maridage_Name = "x";
-  Put(pairing);
+  Put_Pairing(pairing);
   for (const auto& [language, field, end] : {std::tuple{english, "Spanish", "es"},
                                              {spanish, "Spanish", "es"},
                                              {french, "French", "fr"},
                                              {japanese, "Japanese", "ja"}}) {
     Texts expected = Stored(Text("SELECT English || ' | ' || ") + field +
-                                " || ' | ' || Maridage_ID FROM Maridages "
-                                "WHERE Maridage_Group < 900000 ORDER BY Maridage_ID",
-                            1);
+                            " || ' | ' || Maridage_ID FROM Maridages "
+                            "WHERE Maridage_Group < 900000 ORDER BY Maridage_ID");
     expected.push_back("Listed en | Listed " + Text(end) + " | " + listed);
     Open("Pairings_List", language);
     EXPECT_EQ(Shown_Rows(list), expected) << field;
-    Stop();
   }
 }
 
 TEST_F(Catalogue, A_header_turns_the_order_and_a_pick_means_the_pairing_of_its_row) {
   Open("Pairings_List", french);
-  const auto sorted = [](std::size_t column, bool descending) {
-    const Texts cells = Column(column);
-    return std::is_sorted(cells.begin(), cells.end(), [&](const Text& a, const Text& b) {
-      return descending ? Compare_Texts(a, b) > 0 : Compare_Texts(a, b) < 0;
-    });
-  };
   bool descending = false;
-  for (const int column : {0, 1, 1, 0, 1}) {
-    Click_Header(list, column);
+  for (const std::size_t column : {0, 1, 1, 0, 1}) {
+    Click_Header(list, static_cast<int>(column));
     descending = !descending;
-    EXPECT_TRUE(sorted(static_cast<std::size_t>(column), descending)) << column << descending;
+    EXPECT_TRUE(Is_Sorted(Shown_Column(list, column), descending)) << column << descending;
   }
   Click_Row(list, 5);
-  EXPECT_EQ(Boxes(), Stored("SELECT English FROM Maridages WHERE Maridage_ID = " + Column(2)[5] +
-                                " UNION ALL SELECT Spanish FROM Maridages WHERE Maridage_ID = " +
-                                Column(2)[5],
-                            1));
+  EXPECT_EQ(Boxes(),
+            Stored("SELECT English FROM Maridages WHERE Maridage_ID = " + Shown_Column(list, 2)[5] +
+                   " UNION ALL SELECT Spanish FROM Maridages WHERE Maridage_ID = " +
+                   Shown_Column(list, 2)[5]));
 }
 
 // English and Spanish alone are ever shown; the labels name the language that is written.
 TEST_F(Catalogue, Boxes_and_labels_by_language) {
-  Put(Made_Up("Pie"));
+  Put_Pairing(Made_Up("Pie"));
   struct Case {
     Integer language;
     Two_Names labels, boxes;
@@ -142,7 +129,6 @@ TEST_F(Catalogue, Boxes_and_labels_by_language) {
       EXPECT_EQ(Shown_Text("Cat_Language2_Label"), by_language.labels.second);
       Click_Pairing("Pie en");
       EXPECT_THAT(Boxes(), ElementsAre(by_language.boxes.first, by_language.boxes.second));
-      Stop();
     }
   }
 }
@@ -162,7 +148,6 @@ TEST_F(Catalogue, Words_by_their_places_and_without_any_the_design) {
     for (const bool change : {false, true}) {
       Open(change ? "Pairing_Mod" : "Pairing_Add", words.language);
       check(words, change);
-      Stop();
     }
   };
   check_both({german, "Neue Kategorien oder Menüthemen hinzufügen", "HINZUFÜGEN", "ABBRECHEN",
@@ -173,13 +158,8 @@ TEST_F(Catalogue, Words_by_their_places_and_without_any_the_design) {
               "変更するカテゴリを選択し、新しいテキストを入力してください"});
   Open("Pairings_List", german);
   EXPECT_EQ(Shown_Text("Cate_Add_Form"), "List of Current Available Pairings");
-  Stop();
-  Change([](Record_Store::Database& file) {
-    Record_Store::Recordset words = file.OpenRecordset("Words");
-    for (; !words.Eof(); words.MoveNext()) {
-      if (words.Fields("Program").As_Text() == "Cate_Add_Form") words.Delete();
-    }
-  });
+  Remove_Rows("Words",
+              [](const auto& row) { return row.Fields("Program").As_Text() == "Cate_Add_Form"; });
   check_both({german, "Add New Categories or Menu Themes", "ADD", "CANCEL",
               "Please type the new Category", "MODIFY", "Please type the new Category"});
   Open("Pairing_Add", german);

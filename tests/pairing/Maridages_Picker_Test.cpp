@@ -1,14 +1,9 @@
 // The picker of pairings under each of its commands: for a grape, a cheese, a wine, and the
 // searches that find nothing.
-#include "core/Globals.h"
-#include "core/tables/Pairing_Tables.h"
-#include "core/tables/Wine_Tables.h"
 #include "platform/run_time/Guard.h"
 #include "tests/pairing/Pickers_Program.h"
 
 namespace {
-
-using testing::ElementsAre;
 
 // Whose list it is, what it begins with, and what PROCEED sets: for a grape or a cheese.
 TEST_F(Maridages_Picker, For_a_grape_or_a_cheese) {
@@ -35,7 +30,7 @@ TEST_F(Maridages_Picker, For_a_grape_or_a_cheese) {
     Cheeses.Cheese_Name = "Brie";
     Give("Varieties_Form", suggested, suggested_keys, "Of a grape", "11");
     Give("Cheeses_Form", foods, food_keys, "Of a cheese", "22");
-    Open_Screen_Under(maridages, use.command);
+    Open_Under(maridages, use.command);
     EXPECT_EQ(Shown_Text(maridages), use.caption);
     EXPECT_EQ(Shown_Text("MSelectLab3"), use.word);
     EXPECT_EQ(Shown_Text("Recipe_Name"), use.name);
@@ -52,11 +47,10 @@ TEST_F(Maridages_Picker, For_a_grape_or_a_cheese) {
     Click("MultSelect");
     Texts expected{Food(0).name + "|" + Food(0).id};
     if (use.copied) expected.insert(expected.begin(), first + (grape ? "|11" : "|22"));
-    EXPECT_EQ(Handed_Over(), expected);
+    EXPECT_EQ(Selection(), expected);
     EXPECT_TRUE(use.flag);
     EXPECT_NE(Variety_Pairings_Changed, Cheese_Foods_Changed);
     Expect_Left(maridages, use.screen);
-    Stop();
   }
 }
 
@@ -67,7 +61,7 @@ TEST_F(Maridages_Picker, For_a_wine_of_the_cellar) {
   Wines.Variety = "Malbec";
   Wines.Label = "Reserva";
   Wines.Vintage = 2001;
-  Open_Screen_Under(maridages, "WineAdd");
+  Open_Under(maridages, "WineAdd");
   EXPECT_EQ(Shown_Text("Recipe_Name"), "Malbec - Reserva - 2001");
   EXPECT_EQ(Shown_Text("MSelectLab3"), "Grape Variety:");
   Expect_State({}, false, false);
@@ -79,17 +73,17 @@ TEST_F(Maridages_Picker, For_a_wine_of_the_cellar) {
   Click("Exit_Command");
   Pick("Wine_Mod");
   Pick_Wine(wine);
-  Open_Screen_Under(maridages, "WineMod");
+  Open_Under(maridages, "WineMod");
   Expect_State({Food(0).name}, false, false);
   Add(Food(2).name);
   Click("MultCancel");
   Expect_Left(maridages, "Wine_Form");
   EXPECT_THAT(Lines("Pairing_List"), ElementsAre(Food(0).name));
-  Open_Screen_Under(maridages, "WineMod");
+  Open_Under(maridages, "WineMod");
   Expect_State({Food(0).name}, false, false);
   Add(Food(2).name);
   Click("MultSelect");
-  EXPECT_THAT(Handed_Over(),
+  EXPECT_THAT(Selection(),
               ElementsAre(Food(0).name + "|" + Food(0).id, Food(2).name + "|" + Food(2).id));
   EXPECT_THAT(Lines("Pairing_List"), ElementsAre(Food(0).name, Food(2).name));
 }
@@ -111,61 +105,53 @@ TEST_F(Maridages_Picker, Cancel_hands_nothing_on_and_leads_to_the_caller) {
     Open(command);
     Expect_State({}, false, false);
     Selected_Count = 1;
-    Selected_Names[1] = "Before";
-    Selected_IDs[1] = "5";
+    std::tie(Selected_Names[1], Selected_IDs[1]) = std::pair{"Before", "5"};
     Add(Food(0).name);
     leave();
     Expect_Left(maridages, to);
-    EXPECT_THAT(Handed_Over(), ElementsAre("Before|5"));
+    EXPECT_THAT(Selection(), ElementsAre("Before|5"));
     EXPECT_FALSE(Variety_Pairings_Changed || Cheese_Foods_Changed);
-    Stop();
   }
 }
 
 TEST_F(Maridages_Picker, A_search_that_finds_nothing_in_the_cellar_leaves_the_picker_as_it_is) {
-  const Text used[] = {Used(0), Used(1), Used(2)};
+  const auto used = [this] { return std::tuple(Used(Food(0)), Used(Food(1)), Used(Food(2))); };
+  const auto [first, second, third] = used();
   Put_Pairing(Put_Wine(Sample_Wine()), Food(2));
   Start();
   Pick("Pairing_Search_Cellar");
   EXPECT_FALSE(Is_Seen("MSelectLab3") || Is_Seen("Recipe_Name") || Is_Seen("MSelectLab2"));
   Add(Food(0).name);
   Add(Food(1).name);
-  Box_Script boxes;
-  Click("MultSelect");
-  ASSERT_EQ(boxes.Boxes().size(), 2U);
-  EXPECT_EQ(boxes.Boxes()[0].title, "NO Wines found");
-  EXPECT_EQ(boxes.Boxes()[0].text, "There are NO wines with\rANY of the pairings selected !!!");
-  EXPECT_EQ(boxes.Boxes()[1].title, "NO WINES PAIRINGS");
-  EXPECT_EQ(boxes.Boxes()[1].text, "Thera are NO wines matching any of your pairings.");
+  EXPECT_THAT(
+      Told_By([] { Click("MultSelect"); }),
+      ElementsAre("NO Wines found: There are NO wines with\rANY of the pairings selected !!!",
+                  "NO WINES PAIRINGS: Thera are NO wines matching any of your pairings."));
   EXPECT_TRUE(Is_Seen(maridages));
   EXPECT_FALSE(Is_Seen("Wine_Cellar_Form"));
   EXPECT_FALSE(Forms::Screen("Wine_Search_Results_Form").Is_Loaded());
   Expect_State({Food(0).name, Food(1).name}, true, false);
-  EXPECT_EQ(Used(0), std::to_string(std::stoi(used[0]) + 1));
-  EXPECT_EQ(Used(1), std::to_string(std::stoi(used[1]) + 1));
-  EXPECT_EQ(Used(2), used[2]);
+  EXPECT_EQ(used(), std::tuple(first + 1, second + 1, third));
   Press("Esc");
   Pick("Pairing_Search_Cellar");
   Expect_State({}, false, false);
 }
 
 TEST_F(Maridages_Picker, A_search_that_finds_nothing_in_the_general_list_ends_in_the_main_window) {
-  const Text used = Used(0);
-  Empty_Table("Maridages_Per_Mobile_Wines");
+  const int used = Used(Food(0));
+  Remove_Rows("Maridages_Per_Mobile_Wines");
   Set_Language(german);
   Start();
   Pick("Pairing_Search_General");
   EXPECT_FALSE(Is_Seen("MSelectLab3") || Is_Seen("Recipe_Name"));
-  Add(Stored("SELECT German FROM Maridages WHERE Maridage_ID = " + Food(0).id, 1)[0]);
-  Box_Script boxes;
-  Click("MultSelect");
-  ASSERT_EQ(boxes.Boxes().size(), 2U);
-  EXPECT_EQ(boxes.Boxes()[0].title, "NO Wines found");
-  EXPECT_EQ(boxes.Boxes()[0].text, "There are NO Wines with\rANY of the pairings selected !!!");
-  EXPECT_EQ(boxes.Boxes()[1].title, "KEINE PASSENDEN WEINE");
-  EXPECT_EQ(boxes.Boxes()[1].text, "Es gibt KEINE Weine, die zu einer Ihrer Speisen passen.");
+  Add(One("SELECT German FROM Maridages WHERE Maridage_ID = " + Food(0).id));
+  EXPECT_THAT(
+      Told_By([] { Click("MultSelect"); }),
+      ElementsAre(
+          "NO Wines found: There are NO Wines with\rANY of the pairings selected !!!",
+          "KEINE PASSENDEN WEINE: Es gibt KEINE Weine, die zu einer Ihrer Speisen passen."));
   Expect_Left(maridages, "Wine_Cellar_Form");
-  EXPECT_EQ(Used(0), used);
+  EXPECT_EQ(Used(Food(0)), used);
 }
 
 TEST_F(Maridages_Picker, Words_and_tips_in_German) {
@@ -191,10 +177,10 @@ TEST_F(Maridages_Picker, Words_and_tips_in_German) {
         {"Selected_Number",
          "Anzahl der ausgewählten Einträge; höchstens 100 können übergeben "
          "werden"}}) {
-    EXPECT_EQ(Tip(control), tip);
+    EXPECT_EQ(Find(control).toolTip().toStdString(), tip);
   }
   Press("Esc");
-  Open_Screen_Under(maridages, "VarietyMod");
+  Open_Under(maridages, "VarietyMod");
   EXPECT_EQ(Shown_Text(maridages), "Speisen zur Rebsorte ÄNDERN");
   EXPECT_EQ(Shown_Text("MSelectLab3"), "Rebsorte:");
 }

@@ -4,39 +4,26 @@
 namespace {
 
 using Pickers = Maridages_Picker;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 TEST_F(Pickers, The_pairings_in_the_order_of_the_language_and_their_number) {
-  Change([](Record_Store::Database& file) {
-    Record_Store::Recordset rows = file.OpenRecordset("Maridages");
-    for (const Integer use : std::initializer_list<Integer>{0, 1, 4, 2, 3}) {
-      rows.AddNew();
-      for (const char* language : {"English", "German", "Japanese"}) {
-        rows.Fields(language) = "Émile " + std::to_string(use);
-      }
-      rows.Fields("Multiuse") = use;
-      rows.Update();
-    }
-  });
+  for (const int use : {0, 1, 4, 2, 3}) {
+    const Text name = "Émile " + std::to_string(use);
+    Put("Maridages", {{"English", name}, {"German", name}, {"Japanese", name}, {"Multiuse", use}});
+  }
   for (const auto& [language, field] :
        {std::pair<Integer, Text>{english, "English"}, {german, "German"}, {japanese, "Japanese"}}) {
     Set_Language(language);
-    Start();
-    Pick("Pairing_Search_Cellar");
+    Start_With("Pairing_Search_Cellar");
     const Texts expected =
         In_Order("SELECT " + field + " FROM Maridages WHERE Multiuse = 2 OR Multiuse = 3");
     EXPECT_EQ(Lines("Cat_List"), expected);
     EXPECT_EQ(Shown_Text("Cat_Number"), std::to_string(expected.size()));
     Expect_State({}, false, false);
     Add(expected[40]);
-    Box_Script boxes;
-    Click("MultSelect");
-    Text statement = "SELECT ";
-    statement.append(field).append(" || '|' || Maridage_ID FROM Maridages WHERE ");
-    statement.append(field).append(" = '").append(expected[40]).append("'");
-    EXPECT_EQ(Handed_Over(), Stored(statement, 1));
-    Stop();
+    Told_By([] { Click("MultSelect"); });
+    EXPECT_THAT(Selection(),
+                ElementsAre(One("SELECT " + field + " || '|' || Maridage_ID FROM Maridages WHERE " +
+                                field + " = '" + expected[40] + "'")));
   }
 }
 
@@ -86,20 +73,14 @@ TEST_F(Pickers, By_mouse_and_what_is_taken_out_is_the_current_entry) {
   Double_Click_Line("SelectList", a);
   Expect_State({b}, true, false);
   Click("MultSelect");
-  EXPECT_THAT(Handed_Over(), ElementsAre(b + "|" + Food(1).id));
+  EXPECT_THAT(Selection(), ElementsAre(b + "|" + Food(1).id));
 }
 
 TEST_F(Pickers, A_double_by_text_or_by_key_is_refused_without_a_word) {
-  Change([&](Record_Store::Database& file) {
-    Record_Store::Recordset rows = file.OpenRecordset("Maridages");
-    rows.AddNew();
-    rows.Fields("English") = Food(0).name + "  ";
-    rows.Fields("Multiuse") = Integer{3};
-    rows.Update();
-  });
+  Put("Maridages", {{"English", Food(0).name + "  "}, {"Multiuse", 3}});
   Start();
   Give("Varieties_Form", suggested, suggested_keys, "An older name", Food(1).id);
-  Open_Screen_Under(maridages, "VarietyMod");
+  Open_Under(maridages, "VarietyMod");
   Expect_State({"An older name"}, false, false);
   const Box_Script boxes;
   Add(Food(0).name);
@@ -134,21 +115,11 @@ TEST_F(Pickers, A_hundred_and_one_are_taken_and_a_hundred_handed_on) {
   Press("Down");
   Press("Return");
   Click("Add_Command");
-  ASSERT_EQ(boxes.Boxes().size(), 2U);
-  for (const Forms::Box& box : boxes.Boxes()) {
-    EXPECT_EQ(box.title, "");
-    EXPECT_EQ(box.text, "\r  100");
-    EXPECT_FALSE(box.asks);
-  }
+  EXPECT_THAT(boxes.Said(), ElementsAre(": \r  100", ": \r  100"));
   boxes.Forget();
   Add(all[0]);  // a double is refused before the number is looked at
   EXPECT_THAT(boxes.Boxes(), IsEmpty());
-  {
-    const End_Watch end;
-    Click("MultSelect");
-    EXPECT_EQ(end.Status(), 1);
-    EXPECT_THAT(boxes.Texts(), ElementsAre("Run-time error '9':\n\nSubscript out of range"));
-  }
+  Expect_End(9, [] { Click("MultSelect"); });
   Double_Click_Line("SelectList", all[0]);
   Click("MultSelect");
   Expect_Left(maridages, "Varieties_Form");

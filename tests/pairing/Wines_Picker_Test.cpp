@@ -1,13 +1,7 @@
 // The picker of general wines: the three lists that narrow it down, and what it hands on.
-#include "core/Globals.h"
-#include "core/tables/Wine_Tables.h"
-#include "platform/run_time/Conversions.h"
 #include "tests/pairing/Pickers_Program.h"
 
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr const char* list = "Mobile_Wines_ListView";
 
@@ -15,7 +9,7 @@ class Wines_Picker : public Pickers_Program {
  protected:
   /// Five wines alone; Alpha twice, of which one has all colours, and one wine of no grape.
   void Put_Wines() {
-    Empty_Table("Mobile_Wines");
+    Remove_Rows("Mobile_Wines");
     struct Wine {
       const char *name, *country;
       std::array<const char*, 3> colors;
@@ -26,33 +20,24 @@ class Wines_Picker : public Pickers_Program {
                              {"Beta", "FRA", {"WHITE", "RED", "x"}, "Merlot"},
                              {"Delta", "ALL", {"ROSE", "x", "RED"}, ""},
                              {"Alpha", "ITA", {"FORTIFIED", "x", "x"}, "Malbec"}}) {
-      Put_Wine_Row(wine.name, wine.country, wine.colors, Grape(wine.grape));
+      Mobile_Wines_Record row;
+      Mobile_Wines_Description.Init(row);
+      row.Mobile_Wine_Name = wine.name;
+      row.Mobile_Wine_Country = wine.country;
+      std::tie(row.Mobile_Wine_Color, row.Mobile_Wine_Color_2, row.Mobile_Wine_Color_3) =
+          std::tie(wine.colors[0], wine.colors[1], wine.colors[2]);
+      row.Mobile_Wine_Variety_ID = Grape(wine.grape);
+      Put(Mobile_Wines_Description, row);
     }
   }
-  void Put_Wine_Row(const char* name, const char* country, std::array<const char*, 3> colors,
-                    const Text& grape) const {
-    Change([&](Record_Store::Database& file) {
-      Record_Store::Recordset rows = file.OpenRecordset("Mobile_Wines");
-      rows.AddNew();
-      Mobile_Wines_Record wine;
-      Mobile_Wines_Description.Init(wine);
-      wine.Mobile_Wine_Name = name;
-      wine.Mobile_Wine_Country = country;
-      wine.Mobile_Wine_Color = colors[0];
-      wine.Mobile_Wine_Color_2 = colors[1];
-      wine.Mobile_Wine_Color_3 = colors[2];
-      wine.Mobile_Wine_Variety_ID = To_Long(grape);
-      Mobile_Wines_Description.Write(rows, wine);
-    });
-  }
-  Text Grape(const Text& name) const {
-    if (name.empty()) return "-1";
-    return Stored("SELECT Variety_ID FROM Varieties WHERE Variety_Name = '" + name + "'", 1)[0];
+  Long Grape(const Text& name) const {
+    if (name.empty()) return -1;
+    return To_Long(One("SELECT Variety_ID FROM Varieties WHERE Variety_Name = '" + name + "'"));
   }
   void Open(const char* command = "CheeseAdd") {
     Start();
     Cheese_Wines_Changed = false;
-    Open_Screen_Under(wines, command);
+    Open_Under(wines, command);
   }
   /// The rows without their keys.
   static Texts Rows() {
@@ -63,17 +48,15 @@ class Wines_Picker : public Pickers_Program {
   /// Picks the first row that begins so.
   static void Click_Wine(const Text& begin) {
     const Texts rows = Rows();
-    for (std::size_t row = 0; row < rows.size(); ++row) {
-      if (!rows[row].starts_with(begin)) continue;
-      Click_Row(list, static_cast<int>(row));
-      return;
-    }
-    ADD_FAILURE() << begin << " is not listed";
+    const auto row =
+        std::ranges::find_if(rows, [&](const Text& r) { return r.starts_with(begin); });
+    ASSERT_NE(row, rows.end()) << begin << " is not listed";
+    Click_Row(list, static_cast<int>(row - rows.begin()));
   }
 };
 
 TEST_F(Wines_Picker, ALL_in_every_list_is_the_whole_general_list) {
-  const Texts all = Stored("SELECT Mobile_Wine_Name FROM Mobile_Wines ORDER BY Mobile_Wine_ID", 1);
+  const Texts all = Stored("SELECT Mobile_Wine_Name FROM Mobile_Wines ORDER BY Mobile_Wine_ID");
   Open();
   Choose("Country_Combo", "Italy");
   EXPECT_LT(Lines(list).size(), all.size());
@@ -82,14 +65,11 @@ TEST_F(Wines_Picker, ALL_in_every_list_is_the_whole_general_list) {
   Choose("Grape_Variety_Combo", "ALL VARIETIES");
   Choose("Wine_Color_Combo", "ALL");
   Choose("Country_Combo", "ALL");
-  Texts names = Lines(list);
-  for (Text& name : names) name.resize(name.find(" | "));
-  EXPECT_EQ(names, all);
+  EXPECT_EQ(Shown_Column(list, 0), all);
   EXPECT_EQ(Shown_Text("Wines_Number"), std::to_string(all.size()));
   EXPECT_EQ(Lines("Grape_Variety_Combo").size(),
-            1 + std::stoul(Stored("SELECT count(DISTINCT v.Variety_ID) FROM Varieties v JOIN "
-                                  "Mobile_Wines w ON w.Mobile_Wine_Variety_ID = v.Variety_ID",
-                                  1)[0]));
+            1 + std::stoul(One("SELECT count(DISTINCT v.Variety_ID) FROM Varieties v JOIN "
+                               "Mobile_Wines w ON w.Mobile_Wine_Variety_ID = v.Variety_ID")));
 }
 
 TEST_F(Wines_Picker, The_lists_as_they_open) {
@@ -114,7 +94,6 @@ TEST_F(Wines_Picker, The_lists_as_they_open) {
     EXPECT_EQ(Focused(), list);
     EXPECT_FALSE(Is_Seen("Search_Text"));
     EXPECT_FALSE(Is_Usable("Add_Command") || Is_Usable("MultSelect"));
-    Stop();
   }
 }
 
@@ -207,12 +186,12 @@ TEST_F(Wines_Picker, Typing_finds_a_wine_and_a_header_turns_the_order) {
 TEST_F(Wines_Picker, For_a_cheese_the_wines_are_handed_on) {
   Put_Wines();
   Stand_In("Cheeses_Form", {"Wine_Parings_List", "Wine_Parings_Index_List"});
-  const Texts keys = Stored("SELECT Mobile_Wine_ID FROM Mobile_Wines ORDER BY Mobile_Wine_ID", 1);
+  const Texts keys = Stored("SELECT Mobile_Wine_ID FROM Mobile_Wines ORDER BY Mobile_Wine_ID");
   for (const bool change : {false, true}) {
     Start();
     Cheese_Wines_Changed = Cheese_Foods_Changed = false;
     Give("Cheeses_Form", "Wine_Parings_List", "Wine_Parings_Index_List", "Old name", keys[2]);
-    Open_Screen_Under(wines, change ? "CheeseMod" : "CheeseAdd");
+    Open_Under(wines, change ? "CheeseMod" : "CheeseAdd");
     EXPECT_EQ(Lines("SelectList"), change ? Texts{"Old name"} : Texts{});
     EXPECT_EQ(Is_Usable("MultSelect"), change);
     for (const char* wine : {"Delta", "Beta"}) {
@@ -221,11 +200,10 @@ TEST_F(Wines_Picker, For_a_cheese_the_wines_are_handed_on) {
     }
     Click("MultSelect");
     Expect_Left(wines, "Cheeses_Form");
-    EXPECT_EQ(Handed_Over(), change ? (Texts{"Old name|" + keys[2], "Delta|" + keys[3]})
-                                    : (Texts{"Delta|" + keys[3], "Beta|" + keys[2]}));
+    EXPECT_EQ(Selection(), change ? (Texts{"Old name|" + keys[2], "Delta|" + keys[3]})
+                                  : (Texts{"Delta|" + keys[3], "Beta|" + keys[2]}));
     EXPECT_TRUE(Cheese_Wines_Changed);
     EXPECT_FALSE(Cheese_Foods_Changed);
-    Stop();
   }
 }
 
@@ -241,9 +219,8 @@ TEST_F(Wines_Picker, The_way_out_hands_nothing_on) {
     Click("Add_Command");
     Click("Exit_Command");
     Expect_Left(wines, to);
-    EXPECT_THAT(Handed_Over(), IsEmpty());
+    EXPECT_THAT(Selection(), IsEmpty());
     EXPECT_FALSE(Cheese_Wines_Changed);
-    Stop();
   }
 }
 

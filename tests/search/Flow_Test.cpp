@@ -1,6 +1,5 @@
 // From the menu to the wines that go with the foods asked for, and back to ask again; and from
 // foods to grapes and their regions.
-#include <gmock/gmock.h>
 
 #include <numeric>
 
@@ -8,13 +7,9 @@
 
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 constexpr const char* picker = "Select_Mult_Maridages_Form";
-constexpr const char* results = "Wine_Search_Results_Form";
 constexpr const char* general = "Search_General_Pairings_Form";
-const Text none_found = "There are NO wines with\rANY of the pairings selected !!!";
+const Text none_found = "NO Wines found: There are NO wines with\rANY of the pairings selected !!!";
 
 using Pairing_Search = Search_Program;
 
@@ -81,15 +76,9 @@ TEST_F(Pairing_Search, Nothing_found_is_said_twice_and_the_picker_stays) {
   Put_Wine_with({Food_at(0, 2)});
   const int used = Used(Food(0));
   Start();
-  {
-    const Box_Script boxes;
-    Search_for({Food(0)});
-    ASSERT_EQ(boxes.Boxes().size(), 2U);
-    EXPECT_EQ(boxes.Boxes()[0].title, "NO Wines found");
-    EXPECT_EQ(boxes.Boxes()[0].text, none_found);
-    EXPECT_EQ(boxes.Boxes()[1].title, "NO WINES PAIRINGS");
-    EXPECT_EQ(boxes.Boxes()[1].text, "Thera are NO wines matching any of your pairings.");
-  }
+  EXPECT_THAT(Told_By([this] { Search_for({Food(0)}); }),
+              ElementsAre(none_found,
+                          "NO WINES PAIRINGS: Thera are NO wines matching any of your pairings."));
   EXPECT_EQ(Used(Food(0)), used + 1);
   EXPECT_TRUE(Is_Seen(picker));
   EXPECT_FALSE(Is_There(results));
@@ -113,20 +102,15 @@ TEST_F(Pairing_Search, Stops_before_the_hundredth_wine) {
 
 class Foods_to_Grapes : public Search_Program {
  protected:
-  void Open_Under(const char* command) {
-    Start();
-    Open_Screen_Under(general, command);
-  }
   Texts Grapes_of(const Text& ids) const {
     return Stored(
         "SELECT v.Variety_Name, v.Variety_Color, v.Variety_ID FROM "
         "Varieties_Per_Maridage p JOIN Varieties v ON v.Variety_ID = p.Variety_ID "
         "WHERE p.Maridage_ID IN (" +
-            ids + ")",
-        3);
+        ids + ")");
   }
   Texts Regions_of(const Text& variety_ids) const {
-    return Column(
+    return Stored(
         "SELECT DISTINCT r.Region_Name FROM Regions_Per_Variety p JOIN Regions r ON "
         "r.Region_ID = p.Region_ID WHERE p.Variety_ID IN (" +
         variety_ids + ")");
@@ -134,7 +118,8 @@ class Foods_to_Grapes : public Search_Program {
   static Texts Rows(const char* name) {
     Texts rows = Shown_Rows(name);
     for (Text& row : rows) {
-      for (std::size_t at = 0; (at = row.find(" | ", at)) != Text::npos;) row.replace(at, 3, "|");
+      const Texts cells = Cells_of(row, " | ");
+      row = cells.at(0) + "|" + cells.at(1) + "|" + cells.at(2);
     }
     return rows;
   }
@@ -143,11 +128,6 @@ class Foods_to_Grapes : public Search_Program {
     texts.erase(std::unique(texts.begin(), texts.end()), texts.end());
     return texts;
   }
-  static Texts Names(const Texts& rows) {
-    Texts names;
-    for (const Text& row : rows) names.push_back(row.substr(0, row.find('|')));
-    return names;
-  }
 };
 
 TEST_F(Foods_to_Grapes, Foods_lead_to_grapes_and_a_grape_to_its_regions) {
@@ -155,27 +135,23 @@ TEST_F(Foods_to_Grapes, Foods_lead_to_grapes_and_a_grape_to_its_regions) {
   const Texts shared = Stored(
       "SELECT a.Maridage_ID, b.Maridage_ID FROM Varieties_Per_Maridage a JOIN "
       "Varieties_Per_Maridage b ON a.Variety_ID = b.Variety_ID AND a.Maridage_ID < b.Maridage_ID "
-      "ORDER BY 1, 2",
-      2);
-  const Text one = shared.at(0).substr(0, shared[0].find('|'));
-  const Text other = shared[0].substr(shared[0].find('|') + 1);
+      "ORDER BY 1, 2");
+  const Text one = Cells_of(shared.at(0))[0], other = Cells_of(shared[0])[1];
   const auto name_of = [this](const Text& id) {
-    return Column("SELECT English FROM Maridages WHERE Maridage_ID = " + id).at(0);
+    return One("SELECT English FROM Maridages WHERE Maridage_ID = " + id);
   };
-  const auto id_of = [](const Text& row) { return row.substr(row.rfind('|') + 1); };
+  const auto id_of = [](const Text& row) { return Cells_of(row).at(2); };
   const Text second = id_of(Grapes_of(one).at(1));
-  Change([&](Record_Store::Database& file) {  // the second grape has one region twice
-    Record_Store::Recordset pairs = file.OpenRecordset("Regions_Per_Variety");
-    pairs.AddNew();
-    pairs.Fields("Variety_ID") = second;
-    pairs.Fields("Region_ID") =
-        Column("SELECT Region_ID FROM Regions_Per_Variety WHERE Variety_ID = " + second).at(0);
-    pairs.Update();
-  });
-  Open_Under("GeneralPairings");
+  // The second grape has one region twice.
+  Put("Regions_Per_Variety",
+      {{"Variety_ID", second},
+       {"Region_ID",
+        One("SELECT Region_ID FROM Regions_Per_Variety WHERE Variety_ID = " + second)}});
+  Start();
+  Open_Under(general, "GeneralPairings");
   EXPECT_EQ(Shown_Text(general), "General Pairings");
   EXPECT_EQ(Lines("Cat_List"),
-            Column("SELECT English FROM Maridages WHERE Multiuse >= 2 ORDER BY English"));
+            Stored("SELECT English FROM Maridages WHERE Multiuse >= 2 ORDER BY English"));
   Add(name_of(one));
   Click("MultSelect");
   EXPECT_EQ(Rows("Variety_Name_ListView"), Grapes_of(one));
@@ -188,29 +164,25 @@ TEST_F(Foods_to_Grapes, Foods_lead_to_grapes_and_a_grape_to_its_regions) {
   EXPECT_EQ(grapes.size(), Without_Doubles(grapes).size());
   Text ids = "-1";
   for (const Text& grape : grapes) ids += "," + id_of(grape);
-  const Texts regions = Names(Rows("Regions_ListView"));
+  const Texts regions = Shown_Column("Regions_ListView", 0);
   EXPECT_EQ(regions.size(), Without_Doubles(regions).size());
   EXPECT_EQ(Without_Doubles(regions), Without_Doubles(Regions_of(ids)));
   Click_Row("Variety_Name_ListView", 1);
-  EXPECT_EQ(Shown_Text("Recipe_Name"), Names(grapes).at(1));
+  EXPECT_EQ(Shown_Text("Recipe_Name"), Shown_Column("Variety_Name_ListView", 0).at(1));
   EXPECT_EQ(Rows("Regions_ListView"),
             Stored("SELECT r.Region_Name, r.Country, r.Region_ID FROM Regions_Per_Variety p JOIN "
                    "Regions r ON r.Region_ID = p.Region_ID WHERE p.Variety_ID = " +
-                       second + " ORDER BY p.rowid",
-                   3));
+                   second + " ORDER BY p.rowid"));
   Click("MultCancel");
   EXPECT_TRUE(Is_Seen("Wine_Cellar_Form"));
 }
 
 TEST_F(Foods_to_Grapes, Under_the_search_they_lead_to_the_wines_of_the_cellar) {
   const Long wine = Put_Wine_with({Food(1)});
-  Open_Under("WineSearch");
+  Start();
+  Open_Under(general, "WineSearch");
   Add(Food(0).name);
-  {
-    const Box_Script boxes;
-    Click("MultSelect");
-    EXPECT_THAT(boxes.Texts(), ElementsAre(none_found));
-  }
+  EXPECT_THAT(Told_By([] { Click("MultSelect"); }), ElementsAre(none_found));
   EXPECT_TRUE(Is_Seen(general));
   EXPECT_FALSE(Is_There(results));
   Add(Food(1).name);

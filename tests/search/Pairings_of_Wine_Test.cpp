@@ -1,5 +1,4 @@
 // The pairings of a wine: chosen beside the wine's screen, stored by group, and shown again.
-#include <gmock/gmock.h>
 
 #include <QWidget>
 
@@ -7,12 +6,8 @@
 
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 constexpr const char* chooser = "Select_Maridages_for_Wines_Form";
 constexpr const char* options = "Selection_Option_List";
-constexpr const char* button = "Multi_Functional_Command";
 
 class Pairings_of_Wine : public Search_Program {
  protected:
@@ -22,10 +17,7 @@ class Pairings_of_Wine : public Search_Program {
   }
   static void Choose_Pairings() { Click("Pairings_Add_Command"); }
   static void Commit(const char* title) {
-    const Box_Script boxes;
-    Click(button);
-    ASSERT_EQ(boxes.Boxes().size(), 1U);
-    EXPECT_EQ(boxes.Boxes()[0].title, title);
+    EXPECT_THAT(Told_By([] { Click(button); }), ElementsAre(StartsWith(title)));
   }
   static void Save() { Commit("WINE ADDITION SUCCESSFULLY"); }
   static void Modify() { Commit("WINE INFORMATION UPDATED"); }
@@ -34,15 +26,15 @@ class Pairings_of_Wine : public Search_Program {
     Click("Remove_Command");
   }
   Texts Cheese_Rows(const char* table) const {
-    return Stored("SELECT Cheese_ID, Wine_ID FROM " + Text(table) + " WHERE Wine_ID < 20000", 2);
+    return Stored("SELECT Cheese_ID, Wine_ID FROM " + Text(table) + " WHERE Wine_ID < 20000");
   }
   Texts Offered(const Text& language) const {
-    return Column("SELECT " + language + " FROM Maridages WHERE Multiuse IN (2, 3) ORDER BY " +
+    return Stored("SELECT " + language + " FROM Maridages WHERE Multiuse IN (2, 3) ORDER BY " +
                   language);
   }
   /// The pairings that a grape suggests, in a language, as its link rows tell them.
   Texts Suggested(const Text& grape, const char* language) const {
-    return Column("SELECT m." + Text(language) +
+    return Stored("SELECT m." + Text(language) +
                   " FROM Varieties v JOIN Maridages_Per_Variety l ON l.Variety_ID = v.Variety_ID "
                   "JOIN Maridages m ON m.Maridage_Group = l.[GROUP] / 10 AND "
                   "substr('0000000000' || l.SUBCATEGO, -m.Maridage_SubGr, 1) = '1' "
@@ -59,7 +51,7 @@ TEST_F(Pairings_of_Wine, The_chooser_offers_every_pairing_then_those_of_each_tic
   wine.ticks = {1, 3};
   wine.label = Sample().label;
   Fill_Add(wine);
-  const Texts grapes = Ticked_Varieties();
+  const Texts grapes = Ticked_Rows("Variety_Combo");
   Choose_Pairings();
   EXPECT_EQ(Shown_Text(chooser), "Parings for Wines");
   EXPECT_EQ(Shown_Text("Wine_Name_Text"), Sample().name + " - " + Sample().label);
@@ -201,8 +193,8 @@ TEST_F(Pairings_of_Wine, Leaving_the_chooser_otherwise_changes_nothing) {
 // ---- cheeses ----
 
 TEST_F(Pairings_of_Wine, Each_pairing_counts_as_the_cheese_that_was_read_last_elsewhere) {
-  const Text cheese = Column("SELECT English FROM Maridages WHERE Cheese_ID <> -1").front();
-  const Text key = Column("SELECT Cheese_ID FROM Maridages WHERE Cheese_ID <> -1").front();
+  const Text cheese = One("SELECT English FROM Maridages WHERE Cheese_ID <> -1");
+  const Text key = One("SELECT Cheese_ID FROM Maridages WHERE Cheese_ID <> -1");
   const Long first = Put_Wine_with({Food(0)});
   const Long second = Put_Wine_with({Food(0), Food(1)});
   Start_With_Picked(first);
@@ -215,10 +207,7 @@ TEST_F(Pairings_of_Wine, Each_pairing_counts_as_the_cheese_that_was_read_last_el
   }
   Click("Exit_Command");
   Pick("Pairings_List");
-  const Texts rows = Shown_Rows("Maridages_ListView");
-  const auto row = std::ranges::find_if(
-      rows, [&](const Text& line) { return line.starts_with(cheese + " | "); });
-  Click_Row("Maridages_ListView", static_cast<int>(row - rows.begin()));
+  Click_Line("Maridages_ListView", cheese);
   Press("Esc");
   Pick("Wine_Mod");
   Pick_Wine(second);
@@ -234,12 +223,7 @@ TEST_F(Pairings_of_Wine, Each_pairing_counts_as_the_cheese_that_was_read_last_el
 TEST_F(Pairings_of_Wine, A_picked_wine_shows_its_pairings_in_the_language_and_in_every_mode) {
   const std::vector<Sample_Pairing> pairings{Food_at(0, 3), Food_at(0, 1), Food(1)};
   const Long wine = Put_Wine_with({pairings[1], Food(1)});
-  Change([&](Record_Store::Database& file) {  // both subgroups in one row
-    Record_Store::Recordset links = file.OpenRecordset("Maridages_Per_Wines");
-    links.Edit();
-    links.Fields("SUBCATEGO") = 101;
-    links.Update();
-  });
+  Set("Maridages_Per_Wines", {{"SUBCATEGO", 101}});  // both subgroups in one row
   const Long without = Put_Wine_with({});
   for (const auto& [number, language] :
        {std::pair{3, "English"}, {8, "Japanese"}, {9, "Portuguese"}}) {
@@ -247,7 +231,7 @@ TEST_F(Pairings_of_Wine, A_picked_wine_shows_its_pairings_in_the_language_and_in
     Texts names;
     for (const Sample_Pairing& pairing : pairings) {
       names.push_back(
-          Column("SELECT " + Text(language) + " FROM Maridages WHERE Maridage_ID = " + pairing.id)
+          Stored("SELECT " + Text(language) + " FROM Maridages WHERE Maridage_ID = " + pairing.id)
               .front());
     }
     Start_With_Picked(wine);
@@ -272,7 +256,6 @@ TEST_F(Pairings_of_Wine, A_picked_wine_shows_its_pairings_in_the_language_and_in
       EXPECT_EQ(Selection(), selection);
       Click("Exit_Command");
     }
-    Stop();
   }
 }
 
@@ -292,39 +275,26 @@ TEST_F(Pairings_of_Wine, A_wine_without_pairings_gets_none_of_the_wine_that_was_
 
 // ---- for a grape variety ----
 
-/// What the chooser asks of the screen of the varieties.
-class Small_Varieties_Form : public Forms::Form {
- public:
-  Small_Varieties_Form() : Form("Varieties_Form", "Varieties") {
-    Set_Content(Forms::Column({Variety_Name_Text, Suggested_Pairings_List}));
-  }
-  Forms::Text_Box Variety_Name_Text{*this, "Variety_Name_Text"};
-  Forms::List_Box Suggested_Pairings_List{*this, "Suggested_Pairings_List"};
-  Forms::List_Box Suggested_Pairings_Index_List{*this, "Suggested_Pairings_Index_List"};
-};
-
 class Pairings_of_Variety : public Search_Program {
  protected:
+  static constexpr const char* suggested = "Suggested_Pairings_List";
+  static constexpr const char* suggested_keys = "Suggested_Pairings_Index_List";
+
   Pairings_of_Variety() {
-    Forms::Screens::Register<Small_Varieties_Form>("Varieties_Form");
+    // What the chooser asks of the screen of the varieties.
+    Stand_In("Varieties_Form", {"Variety_Name_Text", suggested, suggested_keys});
     Varieties.Variety_Name = "Carménère";
     Variety_Pairings_Changed = false;
-  }
-  ~Pairings_of_Variety() override {
-    Stop();
-    Forms::Screens::Register("Varieties_Form", {});
   }
   // The variety has two pairings, and its name is being changed.
   void Open_Chooser(const char* command) {
     Start();
-    Open_Screen_Under("Varieties_Form", command);
-    auto& screen = dynamic_cast<Small_Varieties_Form&>(Forms::Screen("Varieties_Form").Instance());
-    for (const Sample_Pairing& pairing : {Food(1), Food(0)}) {
-      screen.Suggested_Pairings_List.AddItem(pairing.name);
-      screen.Suggested_Pairings_Index_List.AddItem(pairing.id);
+    Open_Under("Varieties_Form", command);
+    for (const Sample_Pairing& food : {Food(1), Food(0)}) {
+      Give("Varieties_Form", suggested, suggested_keys, food.name, food.id);
     }
     Type_Into("Variety_Name_Text", "Grande Vidure");
-    Open_Screen_Under(chooser, command);
+    Open_Under(chooser, command);
   }
 };
 
@@ -339,12 +309,12 @@ TEST_F(Pairings_of_Variety, They_begin_as_they_are_and_cheeses_are_offered_besid
     Click_Row(options, 1);
     EXPECT_EQ(Shown_Text("Pairings_Label"), "All available Cheeses");
     const Texts cheeses =
-        Column("SELECT English FROM Maridages WHERE Cheese_ID <> -1 ORDER BY English");
+        Stored("SELECT English FROM Maridages WHERE Cheese_ID <> -1 ORDER BY English");
     EXPECT_EQ(Lines("Cat_List"), cheeses);
     Click("MultCancel");
     EXPECT_FALSE(Variety_Pairings_Changed);
     EXPECT_TRUE(Is_Seen("Varieties_Form"));
-    Open_Screen_Under(chooser, command);
+    Open_Under(chooser, command);
     Click_Row(options, 1);
     Double_Click_Line("Cat_List", cheeses[1]);
     Double_Click_Line("SelectList", Food(1).name);
@@ -352,11 +322,10 @@ TEST_F(Pairings_of_Variety, They_begin_as_they_are_and_cheeses_are_offered_besid
     EXPECT_TRUE(std::exchange(Variety_Pairings_Changed, false));
     EXPECT_TRUE(Is_Seen("Varieties_Form"));
     EXPECT_FALSE(Is_There(chooser));
-    const Text key = Column(
+    const Text key = Stored(
         "SELECT Maridage_ID FROM Maridages WHERE Cheese_ID <> -1 "
         "ORDER BY English")[1];
-    EXPECT_THAT(Selection(), ElementsAre(Selection_of({Food(0)})[0], key + "=" + cheeses[1]));
-    Stop();
+    EXPECT_THAT(Selection(), ElementsAre(Selection_of({Food(0)})[0], cheeses[1] + "|" + key));
   }
 }
 

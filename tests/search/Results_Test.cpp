@@ -1,5 +1,4 @@
 // The wines that a search found: their list, the wine that was clicked, and the bottle uncorked.
-#include <gmock/gmock.h>
 
 #include <QWidget>
 
@@ -7,68 +6,20 @@
 
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::StartsWith;
-
-constexpr const char* results = "Wine_Search_Results_Form";
-constexpr const char* list = "Wine_Cellar_ListView";
-constexpr const char* button = "Multi_Functional_Command";
-
 class Search_Results : public Search_Program {
  protected:
   void Start_With_Found(const std::vector<Sample_Pairing>& pairings) {
     Start();
     Search_for(pairings);
   }
-  template <class Kind>
-  static Kind& Control(const Text& name) {
-    return Forms::Screen(results).Get<Kind>(name);
-  }
   static Long Selected_Wine() {
-    auto& view = Control<Forms::List_View>(list);
+    auto& view = Forms::Screen(results).Get<Forms::List_View>(list);
     return view.Has_Selection() ? To_Long(view.SelectedItem().SubItems(9)) : -1;
   }
-  static bool Says_Required(const char* field) {
-    return Control<Forms::Placed_Control>(field).BackColor() == Forms::Required_Color;
-  }
-  static Texts Ticked() {
-    Texts ticked;
-    for (const auto& [kind, last] : {std::pair{"Taste_Check_", 5}, {"Aroma_Check_", 7}}) {
-      for (int box = 0; box <= last; ++box) {
-        const Text name = kind + std::to_string(box);
-        if (Control<Forms::Check_Box>(name).Value() == 1) ticked.push_back(name);
-      }
-    }
-    return ticked;
-  }
-  static Texts Ticked_Grapes() {
-    const auto& grapes = Control<Forms::Check_List>("Variety_Combo");
-    Texts ticked;
-    for (int row = 0; row < grapes.ListCount(); ++row) {
-      if (grapes.Selected(row)) ticked.push_back(grapes.List(row));
-    }
-    return ticked;
-  }
-  /// In English and Spanish.
-  Long Put_Texts(const char* english, const char* spanish) const {
-    const Long key = Put_Text(english);
-    Change([&](Record_Store::Database& file) {
-      Record_Store::Recordset texts = file.OpenRecordset("Words_for_Data");
-      texts.MoveLast();
-      texts.Edit();
-      texts.Fields("Spanish") = spanish;
-      texts.Update();
-    });
-    return key;
-  }
   static void Uncork() {
-    const Box_Script boxes;
-    Click(button);
-    ASSERT_EQ(boxes.Boxes().size(), 1U);
-    EXPECT_EQ(boxes.Boxes()[0].title, "WINE UNCORKED");
-    EXPECT_EQ(boxes.Boxes()[0].text,
-              "Your Wine Cellar was updated. This bottle of Wine was marked as Uncorked");
+    EXPECT_THAT(Told_By([] { Click(button); }),
+                ElementsAre("WINE UNCORKED: Your Wine Cellar was updated. This bottle of Wine was "
+                            "marked as Uncorked"));
   }
 };
 
@@ -90,10 +41,10 @@ TEST_F(Search_Results, A_row_tells_the_wine_and_leaves_blank_what_it_does_not_ha
   EXPECT_EQ(Selected_Wine(), -1);
   EXPECT_EQ(Focused(), list);
   for (const char* field : {"Winery_Combo", "Country_Combo", "Price_Text", "Comments_Text"}) {
-    EXPECT_TRUE(Control<Forms::Lockable_Control>(field).Locked()) << field;
+    EXPECT_TRUE(Is_Locked(field)) << field;
   }
   Click("Aroma_Check_0");
-  EXPECT_THAT(Ticked(), IsEmpty());
+  EXPECT_THAT(Ticked_Boxes(), IsEmpty());
 }
 
 TEST_F(Search_Results, Headers_sort_as_text_and_two_of_them_only_turn_the_order) {
@@ -138,8 +89,8 @@ TEST_F(Search_Results, Headers_sort_as_text_and_two_of_them_only_turn_the_order)
 TEST_F(Search_Results, A_click_shows_the_whole_wine_and_nothing_of_it_can_be_changed) {
   const Sample_Winery& winery = Sample();
   Wines_Record wine = Sample_Wine();
-  wine.Description = Put_Texts("Dry", "Seco");
-  wine.Comments = Put_Texts("Fine", "Fino");
+  wine.Description = Put_Text("Dry", "Seco");
+  wine.Comments = Put_Text("Fine", "Fino");
   wine.Last_Date_Uncorked = Date::Of(2021, 2, 28);
   const Long key = Put_Wine(wine, {winery.variety_ids[0], winery.variety_ids[2]});
   for (const Sample_Pairing& pairing : {Food(0), Food(1)}) Put_Pairing(key, pairing);
@@ -147,15 +98,14 @@ TEST_F(Search_Results, A_click_shows_the_whole_wine_and_nothing_of_it_can_be_cha
   Put_Mark(key, "Aroma", 7);
   const Long bare = Put_Wine_with({Food(0)}, Sample_Wine(1));
   Set_Language(4);
-  Start();
-  Pick("Pairing_Search_Cellar");
-  const Text spanish = Column("SELECT Spanish FROM Maridages WHERE Maridage_ID = " + Food(0).id)[0];
-  const Text other = Column("SELECT Spanish FROM Maridages WHERE Maridage_ID = " + Food(1).id)[0];
-  const Text country = Column("SELECT Spanish_Name FROM World_Contries WHERE Short_Name = '" +
+  Start_With("Pairing_Search_Cellar");
+  const Text in_spanish = One("SELECT Spanish FROM Maridages WHERE Maridage_ID = " + Food(0).id);
+  const Text other = One("SELECT Spanish FROM Maridages WHERE Maridage_ID = " + Food(1).id);
+  const Text country = Stored("SELECT Spanish_Name FROM World_Contries WHERE Short_Name = '" +
                               winery.country + "'")[0];
-  Add(spanish);
+  Add(in_spanish);
   Click("MultSelect");
-  EXPECT_THAT(Lines("Requested_Pairings_List"), ElementsAre(spanish));
+  EXPECT_THAT(Lines("Requested_Pairings_List"), ElementsAre(in_spanish));
   const std::vector<std::pair<const char*, Text>> fields{
       {"Winery_Combo", winery.name},
       {"Label_Combo", winery.label},
@@ -176,9 +126,10 @@ TEST_F(Search_Results, A_click_shows_the_whole_wine_and_nothing_of_it_can_be_cha
       {"Date_Added_Text", To_Text(wine.Date_Added)}};
   const auto expect_shown = [&](const char* when) {
     for (const auto& [field, text] : fields) EXPECT_EQ(Shown_Text(field), text) << field << when;
-    EXPECT_THAT(Ticked_Grapes(), ElementsAre(winery.varieties[0], winery.varieties[2])) << when;
-    EXPECT_THAT(Ticked(), ElementsAre("Taste_Check_2", "Aroma_Check_7")) << when;
-    EXPECT_THAT(Lines("Pairing_List"), ElementsAre(spanish, other)) << when;
+    EXPECT_THAT(Ticked_Rows("Variety_Combo"), ElementsAre(winery.varieties[0], winery.varieties[2]))
+        << when;
+    EXPECT_THAT(Ticked_Boxes(), ElementsAre("Taste_Check_2", "Aroma_Check_7")) << when;
+    EXPECT_THAT(Lines("Pairing_List"), ElementsAre(in_spanish, other)) << when;
   };
   Pick_Wine(key);
   expect_shown(" after the click");
@@ -187,7 +138,7 @@ TEST_F(Search_Results, A_click_shows_the_whole_wine_and_nothing_of_it_can_be_cha
   EXPECT_EQ(Shown_Text(button), "UNCORK");
   EXPECT_TRUE(Is_Usable(button));
   for (const auto& [field, text] : fields) {
-    EXPECT_EQ(Control<Forms::Placed_Control>(field).BackColor(), Forms::Locked_Color) << field;
+    EXPECT_EQ(Color_of(field), "locked") << field;
     Click(field);
     for (const char* keys : {"Down", "Ctrl+A", "Delete"}) Press(keys);
     Type("7");
@@ -199,8 +150,8 @@ TEST_F(Search_Results, A_click_shows_the_whole_wine_and_nothing_of_it_can_be_cha
   EXPECT_EQ(Shown_Text("Winery_Combo"), Sample(1).name);
   EXPECT_EQ(Shown_Text("Description_Text"), " ");
   EXPECT_EQ(Shown_Text("Last_Date_Uncorked_Text"), " ");
-  EXPECT_THAT(Ticked(), IsEmpty());
-  EXPECT_THAT(Lines("Pairing_List"), ElementsAre(spanish));
+  EXPECT_THAT(Ticked_Boxes(), IsEmpty());
+  EXPECT_THAT(Lines("Pairing_List"), ElementsAre(in_spanish));
 }
 
 // ---- uncorking ----
@@ -221,11 +172,11 @@ TEST_F(Search_Results, A_bottle_uncorked_is_stored_and_the_list_goes_by_the_pair
   now_ = Date::Of(2026, 7, 1, 20, 15);
   Uncork();
   EXPECT_EQ(Bottles_of(wine), "1");
-  EXPECT_EQ(Column("SELECT Last_Date_Uncorked FROM Wines ORDER BY Wine_ID"),
+  EXPECT_EQ(Stored("SELECT Last_Date_Uncorked FROM Wines ORDER BY Wine_ID"),
             Texts({To_Text(No_Date), To_Text(now_), To_Text(No_Date)}));
   EXPECT_EQ(Shown_Text("Total_Bottles_Text"), "1");
   EXPECT_EQ(Shown_Text("Last_Date_Uncorked_Text"), To_Text(now_));
-  EXPECT_FALSE(Says_Required("Total_Bottles_Text"));
+  EXPECT_EQ(Color_of("Total_Bottles_Text"), "locked");
   EXPECT_THAT(Wines_Listed(), ElementsAre(asked, wine, not_asked));
   EXPECT_EQ(Shown_Text("Wines_Number"), "3");
   EXPECT_THAT(Lines("Requested_Pairings_List"), ElementsAre(Food(0).name, Food(1).name));
@@ -235,12 +186,12 @@ TEST_F(Search_Results, A_bottle_uncorked_is_stored_and_the_list_goes_by_the_pair
   Uncork();
   EXPECT_EQ(Bottles_of(wine), "0");
   EXPECT_EQ(Shown_Text("Total_Bottles_Text"), "0");
-  EXPECT_TRUE(Says_Required("Total_Bottles_Text"));
+  EXPECT_EQ(Color_of("Total_Bottles_Text"), "required");
   EXPECT_FALSE(Is_Usable(button));
   EXPECT_EQ(Focused(), list);
   EXPECT_THAT(Shown_Rows(list).at(1), testing::EndsWith(" | 0 | " + To_Text(wine)));
   Pick_Wine(not_asked);
-  EXPECT_FALSE(Says_Required("Total_Bottles_Text"));
+  EXPECT_EQ(Color_of("Total_Bottles_Text"), "locked");
   EXPECT_TRUE(Is_Usable(button));
   Pick_Wine(wine);
   EXPECT_EQ(Shown_Text("Total_Bottles_Text"), "0");
@@ -342,28 +293,17 @@ TEST_F(Search_Results, A_wine_whose_winery_has_gone_shows_the_one_before) {
 
 TEST_F(Search_Results, A_wine_that_has_gone_meanwhile_ends_the_run) {
   const auto remove_the_wine = [this] {
-    Change([](Record_Store::Database& file) {
-      Record_Store::Recordset wines = file.OpenRecordset("Wines");
-      wines.Delete();
-    });
-  };
-  const auto expect_end = [this](const std::function<void()>& action) {
-    const Box_Script boxes;
-    const End_Watch end;
-    action();
-    EXPECT_EQ(end.Status(), 1);
-    EXPECT_THAT(boxes.Texts(), ElementsAre(StartsWith("Run-time error '3021':")));
-    Stop();
+    Change([](Record_Store::Database& file) { file.OpenRecordset("Wines").Delete(); });
   };
   const Long first = Put_Wine_with({Food(0)});
   const Long second = Put_Wine_with({Food(0)});
   Start_With_Found({Food(0)});
   remove_the_wine();
-  expect_end([first] { Pick_Wine(first); });
+  Expect_End(3021, [first] { Pick_Wine(first); });
   Start_With_Found({Food(0)});
   Pick_Wine(second);
   remove_the_wine();
-  expect_end([] { Click(button); });
+  Expect_End(3021, [] { Click(button); });
 }
 
 }  // namespace

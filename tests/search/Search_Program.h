@@ -2,21 +2,15 @@
 // user's way from the menu to the wines that were found.
 #pragma once
 
-#include <utility>
-
-#include "core/Globals.h"
-#include "core/tables/Catalogue.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
 #include "links/Varieties_Processes.h"
-#include "platform/forms/Forms.h"
-#include "platform/forms/Screens.h"
-#include "platform/run_time/Conversions.h"
-#include "tests/pairing/Pairing_Program.h"
-
-using Texts = std::vector<Text>;
+#include "tests/support/Pairing_Program.h"
 
 class Search_Program : public Pairing_Program {
  protected:
+  static constexpr const char* results = "Wine_Search_Results_Form";
+  static constexpr const char* list = "Wine_Cellar_ListView";
+  static constexpr const char* button = "Multi_Functional_Command";
+
   /// As in a program that was just started: no row was read, nothing chosen or found before.
   void SetUp() override {
     Maridages = {};
@@ -40,7 +34,6 @@ class Search_Program : public Pairing_Program {
   Long Put_Wine_with(const std::vector<Sample_Pairing>& pairings) const {
     return Put_Wine_with(pairings, Sample_Wine());
   }
-
   /// So many wines with this one pairing each.
   void Put_Wines_with(const Sample_Pairing& pairing, int count) const {
     Change([&](Record_Store::Database& file) {
@@ -58,36 +51,16 @@ class Search_Program : public Pairing_Program {
     });
   }
 
-  Texts Column(const Text& statement) const { return Stored(statement, 1); }
   /// The wine's link rows, "GROUP|SUBCATEGO", in their order.
   Texts Links_of(Long wine) const {
     return Stored("SELECT [GROUP], SUBCATEGO FROM Maridages_Per_Wines WHERE Wine_ID = " +
-                      To_Text(wine) + " ORDER BY rowid",
-                  2);
+                  To_Text(wine) + " ORDER BY rowid");
   }
   static Text Link(const Sample_Pairing& pairing, const char* mask) {
     return To_Text(pairing.group * 10) + "|" + mask;
   }
-  int Used(const Sample_Pairing& pairing) const {
-    return std::stoi(
-        Column("SELECT Used FROM Maridages WHERE Maridage_ID = " + pairing.id).front());
-  }
   Text Bottles_of(Long wine) const {
-    return Column("SELECT Total_Bottles FROM Wines WHERE Wine_ID = " + To_Text(wine)).front();
-  }
-
-  /// The selection as the next search or store would take it.
-  static Texts Selection() {
-    Texts names;
-    for (int item = 1; item <= Selected_Count; ++item) {
-      names.push_back(Selected_IDs[item] + "=" + Selected_Names[item]);
-    }
-    return names;
-  }
-  static Texts Selection_of(const std::vector<Sample_Pairing>& pairings) {
-    Texts names;
-    for (const Sample_Pairing& pairing : pairings) names.push_back(pairing.id + "=" + pairing.name);
-    return names;
+    return One("SELECT Total_Bottles FROM Wines WHERE Wine_ID = " + To_Text(wine));
   }
 
   /// From the main window to the wines found, or to the boxes that say there are none.
@@ -99,9 +72,7 @@ class Search_Program : public Pairing_Program {
   /// The keys of the wines that are listed, in their order.
   static std::vector<Long> Wines_Listed() {
     std::vector<Long> keys;
-    for (const Text& row : Shown_Rows("Wine_Cellar_ListView")) {
-      keys.push_back(To_Long(row.substr(row.rfind(" | ") + 3)));
-    }
+    for (const Text& key : Shown_Column(list, 9)) keys.push_back(To_Long(key));
     return keys;
   }
 };

@@ -1,6 +1,6 @@
 #include "tests/support/Drive.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <QAction>
 #include <QApplication>
@@ -19,8 +19,10 @@
 #include <QTreeView>
 #include <QWheelEvent>
 #include <QWindow>
+#include <algorithm>
 #include <stdexcept>
 
+#include "platform/forms/Forms.h"
 #include "platform/run_time/Guard.h"
 
 namespace {
@@ -126,6 +128,13 @@ QRect Place_Of(const QWidget* bar_or_menu, QAction* action) {
   return qobject_cast<const QMenuBar*>(bar_or_menu)->actionGeometry(action);
 }
 
+template <class Kind>
+Kind& Control(std::string_view name) {
+  const QWidget& widget = Find(name);
+  return Forms::Screen(widget.window()->objectName().toStdString())
+      .Get<Kind>(widget.objectName().toStdString());
+}
+
 }  // namespace
 
 QWidget& Find(std::string_view name) {
@@ -173,11 +182,11 @@ std::string Shown_Text(std::string_view name) {
       .toStdString();
 }
 
-std::vector<std::string> Shown_Rows(std::string_view name) {
+Texts Shown_Rows(std::string_view name) {
   QWidget& widget = Find(name);
   const auto* combo = qobject_cast<QComboBox*>(&widget);
   const QAbstractItemModel* model = combo != nullptr ? combo->model() : Find_List(name).model();
-  std::vector<std::string> rows;
+  Texts rows;
   for (int row = 0; row < model->rowCount(); ++row) {
     QStringList cells;
     for (int column = 0; column < model->columnCount(); ++column) {
@@ -186,6 +195,47 @@ std::vector<std::string> Shown_Rows(std::string_view name) {
     rows.push_back(cells.join(" | ").toStdString());
   }
   return rows;
+}
+
+Texts Shown_Column(std::string_view name, std::size_t column) {
+  Texts cells;
+  for (const std::string& row : Shown_Rows(name)) {
+    std::size_t begin = 0;
+    for (std::size_t skipped = 0; skipped < column; ++skipped) begin = row.find(" | ", begin) + 3;
+    cells.push_back(row.substr(begin, row.find(" | ", begin) - begin));
+  }
+  return cells;
+}
+
+int Row_With(std::string_view name, const std::string& text, std::size_t column) {
+  const Texts cells = Shown_Column(name, column);
+  const auto found = std::ranges::find(cells, text);
+  if (found != cells.end()) return static_cast<int>(found - cells.begin());
+  ADD_FAILURE() << name << " has no row with \"" << text << '"';
+  return -1;
+}
+
+std::string Color_of(std::string_view name) {
+  const Forms::Color color = Control<Forms::Placed_Control>(name).BackColor();
+  if (color == Forms::Window_Color) return "open";
+  if (color == Forms::Required_Color) return "required";
+  if (color == Forms::Locked_Color) return "locked";
+  return color == Forms::Open_Check_Color ? "check" : "another colour";
+}
+
+bool Is_Locked(std::string_view name) { return Control<Forms::Lockable_Control>(name).Locked(); }
+
+bool Is_Ticked(std::string_view check_box) {
+  return Control<Forms::Check_Box>(check_box).Value() == 1;
+}
+
+Texts Ticked_Rows(std::string_view name) {
+  const auto& list = Control<Forms::Check_List>(name);
+  Texts ticked;
+  for (int row = 0; row < list.ListCount(); ++row) {
+    if (list.Selected(row)) ticked.push_back(list.List(row));
+  }
+  return ticked;
 }
 
 void Click(std::string_view name) {
@@ -209,6 +259,10 @@ void Click_Row(std::string_view name, int row, bool with_ctrl) {
   const QRect place = Row_Place(view, row);
   Click_At(*view.viewport(), QPoint(place.right() - qMin(8, place.width() / 2), place.center().y()),
            with_ctrl ? Qt::ControlModifier : Qt::NoModifier);
+}
+
+void Click_Line(std::string_view name, const std::string& text, std::size_t column) {
+  Click_Row(name, Row_With(name, text, column));
 }
 
 void Click_Tick(std::string_view name, int row) {
@@ -320,10 +374,32 @@ Box_Script::Box_Script(std::vector<bool> answers) : answers_(std::move(answers))
 
 Box_Script::~Box_Script() { Forms::Watch_Boxes_For_Tests({}); }
 
-std::vector<std::string> Box_Script::Texts() const {
-  std::vector<std::string> texts;
+Texts Box_Script::Texts() const {
+  ::Texts texts;
   for (const Forms::Box& box : boxes_) texts.push_back(box.text);
   return texts;
+}
+
+Texts Box_Script::Said() const {
+  ::Texts said;
+  for (const Forms::Box& box : boxes_) {
+    said.push_back(box.title + (box.asks ? "? " : ": ") + box.text);
+  }
+  return said;
+}
+
+Texts Told_By(const std::function<void()>& action) {
+  const Box_Script boxes;
+  action();
+  return boxes.Said();
+}
+
+void Expect_End(int number, const std::function<void()>& action) {
+  const End_Watch end;
+  EXPECT_THAT(Told_By(action),
+              testing::ElementsAre(testing::StartsWith("Wine Cellar: Run-time error '" +
+                                                       std::to_string(number) + "':")));
+  EXPECT_EQ(end.Status(), 1);
 }
 
 End_Watch::End_Watch() {

@@ -11,6 +11,8 @@
 
 class QWidget;
 
+using Texts = std::vector<std::string>;
+
 /// The widget of this name: a form, or a control. "Form/Control" where two forms have one of the
 /// name; otherwise one that can be seen is preferred. Fails the test, and throws, if there is none.
 QWidget& Find(std::string_view name);
@@ -22,13 +24,25 @@ bool Is_Usable(std::string_view name);
 /// What it shows: a text, the entry of a combo box, a caption (without mnemonic), a window's title.
 std::string Shown_Text(std::string_view name);
 /// The same of a list, a line for each row; the cells of a row are parted by " | ".
-std::vector<std::string> Shown_Rows(std::string_view name);
+Texts Shown_Rows(std::string_view name);
+/// One cell of each row.
+Texts Shown_Column(std::string_view name, std::size_t column);
+/// The row, from 0, whose cell in this column shows this text; fails the test, with -1, if none.
+int Row_With(std::string_view name, const std::string& text, std::size_t column = 0);
+
+/// "open", "required", "locked" or "check": the state that the control's colour stands for.
+std::string Color_of(std::string_view name);
+bool Is_Locked(std::string_view name);
+bool Is_Ticked(std::string_view check_box);
+/// The ticked entries of a check list.
+Texts Ticked_Rows(std::string_view name);
 
 /// Clicks in the middle, with the left button; `Double_Click` twice.
 void Click(std::string_view name);
 void Double_Click(std::string_view name);
 /// Clicks on the row of a list, from 0, the tick box of a check list, or the header of a column.
 void Click_Row(std::string_view name, int row, bool with_ctrl = false);
+void Click_Line(std::string_view name, const std::string& text, std::size_t column = 0);
 void Click_Tick(std::string_view name, int row);
 void Click_Header(std::string_view name, int column);
 /// Chooses the entry of a combo box by mouse: opens the list and clicks the line.
@@ -66,7 +80,9 @@ class Box_Script {
   Box_Script& operator=(const Box_Script&) = delete;
 
   const std::vector<Forms::Box>& Boxes() const { return boxes_; }
-  std::vector<std::string> Texts() const;
+  ::Texts Texts() const;
+  /// "TITLE: text", or "TITLE? text" where the box asked.
+  ::Texts Said() const;
   void Forget() { boxes_.clear(); }
 
  private:
@@ -88,3 +104,8 @@ class End_Watch {
  private:
   int status_ = -1;
 };
+
+/// What the boxes said, as in `Said`, that the action brought up.
+Texts Told_By(const std::function<void()>& action);
+/// The action ends the run with this failure, told once.
+void Expect_End(int number, const std::function<void()>& action);

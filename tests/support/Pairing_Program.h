@@ -3,10 +3,8 @@
 // the pickers.
 #pragma once
 
-#include <string>
-#include <vector>
-
-#include "tests/cellar/Cellar_Program.h"
+#include "tests/forms/Row_Clicks.h"
+#include "tests/support/Cellar_Program.h"
 
 /// A pairing of the delivered file.
 struct Sample_Pairing {
@@ -25,16 +23,20 @@ class Pairing_Program : public Cellar_Program {
 
   /// Gives a wine that is in the file these pairings, one row for each.
   void Put_Pairing(Long wine, const Sample_Pairing& pairing) const;
+  /// How often it was used so far.
+  int Used(const Sample_Pairing& pairing) const;
 
-  /// Clicks the line of a list that shows this text; fails the test where none does.
-  static void Click_Line(const std::string& list, const Text& text);
-  static void Double_Click_Line(const std::string& list, const Text& text);
+  static void Double_Click_Line(const char* list, const Text& text);
   /// Chooses it in the open picker: click, and the button.
   static void Add(const Text& text);
+  /// An entry of two lists in step on a stand-in.
+  static void Give(const char* screen, const char* list, const char* keys, const Text& text,
+                   const Text& key);
 
-  /// Opens a screen under a command that no menu entry stores.
-  static void Open_Screen_Under(const char* screen, const char* command);
+  /// What was handed over, or would be taken by the next search or store: "name|key".
+  static Texts Selection();
+  static Texts Selection_of(const std::vector<Sample_Pairing>& pairings);
 
   /// The lines of a list.
-  static std::vector<std::string> Lines(const char* list) { return Shown_Rows(list); }
+  static Texts Lines(const char* list) { return Shown_Rows(list); }
 };

@@ -14,140 +14,110 @@ using Data_Compiler::Library;
 using Data_Compiler::Problems;
 
 struct Fault {
-  const char* name;
   std::function<void(Library&)> break_it;
   const char* problem;
 };
 
+using Harm = std::function<void(Library&)>;
+template <class Record, class Value, class Given>
+Harm First(Value Record::*member, Given value) {
+  return
+      [=](Library& library) { library.Of<Record>().front().*member = static_cast<Value>(value); };
+}
+template <class Record, class Value, class Given>
+Harm Last(Value Record::*member, Given value) {
+  return [=](Library& library) { library.Of<Record>().back().*member = static_cast<Value>(value); };
+}
 template <class Record>
-Record& First(Library& library) {
-  return library.Of<Record>().front();
+Harm One_More(const Record& record) {
+  return [=](Library& library) { library.Add(Record(record)); };
+}
+template <class Record>
+void Without_Last(Library& library) {
+  library.Of<Record>().pop_back();
+}
+template <class Record>
+Harm So_Many(std::size_t count) {
+  return [=](Library& library) { library.Of<Record>().resize(count); };
 }
 
-const Fault Faults[] = {
-    {"Key_Out_Of_Range", [](Library& l) { First<Wineries_Record>(l).Winery_ID = "10000"; },
-     "key 10000 lies outside 10001 to 20000"},
-    {"Keys_Out_Of_Order", [](Library& l) { First<Labels_Record>(l).Label_ID = 20003; },
-     "or does not rise"},
-    {"Origin", [](Library& l) { First<Regions_Record>(l).SERIAL_NUMBER = "CUS1-1"; },
-     "origin mark 'CUS1-1'"},
-    {"Key_Leads_Nowhere", [](Library& l) { First<Labels_per_Winery_Record>(l).Label_ID = 20999; },
-     "its key into Labels leads nowhere"},
-    {"History_Is_No_Key", [](Library& l) { First<Wineries_Record>(l).History = "x"; },
-     "its key into Words_for_Data leads nowhere"},
-    {"Country", [](Library& l) { First<Classification_Record>(l).Country = "FRX"; },
-     "its country 'FRX' is unknown"},
-    {"Used", [](Library& l) { --First<Maridages_Record>(l).Used; }, "rows refer to it"},
-    {"Group_Of_Users", [](Library& l) { First<Regions_Record>(l).Region_Group = 1000000; },
-     "group 1000000 is not one for delivered rows"},
-    {"Hole_In_Group", [](Library& l) { First<Regions_Record>(l).Region_SubGr = 4; },
+const Fault faults[] = {
+    {First(&Wineries_Record::Winery_ID, "10000"), "key 10000 lies outside 10001 to 20000"},
+    {First(&Labels_Record::Label_ID, 20003), "or does not rise"},
+    {First(&Regions_Record::SERIAL_NUMBER, "CUS1-1"), "origin mark 'CUS1-1'"},
+    {First(&Labels_per_Winery_Record::Label_ID, 20999), "its key into Labels leads nowhere"},
+    {First(&Wineries_Record::History, "x"), "its key into Words_for_Data leads nowhere"},
+    {First(&Classification_Record::Country, "FRX"), "its country 'FRX' is unknown"},
+    {[](Library& l) { --l.Of<Maridages_Record>().front().Used; }, "rows refer to it"},
+    {First(&Regions_Record::Region_Group, 1000000), "group 1000000 is not one for delivered rows"},
+    {First(&Regions_Record::Region_SubGr, 4),
      "Regions: the subgroups of group 1 are not 1 to 10 without a hole"},
-    {"Eleven_In_Group",
-     [](Library& l) {
+    {[](Library& l) {
        auto& last = l.Of<Varieties_Record>().back();
        last.Variety_Group = 1;
        last.Variety_SubGr = 11;
      },
      "Varieties: the subgroups of group 1 are not"},
-    {"Missing_Subgroup",
-     [](Library& l) { l.Of<Varieties_Per_Region_Record>().back().SUBCATEGO = 10; },
+    {Last(&Varieties_Per_Region_Record::SUBCATEGO, 10),
      "the mask names subgroup 2 of group 2, which is missing"},
-    {"No_Mask", [](Library& l) { First<Maridages_Per_Variety_Record>(l).SUBCATEGO = 20; },
-     "group 10, mask 20 is no link row"},
-    {"Directions", [](Library& l) { l.Of<Regions_Per_Variety_Record>().pop_back(); },
+    {First(&Maridages_Per_Variety_Record::SUBCATEGO, 20), "group 10, mask 20 is no link row"},
+    {Without_Last<Regions_Per_Variety_Record>,
      "Varieties_Per_Region and Regions_Per_Variety: the two directions do not agree"},
-    {"Directions_Of_Cheeses",
-     [](Library& l) { l.Of<Mobile_Wines_Per_Cheeses_Record>().pop_back(); },
+    {Without_Last<Mobile_Wines_Per_Cheeses_Record>,
      "Cheeses_Per_Mobile_Wines and Mobile_Wines_Per_Cheeses: the two directions"},
-    {"Parent_Lacks_A_Variety",
-     [](Library& l) {
+    {[](Library& l) {
        // Malbec of the region around Médoc, in both directions.
-       auto& masks = First<Varieties_Per_Region_Record>(l);
+       auto& masks = l.Of<Varieties_Per_Region_Record>().front();
        masks.SUBCATEGO -= 100;
        std::erase_if(l.Of<Regions_Per_Variety_Record>(),
                      [](const auto& row) { return row.Region_ID == 1 && row.Variety_ID == 3; });
      },
      "Bordeaux lacks variety 3 of Médoc"},
-    {"Region_Of_A_Winery", [](Library& l) { First<Wineries_Record>(l).Region = "Sud"; },
-     "its region is not 'Sud' of FRA"},
-    {"Label_Of_Another_Country",
-     [](Library& l) { First<Labels_per_Winery_Record>(l).Label_ID = 20005; },
-     "Reserve is a label of another country"},
-    {"Parent_In_Another_Country", [](Library& l) { l.Of<Regions_Record>()[1].Country = "USA"; },
+    {First(&Wineries_Record::Region, "Sud"), "its region is not 'Sud' of FRA"},
+    {First(&Labels_per_Winery_Record::Label_ID, 20005), "Reserve is a label of another country"},
+    {[](Library& l) { l.Of<Regions_Record>()[1].Country = "USA"; },
      "Médoc lies in another country than Bordeaux"},
-    {"Label_Of_A_Winery_Twice",
-     [](Library& l) {
-       l.Add(Labels_per_Winery_Record{10001, 20001});
-     },
-     "a label of the winery stands twice"},
-    {"Link_Twice",
-     [](Library& l) {
-       l.Add(Maridages_Per_Cheeses_Record{1, 10, 1});
-     },
-     "the link stands twice"},
-    {"Colour_Without_Marks",
-     [](Library& l) {
+    {One_More(Labels_per_Winery_Record{10001, 20001}), "a label of the winery stands twice"},
+    {One_More(Maridages_Per_Cheeses_Record{1, 10, 1}), "the link stands twice"},
+    {[](Library& l) {
        std::erase_if(l.Of<Wine_Taste_Type_Record>(),
                      [](const auto& row) { return row.Color == "Fortified"; });
      },
      "wine_taste_type.tsv: no marks for Fortified"},
-    {"More_Marks_Than_Boxes",
-     [](Library& l) {
-       l.Add(Wine_Taste_Type_Record{"Red", "Taste"});
-     },
-     "more marks than the screens have boxes"},
-    {"Last_Pairing", [](Library& l) { l.Of<Maridages_Record>().back().Cheese_ID = 1; },
-     "the last pairing must be a food"},
-    {"Pairings_Without_Numbers",
-     [](Library& l) { l.Of<Mobile_Wines_per_Maridage_Record>().clear(); },
-     "Mobile_Wines_per_Maridage: the table is empty"},
-    {"Pairings_Out_Of_Order",
-     [](Library& l) {
-       First<Mobile_Wines_per_Maridage_Record>(l).Mobile_Wines_per_Maridage_ID = 9;
-     },
+    {One_More(Wine_Taste_Type_Record{"Red", "Taste"}), "more marks than the screens have boxes"},
+    {Last(&Maridages_Record::Cheese_ID, 1), "the last pairing must be a food"},
+    {So_Many<Mobile_Wines_per_Maridage_Record>(0), "Mobile_Wines_per_Maridage: the table is empty"},
+    {First(&Mobile_Wines_per_Maridage_Record::Mobile_Wines_per_Maridage_ID, 9),
      "Mobile_Wines_per_Maridage: out of order at number 2"},
-    {"Too_Many_Pairings",
-     [](Library& l) { l.Of<Mobile_Wines_per_Maridage_Record>().resize(25001); },
-     "more than 25000 rows"},
-    {"Too_Many_To_Make_Anew",
-     [](Library& l) { l.Of<Varieties_Per_Maridage_Record>().resize(16384); },
-     "Varieties_Per_Maridage: more than 16383 rows"},
-    {"Type_Of_A_Wine", [](Library& l) { First<Mobile_Wines_Record>(l).Mobile_Wine_Type = "ZZ"; },
-     "unknown type 'ZZ'"},
-    {"Country_Of_A_Variety_Wine",
-     [](Library& l) { First<Mobile_Wines_Record>(l).Mobile_Wine_Country = "FRA"; },
+    {So_Many<Mobile_Wines_per_Maridage_Record>(25001), "more than 25000 rows"},
+    {So_Many<Varieties_Per_Maridage_Record>(16384), "Varieties_Per_Maridage: more than 16383 rows"},
+    {First(&Mobile_Wines_Record::Mobile_Wine_Type, "ZZ"), "unknown type 'ZZ'"},
+    {First(&Mobile_Wines_Record::Mobile_Wine_Country, "FRA"),
      "variety wines alone are of all countries"},
-    {"Two_Wines_Of_One_Name",
-     [](Library& l) { First<Mobile_Wines_Record>(l).Mobile_Wine_Name = "Pauillac"; },
+    {First(&Mobile_Wines_Record::Mobile_Wine_Name, "Pauillac"),
      "no winery tells 'Pauillac' from another wine"},
-    {"Country_Of_The_List",
-     [](Library& l) { l.Of<Mobile_Wines_Available_Countries_Record>().clear(); },
+    {So_Many<Mobile_Wines_Available_Countries_Record>(0),
      "FRA is missing from the countries of the list"},
-    {"Mark_Without_A_Box", [](Library& l) { First<Wine_Tasting_Record>(l).Description = 8; },
-     "a mark of a box that the colour does not open"},
+    {First(&Wine_Tasting_Record::Description, 8), "a mark of a box that the colour does not open"},
 };
 
-class Rows : public testing::TestWithParam<Fault> {
+class Rows : public testing::Test {
  protected:
-  /// Compiled once: every case breaks a copy.
-  static void SetUpTestSuite() {
-    Problems problems;
-    sound_ = Small_Library().Compile(problems);
-    ASSERT_TRUE(problems.None()) << Text_Of(problems);
-  }
-  static inline Library sound_;
+  Rows() { EXPECT_TRUE(problems_.None()) << Text_Of(problems_); }
+  Problems problems_;
+  const Library sound_ = Small_Library().Compile(problems_);
 };
 
-TEST_P(Rows, Fault_Is_Found) {
-  Library broken = sound_;
-  GetParam().break_it(broken);
-  Problems problems;
-  Check_Library(broken, problems);
-  EXPECT_NE(Text_Of(problems).find(GetParam().problem), std::string::npos) << Text_Of(problems);
+TEST_F(Rows, Each_Fault_Is_Found) {
+  for (const Fault& fault : faults) {
+    Library broken = sound_;
+    fault.break_it(broken);
+    Problems problems;
+    Check_Library(broken, problems);
+    EXPECT_NE(Text_Of(problems).find(fault.problem), std::string::npos)
+        << fault.problem << Text_Of(problems);
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(Each, Rows, testing::ValuesIn(Faults),
-                         [](const auto& fault) { return std::string(fault.param.name); });
 
 TEST_F(Rows, Owner_Of_More_Than_A_Hundred) {
   Library large = sound_;

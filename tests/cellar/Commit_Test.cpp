@@ -127,8 +127,7 @@ TEST_F(Cellar_Commit, A_wine_added_with_everything_is_stored_counted_and_shown_a
   EXPECT_THAT(Marks_of(1), ElementsAre("Taste|2", "Taste|4", "Aroma|1", "Aroma|7"));
   EXPECT_THAT(Grapes_of(1), ElementsAre(first_grape, second_grape));
   EXPECT_THAT(Moved_Counters(), UnorderedElementsAreArray(to_count));
-  Start();
-  Pick("Cellar1_View");
+  Start_With("Cellar1_View");
   Pick_Wine(1);
   Expect_Shown({{"Winery_Combo", winery.name}, {"Label_Combo", winery.label}});
   Expect_Shown({{"Price_Text", "12.3456"}, {"Peak_Year_Combo", "2031"}, {"Merit_Combo", "93"}});
@@ -210,8 +209,7 @@ TEST_F(Cellar_Commit, A_modified_wine_keeps_its_old_marks_unless_it_has_the_lowe
   EXPECT_THAT(Moved_Counters(), IsEmpty());
   for (const auto& [language, shown] : {std::pair{6, "Süß"}, {3, " "}}) {
     Set_Language(static_cast<Integer>(language));
-    Start();
-    Pick("Cellar1_View");
+    Start_With("Cellar1_View");
     Pick_Wine(1);
     EXPECT_EQ(Shown_Text("Description_Text"), shown) << language;
   }
@@ -297,8 +295,7 @@ TEST_F(Cellar_Commit, Uncorking_takes_bottle_by_bottle_down_to_none) {
     EXPECT_EQ(list.SelectedItem().SubItems(8) + list.SelectedItem().SubItems(9), left + "2");
   }
   EXPECT_THAT(Moved_Counters(), IsEmpty());
-  Start();
-  Pick("Wine_Uncork");
+  Start_With("Wine_Uncork");
   for (const Long key : {2, 1}) {
     Pick_Wine(key);
     EXPECT_TRUE(Is_Seen(button));
@@ -343,8 +340,7 @@ TEST_F(Cellar_Commit, A_wine_is_removed_on_yes_alone_and_only_winery_and_region_
   EXPECT_THAT(Moved_Counters(),
               UnorderedElementsAre("Winery|" + Sample().id + "|0", StartsWith(region)));
   EXPECT_EQ(links(), links_before);
-  Start();
-  Pick("Wine_Del");
+  Start_With("Wine_Del");
   Pick_Wine(2);
   Click(button);
   EXPECT_THAT(Wine_Rows(), IsEmpty());

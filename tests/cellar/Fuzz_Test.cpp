@@ -65,8 +65,7 @@ TEST_F(Cellar_Fuzz, A_number_gives_its_message_or_is_stored_and_shown_again) {
       {'B', "Total_Bottles_Text"}, {'P', "Price_Text"}, {'A', "Alcohol_Text"}};
   for (std::size_t count = 0; count < numbers.size(); ++count) Put_Wine(Sample_Wine());
   for (const bool restarted : {false, true}) {
-    Start();
-    Pick("Wine_Mod");
+    Start_With("Wine_Mod");
     for (std::size_t place = 0; place < numbers.size(); ++place) {
       const Number& number = numbers[place];
       const auto [text, taken_by, shown, alcohol] = number;
@@ -140,8 +139,7 @@ TEST_F(Cellar_Fuzz, A_text_is_stored_to_the_letter_and_shown_again) {
     if (place + 1 < texts.size()) {
       Pick_Wine(static_cast<Long>(place + 1));
     } else {
-      Start();
-      Pick("Wine_Add");
+      Start_With("Wine_Add");
       Fill_Add();
     }
     Paste_Into("Description_Text", texts[place]);
@@ -155,8 +153,7 @@ TEST_F(Cellar_Fuzz, A_text_is_stored_to_the_letter_and_shown_again) {
   };
   EXPECT_TRUE(stored("Description") == texts);
   EXPECT_TRUE(stored("Comments") == Texts(texts.rbegin(), texts.rend()));
-  Start();
-  Pick("Cellar1_View");
+  Start_With("Cellar1_View");
   for (std::size_t place = 0; place < texts.size(); ++place) {
     Pick_Wine(static_cast<Long>(place + 1));
     const auto& box = Forms::Screen("Wine_Form").Get<Forms::Text_Box>("Description_Text");

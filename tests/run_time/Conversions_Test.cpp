@@ -34,11 +34,17 @@ TEST_F(Conversions, What_is_numeric_is_read_in_full_by_the_rule_of_the_locale) {
     const char* text;
     double value;
   };
-  for (const Case& given :
-       {Case{"en_US", "12.5", 12.5}, Case{"en_US", " 1,234.5 ", 1234.5}, Case{"en_US", "-3", -3},
-        Case{"en_US", "+3", 3}, Case{"en_US", ".5", .5}, Case{"en_US", "1e3", 1000},
-        Case{"de_DE", "12,50", 12.5}, Case{"de_DE", "1.234,5", 1234.5}, Case{"fr_FR", "12,5", 12.5},
-        Case{"ja_JP", "12.5", 12.5}, Case{"pt_BR", "1.000.000,25", 1000000.25}}) {
+  for (const Case& given : {Case{"en_US", "12.5", 12.5},
+                            {"en_US", " 1,234.5 ", 1234.5},
+                            {"en_US", "-3", -3},
+                            {"en_US", "+3", 3},
+                            {"en_US", ".5", .5},
+                            {"en_US", "1e3", 1000},
+                            {"de_DE", "12,50", 12.5},
+                            {"de_DE", "1.234,5", 1234.5},
+                            {"fr_FR", "12,5", 12.5},
+                            {"ja_JP", "12.5", 12.5},
+                            {"pt_BR", "1.000.000,25", 1000000.25}}) {
     Set_Locale(given.locale);
     EXPECT_TRUE(Is_Numeric(given.text)) << given.locale << " " << given.text;
     EXPECT_DOUBLE_EQ(To_Double(given.text), given.value) << given.locale << " " << given.text;
@@ -79,11 +85,20 @@ TEST_F(Conversions, Money_is_exact_from_text_and_back) {
     const char* text;
     std::int64_t ten_thousandths;
   };
-  for (const Case& given :
-       {Case{"0", 0}, Case{"12.5", 125000}, Case{"0.0001", 1}, Case{"0.00005", 0},
-        Case{"0.00015", 2}, Case{"0.00025", 2}, Case{"0.000251", 3}, Case{"-0.00015", -2},
-        Case{"1e2", 1000000}, Case{"1.5e-1", 1500}, Case{"0.000000001", 0}, Case{"1e-300", 0},
-        Case{"0e999999999", 0}, Case{"922337203685477.5807", INT64_MAX}}) {
+  for (const Case& given : {Case{"0", 0},
+                            {"12.5", 125000},
+                            {"0.0001", 1},
+                            {"0.00005", 0},
+                            {"0.00015", 2},
+                            {"0.00025", 2},
+                            {"0.000251", 3},
+                            {"-0.00015", -2},
+                            {"1e2", 1000000},
+                            {"1.5e-1", 1500},
+                            {"0.000000001", 0},
+                            {"1e-300", 0},
+                            {"0e999999999", 0},
+                            {"922337203685477.5807", INT64_MAX}}) {
     EXPECT_EQ(To_Currency(given.text).ten_thousandths, given.ten_thousandths) << given.text;
   }
   EXPECT_FAILURE(6, To_Currency("922337203685477.5808"));
@@ -140,15 +155,19 @@ TEST_F(Conversions, A_date_is_read_by_the_order_of_the_locale) {
     const char* text;
     Date moment;
   };
-  for (const Case& given :
-       {Case{"en_US", "03/05/1947", No_Date}, Case{"en_GB", "05/03/1947", No_Date},
-        Case{"de_DE", "5.3.1947", No_Date}, Case{"ja_JP", "1947/3/5", No_Date},
-        Case{"de_DE", "1947-03-05", No_Date}, Case{"en_US", "1947-03-05T00:00:00", No_Date},
-        Case{"en_US", "March 5, 1947", No_Date}, Case{"fr_FR", "5 mars 1947", No_Date},
-        Case{"C", "5 Mar 1947", No_Date}, Case{"en_US", "1/2/29", Date::Of(2029, 1, 2)},
-        Case{"en_US", "1/2/30", Date::Of(1930, 1, 2)},
-        Case{"en_US", "2/29/2024 3:05 PM", Date::Of(2024, 2, 29, 15, 5)},
-        Case{"en_US", "2/29/2024 12:00:01 AM", Date::Of(2024, 2, 29, 0, 0, 1)}}) {
+  for (const Case& given : {Case{"en_US", "03/05/1947", No_Date},
+                            {"en_GB", "05/03/1947", No_Date},
+                            {"de_DE", "5.3.1947", No_Date},
+                            {"ja_JP", "1947/3/5", No_Date},
+                            {"de_DE", "1947-03-05", No_Date},
+                            {"en_US", "1947-03-05T00:00:00", No_Date},
+                            {"en_US", "March 5, 1947", No_Date},
+                            {"fr_FR", "5 mars 1947", No_Date},
+                            {"C", "5 Mar 1947", No_Date},
+                            {"en_US", "1/2/29", Date::Of(2029, 1, 2)},
+                            {"en_US", "1/2/30", Date::Of(1930, 1, 2)},
+                            {"en_US", "2/29/2024 3:05 PM", Date::Of(2024, 2, 29, 15, 5)},
+                            {"en_US", "2/29/2024 12:00:01 AM", Date::Of(2024, 2, 29, 0, 0, 1)}}) {
     Set_Locale(given.locale);
     EXPECT_TRUE(Is_Date(given.text)) << given.locale << " " << given.text;
     EXPECT_EQ(To_Date(given.text), given.moment) << given.locale << " " << given.text;
@@ -156,30 +175,15 @@ TEST_F(Conversions, A_date_is_read_by_the_order_of_the_locale) {
 }
 
 TEST_F(Conversions, What_is_no_date_is_13) {
-  for (const char* text : {"",
-                           " ",
-                           "x",
-                           "2023",
-                           "2/30/2024",
-                           "13/13/2024",
-                           "2/29/2023",
-                           "1/2/3/4",
-                           "1/2/12345",
-                           "Foo 5, 2020",
-                           "1/2/2020 25:00",
-                           "1/2/2020 10:60",
-                           "1/2/2020 10",
-                           "12:30",
-                           "1/2/2020T",
-                           "٠١/٠٢/٢٠٢٠",
-                           "0/1/2020",
-                           "1/2/2020 1:2:3:4",
-                           "March March 2020",
-                           "1e3",
-                           "1/2/2020 13:00 PM"}) {
+  const auto no_date = [](const char* text) {
     EXPECT_FALSE(Is_Date(text)) << text;
     EXPECT_FAILURE(13, To_Date(text));
-  }
+  };
+  const auto no_dates = [&](auto... texts) { (no_date(texts), ...); };
+  no_dates("", " ", "x", "2023", "2/30/2024", "13/13/2024", "2/29/2023", "1/2/3/4", "1/2/12345",
+           "Foo 5, 2020", "1/2/2020 25:00", "1/2/2020 10:60", "1/2/2020 10", "12:30", "1/2/2020T",
+           "٠١/٠٢/٢٠٢٠", "0/1/2020", "1/2/2020 1:2:3:4", "March March 2020", "1e3",
+           "1/2/2020 13:00 PM");
 }
 
 TEST_F(Conversions, The_clock_and_the_calendar) {

@@ -72,22 +72,6 @@ TEST_F(Pairing_Search, Exit_leads_back_to_what_was_chosen_and_the_next_results_b
   EXPECT_THAT(Lines("SelectList"), IsEmpty());
 }
 
-TEST_F(Pairing_Search, Nothing_found_is_said_twice_and_the_picker_stays) {
-  Put_Wine_with({Food_at(0, 2)});
-  const int used = Used(Food(0));
-  Start();
-  EXPECT_THAT(Told_By([this] { Search_for({Food(0)}); }),
-              ElementsAre(none_found,
-                          "NO WINES PAIRINGS: Thera are NO wines matching any of your pairings."));
-  EXPECT_EQ(Used(Food(0)), used + 1);
-  EXPECT_TRUE(Is_Seen(picker));
-  EXPECT_FALSE(Is_There(results));
-  EXPECT_THAT(Lines("SelectList"), ElementsAre(Food(0).name));
-  Add(Food_at(0, 2).name);
-  Click("MultSelect");
-  EXPECT_THAT(Wines_Listed(), ElementsAre(1));
-}
-
 TEST_F(Pairing_Search, Stops_before_the_hundredth_wine) {
   Put_Wines_with(Food(0), 120);
   Start();

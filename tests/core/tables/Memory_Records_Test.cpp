@@ -80,8 +80,9 @@ TEST_F(Memory_Records, Init_Sets_Defaults_And_Leaves_Keys_Alone) {
     table.Init(record);
     for (const auto& field : table.Fields()) {
       const bool is_key = field.Schema().counter || field.Schema().copy_of_counter;
-      if (is_key)
+      if (is_key) {
         EXPECT_EQ(field.Same(record, filled), table.Name() != "Varieties") << table.Name();
+      }
     }
   });
 }

@@ -31,6 +31,7 @@ void Leave(Form& form, bool by_key) {
   }
 }
 
+// Buttons choose first, then what the user reads first.
 void Assign_Mnemonics(Form& form) {
   std::set<QChar> used;
   for (const QAction* action : form.Data().window->menuBar()->actions()) {
@@ -40,9 +41,9 @@ void Assign_Mnemonics(Form& form) {
   std::vector<Placed_Control*> bearers;
   std::vector<std::string> captions;
   for (const bool buttons : {true, false}) {
-    for (Control* control : form.Data().controls) {
-      auto* placed = dynamic_cast<Placed_Control*>(control);
-      if (placed == nullptr || !placed->Is_Placed() || !placed->Has_Mnemonic()) continue;
+    for (const auto& widget : form.Data().reading_order) {
+      Placed_Control* placed = Focus_Watch::The().Control_Of(widget);
+      if (placed == nullptr || !placed->Has_Mnemonic()) continue;
       if (buttons != (dynamic_cast<Command_Button*>(placed) != nullptr)) continue;
       bearers.push_back(placed);
       captions.push_back(placed->Caption());

@@ -173,6 +173,7 @@ TEST_F(Words, That_name_no_control_or_have_no_text_fail_and_so_does_a_quote_in_a
   Small_Form form;
   EXPECT_FAILURE(730, Read_Language_Words("Small_Form", form));
   EXPECT_FAILURE(3075, Load_Language_Words("Nobody's form"));
+  Wine_Cellar_DB->Commit();
   Remove_Rows("Words");
   Add_Rows(1, "Told_Label", "Cap", false);
   EXPECT_FAILURE(94, Read_Language_Words("Small_Form", form));

@@ -84,10 +84,12 @@ enum class First_Row { Is_Looked_At, Is_Passed_Over };
 
 // From the current row on.
 bool Find_Subgroup(const Addressed_Table& items, Long subgroup, First_Row first) {
+  const int group_at = items.rows.Ordinal(items.group);
+  const int subgroup_at = items.rows.Ordinal(items.subgroup);
   for (int row = 0; row < rows_looked_at; ++row) {
     if (row > 0 || first == First_Row::Is_Looked_At) {
-      if (items.rows.Fields(items.group).As_Long() != Decoded_Group) return false;
-      if (items.rows.Fields(items.subgroup).As_Long() == subgroup) return true;
+      if (items.rows.Fields(group_at).As_Long() != Decoded_Group) return false;
+      if (items.rows.Fields(subgroup_at).As_Long() == subgroup) return true;
     }
     items.rows.MoveNext();
     if (items.rows.Eof()) return false;

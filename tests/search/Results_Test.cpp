@@ -225,12 +225,7 @@ TEST_F(Search_Results, A_line_above_the_list_says_what_it_lacks) {
   EXPECT_EQ(Shown_Text("Wines_Number"), "2");
   Click("Exit_Command");
   const auto remove = [this](Long wine) {
-    Change([wine](Record_Store::Database& file) {
-      Record_Store::Recordset wines = file.OpenRecordset("Wines");
-      wines.Index("Wine_ID");
-      wines.Seek("=", wine);
-      wines.Delete();
-    });
+    Remove_Rows("Wines", [=](const auto& row) { return row.Fields("Wine_ID").As_Long() == wine; });
   };
   remove(gone);
   Click("MultSelect");

@@ -39,47 +39,29 @@ int Sync(sqlite3_file* file, int flags) {
   return Real(file)->pMethods->xSync(Real(file), flags);
 }
 
-int Close(sqlite3_file* file) { return Real(file)->pMethods->xClose(Real(file)); }
-int Read(sqlite3_file* file, void* data, int length, sqlite3_int64 at) {
-  return Real(file)->pMethods->xRead(Real(file), data, length, at);
-}
-int Truncate(sqlite3_file* file, sqlite3_int64 size) {
-  return Real(file)->pMethods->xTruncate(Real(file), size);
-}
-int File_Size(sqlite3_file* file, sqlite3_int64* size) {
-  return Real(file)->pMethods->xFileSize(Real(file), size);
-}
-int Lock(sqlite3_file* file, int level) { return Real(file)->pMethods->xLock(Real(file), level); }
-int Unlock(sqlite3_file* file, int level) {
-  return Real(file)->pMethods->xUnlock(Real(file), level);
-}
-int Check_Lock(sqlite3_file* file, int* reserved) {
-  return Real(file)->pMethods->xCheckReservedLock(Real(file), reserved);
-}
-int Control(sqlite3_file* file, int operation, void* argument) {
-  return Real(file)->pMethods->xFileControl(Real(file), operation, argument);
-}
-int Sector_Size(sqlite3_file* file) { return Real(file)->pMethods->xSectorSize(Real(file)); }
-int Characteristics(sqlite3_file* file) {
-  return Real(file)->pMethods->xDeviceCharacteristics(Real(file));
+// All else is what the real one does.
+template <auto method, class... Arguments>
+int Pass_On(sqlite3_file* file, Arguments... arguments) {
+  return (Real(file)->pMethods->*method)(Real(file), arguments...);
 }
 
 const sqlite3_io_methods& Methods() {
-  static const sqlite3_io_methods methods = [] {
-    sqlite3_io_methods made{};
+  using All = sqlite3_io_methods;
+  static const All methods = [] {
+    All made{};
     made.iVersion = 1;
-    made.xClose = Close;
-    made.xRead = Read;
+    made.xClose = Pass_On<&All::xClose>;
+    made.xRead = Pass_On<&All::xRead>;
     made.xWrite = Write;
-    made.xTruncate = Truncate;
+    made.xTruncate = Pass_On<&All::xTruncate>;
     made.xSync = Sync;
-    made.xFileSize = File_Size;
-    made.xLock = Lock;
-    made.xUnlock = Unlock;
-    made.xCheckReservedLock = Check_Lock;
-    made.xFileControl = Control;
-    made.xSectorSize = Sector_Size;
-    made.xDeviceCharacteristics = Characteristics;
+    made.xFileSize = Pass_On<&All::xFileSize>;
+    made.xLock = Pass_On<&All::xLock>;
+    made.xUnlock = Pass_On<&All::xUnlock>;
+    made.xCheckReservedLock = Pass_On<&All::xCheckReservedLock>;
+    made.xFileControl = Pass_On<&All::xFileControl>;
+    made.xSectorSize = Pass_On<&All::xSectorSize>;
+    made.xDeviceCharacteristics = Pass_On<&All::xDeviceCharacteristics>;
     return made;
   }();
   return methods;

@@ -140,7 +140,14 @@ class Words : public Program_Folder {
   void Add_Rows(int count, const char* variable, const char* type, bool with_text = true) const {
     Row words{{"Program", "Small_Form"}, {"Variable", variable}, {"types_variable", type}};
     if (with_text) words.emplace_back("English", "word");
-    for (int row = 0; row < count; ++row) Put("Words", words);
+    Change([&](Record_Store::Database& file) {
+      Record_Store::Recordset rows = file.OpenRecordset("Words");
+      for (int row = 0; row < count; ++row) {
+        rows.AddNew();
+        for (const Cell& cell : words) rows.Fields(cell.field) = cell.value;
+        rows.Update();
+      }
+    });
   }
 };
 

@@ -1,11 +1,9 @@
 // The one button that writes, in each of its four modes. Nothing is undone: what was written before
 // a failure stays written.
 #include "cellar/Wine_Form.h"
+#include "core/Data_Text.h"
 #include "core/Globals.h"
-#include "core/MultiLanguage_Processes.h"
 #include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
 #include "links/Link_Store.h"
 #include "links/Used_Counters.h"
 #include "platform/run_time/Conversions.h"
@@ -190,16 +188,7 @@ Long Wine_Form::Store_Data_Text(Forms::Text_Box& box, Long key) {
   const bool empty = Trim(box.Text()).empty();
   if (Command_Is("WineAdd")) return empty ? -1 : Add_Data_Text(box.Text());
   if (empty) box.Set_Text("x");
-  Open_Table(Words_for_Data_Recordset, "Words_for_Data", "Multi_Language_ID");
-  Words_for_Data_Recordset.Seek("=", key);
-  if (Words_for_Data_Recordset.NoMatch()) {
-    Close_Table(Words_for_Data_Recordset);
-    return Add_Data_Text(box.Text());
-  }
-  Words_for_Data_Recordset.Fields(System_Language - 2) = box.Text();
-  Words_for_Data_Recordset.Update();
-  Close_Table(Words_for_Data_Recordset);
-  return key;
+  return Change_Data_Text(key, box.Text(), Edit_First::No);
 }
 
 void Wine_Form::Store_Varieties() {

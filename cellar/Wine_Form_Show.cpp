@@ -1,10 +1,7 @@
 // A stored wine on the fields, chosen in the full lists, to be corrected.
 #include "cellar/Wine_Form.h"
 #include "core/Globals.h"
-#include "core/MultiLanguage_Processes.h"
 #include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
 #include "platform/run_time/Conversions.h"
 #include "screens/Field_States.h"
 

@@ -4,7 +4,6 @@
 
 #include <string_view>
 
-#include "core/Languages.h"
 #include "platform/run_time/Bounded_Array.h"
 #include "platform/run_time/Values.h"
 

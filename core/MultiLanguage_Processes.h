@@ -3,7 +3,6 @@
 
 #include <string_view>
 
-#include "core/Data_Text.h"
 #include "platform/run_time/Bounded_Array.h"
 #include "platform/run_time/Values.h"
 

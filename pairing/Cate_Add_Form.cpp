@@ -1,11 +1,10 @@
 #include "pairing/Cate_Add_Form.h"
 
+#include <algorithm>
+
 #include "core/Gereral_Processes.h"
-#include "core/Globals.h"
+#include "core/Languages.h"
 #include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
-#include "core/tables/Rows.h"
 #include "platform/run_time/Conversions.h"
 #include "screens/Field_States.h"
 
@@ -13,7 +12,6 @@ using Forms::Locked_Color;
 
 namespace {
 
-constexpr Integer english = 3;
 constexpr Integer spanish = 4;
 constexpr Long longest_change = 60;
 
@@ -79,7 +77,7 @@ void Cate_Add_Form::Cate_Add_Form_Language_Initialize() {
 void Cate_Add_Form::Load_Current_Maridages() {
   Maridages_ListView.Clear();
   Open_Table(Maridages_Recordset, "Maridages");
-  const int beside = System_Language <= spanish ? spanish + 2 : System_Language + 2;
+  const int beside = Maridages_Column(std::max(System_Language, spanish));
   for (; !Maridages_Recordset.Eof(); Maridages_Recordset.MoveNext()) {
     Read_Maridages_Record();
     if (Maridages.Maridage_Name == "x" || Maridages.Multiuse < 2) continue;
@@ -91,7 +89,7 @@ void Cate_Add_Form::Load_Current_Maridages() {
 
 // The words name English first.
 void Cate_Add_Form::Define_Other_Language() {
-  if (System_Language == english) return;
+  if (System_Language == First_Language) return;
   const Text first = Cat_Language1_Label.Caption();
   Cat_Language1_Label.Set_Caption(Cat_Language2_Label.Caption());
   Cat_Language2_Label.Set_Caption(first);
@@ -187,8 +185,8 @@ void Cate_Add_Form::Modify_Maridage() {
   Open_By_Key(Maridages_Table);
   Maridages_Recordset.Seek("=", picked_);
   Maridages_Recordset.Edit();
-  Maridages_Recordset.Fields(System_Language + 2) = Left(CatText.Text(), longest_change);
-  Maridages_Recordset.Fields(Other_Language() + 2) =
+  Maridages_Recordset.Fields(Maridages_Column()) = Left(CatText.Text(), longest_change);
+  Maridages_Recordset.Fields(Maridages_Column(Other_Language())) =
       Left(CAT_Other_Language_Text.Text(), longest_change);
   Maridages_Recordset.Update();
   Close_Table(Maridages_Recordset);

@@ -1,10 +1,7 @@
 // A stored wine on the fields.
+#include "core/Data_Text.h"
 #include "core/Globals.h"
-#include "core/MultiLanguage_Processes.h"
 #include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
-#include "core/tables/Rows.h"
 #include "links/Link_Decoders.h"
 #include "platform/run_time/Conversions.h"
 #include "screens/Cellar_Wine_Screen.h"

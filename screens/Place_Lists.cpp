@@ -1,10 +1,8 @@
 #include "screens/Place_Lists.h"
 
 #include "core/Gereral_Processes.h"
+#include "core/Languages.h"
 #include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
-#include "core/tables/Rows.h"
 #include "links/Link_Decoders.h"
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"

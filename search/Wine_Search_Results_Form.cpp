@@ -2,21 +2,9 @@
 
 #include "core/Globals.h"
 #include "core/tables/Catalogue.h"
-#include "core/tables/Cellar_DB_Processes.h"
-#include "core/tables/Recipes_Wines_Common_DB.h"
 #include "links/Link_Search.h"
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
-
-namespace {
-
-// Leaves the former one in the memory record where the winery of the wine has gone.
-void Read_Winery_of_Wine() {
-  Wineries_Recordset.Seek("=", Wines.Winery_ID);
-  if (!Wineries_Recordset.NoMatch()) Read_Wineries_Record();
-}
-
-}  // namespace
 
 // Two of the headers read otherwise than the words that the columns answer to: they turn the order
 // and keep the column.
@@ -91,16 +79,14 @@ void Wine_Search_Results_Form::Load_Requested_Pairings() {
 // A wine that was removed may still have link rows: it is left out.
 void Wine_Search_Results_Form::Get_WineResults_Records() {
   Search_Wines_for_Maridages();
-  Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
-  Open_Table(Wines_Recordset, "Wines", "Wine_ID");
+  Open_By_Key(Wineries_Table);
+  Open_By_Key(Wines_Table);
   Wine_Cellar_ListView.Begin_Anew();
   const bool cut = Search_Was_Cut();
   const int last = cut ? Found_Count - 1 : Found_Count;
   for (int found = 1; found <= last; ++found) {
-    Wines_Recordset.Seek("=", Found_IDs[found]);
-    if (Wines_Recordset.NoMatch()) continue;
-    Read_Wines_Record();
-    Read_Winery_of_Wine();
+    if (!Find_Row(Wines_Table, Found_IDs[found])) continue;
+    Find_Row(Wineries_Table, Wines.Winery_ID);  // where it has gone, the former one stays
     Add_Wine_to_List();
   }
   Close_Table(Wineries_Recordset);
@@ -129,9 +115,7 @@ void Wine_Search_Results_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item i
   Checks_Locked = false;
   Selected_Wine_ID = To_Long(Wine_Cellar_ListView.Key_of(item));
   Seek_Wine();
-  Open_Table(Wineries_Recordset, "Wineries", "Winery_ID");
-  Read_Winery_of_Wine();
-  Close_Table(Wineries_Recordset);
+  Find_By_Key(Wineries_Table, Wines.Winery_ID);
   Memory_to_Form_Unique();
   item.Set_Selected(true);
   Close_Table(Wines_Recordset);

@@ -1,6 +1,7 @@
 // The lists of start-up, the look-ups between names, and the ordered queries.
 
 #include "core/Gereral_Processes.h"
+#include "core/Languages.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "platform/forms/Application.h"
 #include "tests/support/Program_Folder.h"

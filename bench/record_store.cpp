@@ -238,8 +238,8 @@ template <class Record>
 void Read(const Recordset& rows, Record& record) {
   static std::uint64_t layout = 0;
   static std::vector<int> ordinals;
-  if (layout != rows.Layout()) {
-    layout = rows.Layout();
+  if (layout != rows.Layout_Number()) {
+    layout = rows.Layout_Number();
     ordinals.clear();
     Each_Field(record, [&](const char* name, auto&) { ordinals.push_back(rows.Ordinal(name)); });
   }

@@ -198,11 +198,11 @@ class Table {
 
 template <class Record>
 const std::vector<int>& Table<Record>::Ordinals_In(const Record_Store::Recordset& row) const {
-  if (bound_layout_ == row.Layout()) return ordinals_;
+  if (bound_layout_ == row.Layout_Number()) return ordinals_;
   ordinals_.clear();
   for (const auto& field : fields_)
     ordinals_.push_back(field.Is_Stored() ? row.Ordinal(field.Schema().name) : -1);
-  bound_layout_ = row.Layout();
+  bound_layout_ = row.Layout_Number();
   return ordinals_;
 }
 

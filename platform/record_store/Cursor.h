@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/record_store/Layout.h"
+#include "platform/record_store/Field_Layout.h"
 #include "platform/record_store/Recordset.h"
 #include "platform/record_store/Rows.h"
 
@@ -21,7 +21,7 @@ class Cursor {
   Cursor(const Cursor&) = delete;
   Cursor& operator=(const Cursor&) = delete;
 
-  const Record_Store::Layout& Layout() const { return *layout_; }
+  const Field_Layout& Layout() const { return *layout_; }
 
   /// The value of a field: of the row being added or edited where it was assigned there, else of
   /// the current row.
@@ -69,7 +69,7 @@ class Cursor {
   void Begin_Change(Change change);
   static std::size_t Position(int ordinal) { return static_cast<std::size_t>(ordinal); }
 
-  const Record_Store::Layout* layout_ = nullptr;
+  const Field_Layout* layout_ = nullptr;
   Place place_ = Place::First;
   bool no_match_ = false;
 

@@ -16,7 +16,7 @@ void Database::Commit() { core_->Commit(); }
 std::vector<std::string> Database::Table_Names() const { return core_->Table_Names(); }
 
 Table_Schema Database::Schema_Of(std::string_view name) const {
-  const Table* table = core_->Find_Table(name);
+  const Stored_Table* table = core_->Find_Table(name);
   if (table == nullptr) Fail(Failure::No_Such_Table, name);
   return table->Schema();
 }

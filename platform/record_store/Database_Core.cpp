@@ -63,7 +63,7 @@ void Database_Core::Look_For_Changes() {
 // The engine takes the file for writing at the beginning of a burst only, and between the end of
 // the reading one and that, another process can write. What the handler has read, and is about to
 // write back with a change, would undo what the other one was told is stored.
-void Database_Core::Begin_Write(Table& table) {
+void Database_Core::Begin_Write(Stored_Table& table) {
   const bool running = burst_kind_ != Burst_Kind::None && engine_->In_Burst();
   if (!running || burst_kind_ == Burst_Kind::Read) {
     const std::int64_t version_read = last_version_;
@@ -92,7 +92,7 @@ void Database_Core::Detach_All() {
 
 // ---- tables ----
 
-Table* Database_Core::Find_Table(std::string_view name) {
+Stored_Table* Database_Core::Find_Table(std::string_view name) {
   if (const auto known = tables_.find(name); known != tables_.end()) return known->second.get();
   Begin_Read();
   const Statement statement =
@@ -101,7 +101,8 @@ Table* Database_Core::Find_Table(std::string_view name) {
   if (name.empty() || !engine_->Step(statement.get())) return nullptr;
   const std::string_view kept = Column_Value(statement.get(), 0).text;
   const std::string_view description = Column_Value(statement.get(), 1).text;
-  auto table = std::make_unique<Table>(Described(kept, description, engine_->Path()), *engine_);
+  auto table =
+      std::make_unique<Stored_Table>(Described(kept, description, engine_->Path()), *engine_);
   return tables_.emplace(kept, std::move(table)).first->second.get();
 }
 
@@ -123,12 +124,12 @@ Cursor& Database_Core::Open(std::string_view table_or_statement) {
     return Open_Table(*known->second);
   }
   if (!Is_Name(table_or_statement)) return Open_Query(table_or_statement);
-  Table* table = Find_Table(table_or_statement);
+  Stored_Table* table = Find_Table(table_or_statement);
   if (table == nullptr) Fail(Failure::No_Such_Table, table_or_statement);
   return Open_Table(*table);
 }
 
-Cursor& Database_Core::Open_Table(Table& table) {
+Cursor& Database_Core::Open_Table(Stored_Table& table) {
   if (free_tables_.empty()) free_tables_.push_back(std::make_unique<Table_Cursor>());
   open_tables_.push_back(free_tables_.back().release());
   free_tables_.pop_back();

@@ -9,7 +9,7 @@
 
 #include "platform/record_store/Engine.h"
 #include "platform/record_store/Query_Cursor.h"
-#include "platform/record_store/Table.h"
+#include "platform/record_store/Stored_Table.h"
 #include "platform/record_store/Table_Cursor.h"
 
 namespace Record_Store {
@@ -32,7 +32,7 @@ class Database_Core {
     if (burst_kind_ == Burst_Kind::None || !engine_->In_Burst()) Begin("BEGIN", Burst_Kind::Read);
   }
   /// Takes the file for writing, and makes the cursors on this table ready for its change.
-  void Begin_Write(Table& table);
+  void Begin_Write(Stored_Table& table);
   /// The first burst of a new file, in which its tables are made.
   void Begin_Building() { Begin("BEGIN IMMEDIATE", Burst_Kind::Write); }
   void Commit();
@@ -42,7 +42,7 @@ class Database_Core {
 
   // ---- tables ----
 
-  Table* Find_Table(std::string_view name);  ///< nullptr where there is none
+  Stored_Table* Find_Table(std::string_view name);  ///< nullptr where there is none
   std::vector<std::string> Table_Names();
 
   // ---- cursors ----
@@ -66,7 +66,7 @@ class Database_Core {
   void Begin(const char* statement, Burst_Kind kind);
   void Detach_All();
   void Look_For_Changes();
-  Cursor& Open_Table(Table& table);
+  Cursor& Open_Table(Stored_Table& table);
   Cursor& Open_Query(std::string_view text);
 
   std::unique_ptr<Engine> engine_;
@@ -76,7 +76,7 @@ class Database_Core {
   std::int64_t last_version_ = -1;
   std::uint64_t file_state_ = 0;
 
-  std::unordered_map<std::string, std::unique_ptr<Table>, Name_Hash, Name_Equal> tables_;
+  std::unordered_map<std::string, std::unique_ptr<Stored_Table>, Name_Hash, Name_Equal> tables_;
 
   // Cursors are kept for the next opening. An open one belongs to its recordset.
   std::vector<Table_Cursor*> open_tables_;

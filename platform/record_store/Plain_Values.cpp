@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "platform/record_store/Layout.h"
+#include "platform/record_store/Field_Layout.h"
 #include "platform/run_time/Conversions.h"
 #include "platform/run_time/Run_Time_Error.h"
 

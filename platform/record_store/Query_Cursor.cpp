@@ -38,7 +38,7 @@ std::optional<Field_Type> Column_Type(Database_Core& database, sqlite3_stmt* sta
                                       int column) {
   const char* name = sqlite3_column_table_name(statement, column);
   const char* field = sqlite3_column_origin_name(statement, column);
-  Table* table = name == nullptr ? nullptr : database.Find_Table(name);
+  Stored_Table* table = name == nullptr ? nullptr : database.Find_Table(name);
   if (table == nullptr || field == nullptr) return std::nullopt;
   const int ordinal = table->Layout().Find(field);
   return ordinal < 0 ? std::nullopt : table->Layout().At(ordinal).type;
@@ -55,7 +55,7 @@ void Query_Cursor::Open(Database_Core& database, std::string_view text) {
     const char* name = sqlite3_column_name(statement.get(), i);
     columns.push_back({name == nullptr ? "" : name, Column_Type(database, statement.get(), i)});
   }
-  fields_ = Record_Store::Layout(std::move(columns));
+  fields_ = Field_Layout(std::move(columns));
   layout_ = &fields_;
   row_.Clear(layout_->Count());
   while (core->Store().Step(statement.get())) row_.Append(statement.get());

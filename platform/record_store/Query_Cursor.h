@@ -21,7 +21,7 @@ class Query_Cursor final : public Cursor {
   Long Count() override { return static_cast<Long>(row_.Rows()); }
 
  private:
-  Record_Store::Layout fields_;
+  Field_Layout fields_;
 };
 
 }  // namespace Record_Store

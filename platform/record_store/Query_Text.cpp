@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "platform/record_store/Layout.h"
+#include "platform/record_store/Field_Layout.h"
 
 namespace Record_Store {
 namespace {

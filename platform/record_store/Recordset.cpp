@@ -81,7 +81,7 @@ int Recordset::Ordinal(std::string_view name) const {
   return ordinal;
 }
 
-std::uint64_t Recordset::Layout() const { return Open_Cursor().Layout().Number(); }
+std::uint64_t Recordset::Layout_Number() const { return Open_Cursor().Layout().Number(); }
 
 void Recordset::AddNew() { Open_Cursor().Add_New(); }
 void Recordset::Edit() { Open_Cursor().Edit(); }

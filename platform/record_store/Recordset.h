@@ -108,7 +108,7 @@ class Recordset {
   /// A number that stands for this recordset's arrangement of fields: ordinals found once hold for
   /// every recordset with the same number. Never 0; recordsets on one table of one open database
   /// have the same; no two databases or queries share one.
-  std::uint64_t Layout() const;
+  std::uint64_t Layout_Number() const;
 
   // ---- changing (tables) ----
 

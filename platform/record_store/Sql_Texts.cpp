@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "platform/record_store/Layout.h"
+#include "platform/record_store/Field_Layout.h"
 #include "platform/run_time/Run_Time_Error.h"
 
 namespace Record_Store {

@@ -9,7 +9,7 @@
 
 namespace Record_Store {
 
-void Table_Cursor::Open(Database_Core& database, Table& table) {
+void Table_Cursor::Open(Database_Core& database, Stored_Table& table) {
   core = &database;
   table_ = &table;
   layout_ = &table.Layout();
@@ -66,11 +66,11 @@ void Table_Cursor::Settle() {
   Detach();
 }
 
-bool Table_Cursor::Ask(const Form& form) {
+bool Table_Cursor::Ask(const Question& question) {
   Release();
   core->Begin_Read();
-  form_ = form;
-  pool_ = &table_->Pool_Of(*order_, form);
+  question_ = question;
+  pool_ = &table_->Pool_Of(*order_, question);
   statement_ = pool_->Borrow();
   Bind();
   return Step();
@@ -91,14 +91,15 @@ void Table_Cursor::Bind() {
   int parameter = 0;
   // An index on the counter has no sort columns, as it is the storage order: its key is sought all
   // the same.
-  const int equal = order_->sort.empty() && form_.range == Form::Sought ? 1 : form_.prefix;
+  const int equal =
+      order_->sort.empty() && question_.range == Question::Sought ? 1 : question_.prefix;
   for (int i = 0; i < equal; ++i) Bind_Value(statement_.get(), ++parameter, anchor_.At(0, i));
-  if (form_.range == Form::Beyond) {
-    Bind_Value(statement_.get(), ++parameter, anchor_.At(0, form_.prefix));
+  if (question_.range == Question::Beyond) {
+    Bind_Value(statement_.get(), ++parameter, anchor_.At(0, question_.prefix));
   }
   // Behind the nulls: nothing that is a value stands below these two.
-  if (form_.range == Form::From) {
-    const int ordinal = order_->sort[Position(form_.prefix)].ordinal;
+  if (question_.range == Question::From) {
+    const int ordinal = order_->sort[Position(question_.prefix)].ordinal;
     const bool text = layout_->At(ordinal).type == Field_Type::Text;
     Bind_Value(
         statement_.get(), ++parameter,
@@ -120,7 +121,7 @@ void Table_Cursor::Move_First() {
 
 void Table_Cursor::Move_Last() {
   change_ = Change::None;
-  if (Ask({0, Form::All, true})) return;
+  if (Ask({0, Question::All, true})) return;
   place_ = Place::Empty;
   Fail(Failure::No_Current_Record);
 }
@@ -131,7 +132,7 @@ void Table_Cursor::Move(bool backwards) {
   const Place entrance = backwards ? Place::Behind : Place::Before;
   bool found = false;
   if (place_ == entrance) {
-    found = Ask({0, Form::All, backwards});
+    found = Ask({0, Question::All, backwards});
   } else if (place_ == Place::Row || place_ == Place::Deleted) {
     found = Advance(backwards);
   } else {
@@ -147,17 +148,17 @@ void Table_Cursor::Move(bool backwards) {
 
 bool Table_Cursor::Advance(bool backwards) {
   // The statement of one counter gives no second row.
-  const bool lone = order_->sort.empty() && form_.range == Form::Sought;
+  const bool lone = order_->sort.empty() && question_.range == Question::Sought;
   // The row of a look-up that was answered without asking: ask now.
-  if (kept_ != &row_ && !backwards && !lone) Ask(form_);
-  if (live_ != nullptr && form_.backwards == backwards && !lone) {
+  if (kept_ != &row_ && !backwards && !lone) Ask(question_);
+  if (live_ != nullptr && question_.backwards == backwards && !lone) {
     if (Step()) return true;
   } else {
     Take_Anchor();
-    if (Ask({static_cast<int>(order_->sort.size()), Form::Beyond, backwards})) return true;
+    if (Ask({static_cast<int>(order_->sort.size()), Question::Beyond, backwards})) return true;
   }
   while (To_Wider_Form()) {
-    if (Ask(form_)) return true;
+    if (Ask(question_)) return true;
   }
   return false;
 }
@@ -165,17 +166,17 @@ bool Table_Cursor::Advance(bool backwards) {
 // The part of the order that lies next behind the one that is used up: one sort column fewer is
 // equal. Nulls stand before all values.
 bool Table_Cursor::To_Wider_Form() {
-  const bool bounded = form_.prefix < static_cast<int>(order_->sort.size());
-  if (form_.backwards && form_.range == Form::Beyond && bounded &&
-      !order_->sort[Position(form_.prefix)].by_case) {
-    form_.range = Form::Nulls;
+  const bool bounded = question_.prefix < static_cast<int>(order_->sort.size());
+  if (question_.backwards && question_.range == Question::Beyond && bounded &&
+      !order_->sort[Position(question_.prefix)].by_case) {
+    question_.range = Question::Nulls;
     return true;
   }
-  while (form_.prefix > 0) {
-    --form_.prefix;
-    const bool null = anchor_.At(0, form_.prefix).kind == Cell_Kind::Null;
-    if (null && form_.backwards) continue;
-    form_.range = null ? Form::From : Form::Beyond;
+  while (question_.prefix > 0) {
+    --question_.prefix;
+    const bool null = anchor_.At(0, question_.prefix).kind == Cell_Kind::Null;
+    if (null && question_.backwards) continue;
+    question_.range = null ? Question::From : Question::Beyond;
     return true;
   }
   return false;
@@ -211,25 +212,25 @@ void Table_Cursor::Seek(std::string_view comparison, std::span<const Key> keys) 
   change_ = Change::None;
   Release();
   const int prefix = order_->sort.empty() ? 0 : static_cast<int>(keys.size());
-  const Form form{prefix, Form::Sought, false};
-  no_match_ = !Take_Keys(keys) || !(keys.size() == 1 ? Look_Up(form) : Ask(form));
+  const Question question{prefix, Question::Sought, false};
+  no_match_ = !Take_Keys(keys) || !(keys.size() == 1 ? Look_Up(question) : Ask(question));
   if (no_match_) place_ = Place::Missed;
 }
 
 // Screens look up the same few rows (a country, a language) again for each row of a list: such an
 // answer is remembered until the file changes, and costs no question then.
-bool Table_Cursor::Look_Up(const Form& form) {
+bool Table_Cursor::Look_Up(const Question& question) {
   core->Begin_Read();
   const Value key = anchor_.At(0, 0);
   Look_Ups& found = table_->Found();
   if (const auto row = found.Find(*order_, key, core->File_State())) {
-    form_ = form;
+    question_ = question;
     kept_ = &found.Rows();
     at_ = *row;
     place_ = Place::Row;
     return true;
   }
-  if (!Ask(form)) return false;
+  if (!Ask(question)) return false;
   found.Keep_Missed(*order_, key, live_, table_->Width());
   return true;
 }

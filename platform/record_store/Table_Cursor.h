@@ -9,19 +9,19 @@
 #pragma once
 
 #include "platform/record_store/Cursor.h"
-#include "platform/record_store/Table.h"
+#include "platform/record_store/Stored_Table.h"
 
 namespace Record_Store {
 
 class Table_Cursor final : public Cursor {
  public:
   /// Stands on the first row in storage order, which is looked for when it is first needed.
-  void Open(Database_Core& database, Table& table);
+  void Open(Database_Core& database, Stored_Table& table);
   void Put_Away() override;
   /// Gives statements and memory back.
   void Close();
 
-  bool Is_On(const Table& table) const { return table_ == &table; }
+  bool Is_On(const Stored_Table& table) const { return table_ == &table; }
   /// Gives its statement up; the row stays.
   void Detach();
   /// As Detach, for a write to its table: the first row must be the one of before the write.
@@ -44,7 +44,7 @@ class Table_Cursor final : public Cursor {
   void Find_First() override;
   void Move(bool backwards);
   bool Advance(bool backwards);
-  bool Ask(const Form& form);
+  bool Ask(const Question& question);
   bool Step();
   void Bind();
   bool To_Wider_Form();
@@ -53,18 +53,18 @@ class Table_Cursor final : public Cursor {
   void Take_Anchor();
   void Release();
   bool Take_Keys(std::span<const Key> keys);
-  bool Look_Up(const Form& form);
+  bool Look_Up(const Question& question);
   void Take_Row(sqlite3_stmt* statement);
   void Keep_Own();
   void Insert_New_Row();
   void Store_Changes();
 
-  Table* table_ = nullptr;
+  Stored_Table* table_ = nullptr;
   const Order* order_ = nullptr;
 
   Statement statement_;
-  Table::Pool* pool_ = nullptr;
-  Form form_;
+  Stored_Table::Pool* pool_ = nullptr;
+  Question question_;
   Row_Block anchor_;  // the values given to the statement: by sort column, then the row's number
 };
 

@@ -134,14 +134,14 @@ TEST_F(Recordset_Test, Empty_Closed_Replaced) {
   rows["Name"] = "lost";
   rows = database_->OpenRecordset("bottles");
   EXPECT_EQ(Walk(rows), (std::vector<std::string>{"a", "b"}));
-  const std::uint64_t layout = rows.Layout();
+  const std::uint64_t layout = rows.Layout_Number();
   rows.Close();
   EXPECT_EQ(Failure_Of([&] { rows.Eof(); }), 3420);
   EXPECT_EQ(Failure_Of([&] { rows.Fields(0); }), 3420);
   EXPECT_EQ(Failure_Of([&] { rows.Close(); }), 3420);
   rows = database_->OpenRecordset("Bottles");
-  EXPECT_EQ(rows.Layout(), layout);
-  EXPECT_NE(database_->OpenRecordset("Notes").Layout(), layout);
+  EXPECT_EQ(rows.Layout_Number(), layout);
+  EXPECT_NE(database_->OpenRecordset("Notes").Layout_Number(), layout);
   database_.reset();
   EXPECT_EQ(Failure_Of([&] { rows.MoveFirst(); }), 3420);
 }

@@ -5,7 +5,7 @@
 
 #include "platform/record_store/Query_Text.h"
 #include "platform/record_store/Rows.h"
-#include "platform/record_store/Table.h"
+#include "platform/record_store/Stored_Table.h"
 #include "platform/record_store/Text_Order.h"
 #include "tests/record_store/Store_Fixture.h"
 
@@ -100,16 +100,17 @@ TEST_F(Query_Test, No_Question_Of_A_Cursor_Sorts) {
   database_.reset();
   Engine engine(path_, Engine::Mode::Read, "open9sesame");
   for (const Table_Schema& schema : Test_Tables()) {
-    Table table(schema, engine);
+    Stored_Table table(schema, engine);
     std::vector<const Order*> orders{&table.Storage_Order()};
     for (const Index_Schema& index : schema.indexes) orders.push_back(table.Find_Order(index.name));
     for (const Order* order : orders) {
       const int columns = static_cast<int>(order->sort.size());
       for (int i = 0; i < (columns + 1) * 10; ++i) {
-        const Form form{i / 10, static_cast<Form::Range>(i / 2 % 5), i % 2 == 1};
-        const bool beyond_columns = form.range == Form::From || form.range == Form::Nulls;
-        if (form.prefix == columns && beyond_columns) continue;
-        const Statement asked = table.Pool_Of(*order, form).Borrow();
+        const Question question{i / 10, static_cast<Question::Range>(i / 2 % 5), i % 2 == 1};
+        const bool beyond_columns =
+            question.range == Question::From || question.range == Question::Nulls;
+        if (question.prefix == columns && beyond_columns) continue;
+        const Statement asked = table.Pool_Of(*order, question).Borrow();
         const std::string text = sqlite3_sql(asked.get());
         const Statement plan = engine.Prepare("EXPLAIN QUERY PLAN " + text);
         while (engine.Step(plan.get())) {

@@ -1,4 +1,4 @@
-#include "platform/record_store/Layout.h"
+#include "platform/record_store/Field_Layout.h"
 
 #include <array>
 #include <bit>
@@ -55,7 +55,8 @@ std::optional<Field_Type> Type_By_Name(std::string_view name) {
   return std::nullopt;
 }
 
-Layout::Layout(std::vector<Column> columns) : number_(next_number++), columns_(std::move(columns)) {
+Field_Layout::Field_Layout(std::vector<Column> columns)
+    : number_(next_number++), columns_(std::move(columns)) {
   slots_.assign(std::bit_ceil(columns_.size() * 2 + 1), -1);
   for (int ordinal = 0; ordinal < Count(); ++ordinal) {
     if (At(ordinal).counter) counter_ = ordinal;
@@ -66,7 +67,7 @@ Layout::Layout(std::vector<Column> columns) : number_(next_number++), columns_(s
   }
 }
 
-int Layout::Find(std::string_view name) const {
+int Field_Layout::Find(std::string_view name) const {
   if (slots_.empty()) return -1;
   std::size_t slot = Hash_Of_Name(name) & (slots_.size() - 1);
   for (; slots_[slot] >= 0; slot = (slot + 1) & (slots_.size() - 1)) {

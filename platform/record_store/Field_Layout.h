@@ -26,10 +26,10 @@ struct Column {
   bool copy_of_counter = false;
 };
 
-class Layout {
+class Field_Layout {
  public:
-  Layout() = default;
-  explicit Layout(std::vector<Column> columns);
+  Field_Layout() = default;
+  explicit Field_Layout(std::vector<Column> columns);
 
   std::uint64_t Number() const { return number_; }
   int Count() const { return static_cast<int>(columns_.size()); }

@@ -1,4 +1,4 @@
-#include "platform/record_store/Table.h"
+#include "platform/record_store/Stored_Table.h"
 
 #include <sqlite3.h>
 
@@ -9,15 +9,15 @@
 namespace Record_Store {
 namespace {
 
-Layout Layout_Of(const Table_Schema& schema) {
+Field_Layout Layout_Of(const Table_Schema& schema) {
   std::vector<Column> columns;
   for (const Field_Schema& field : schema.fields) {
     columns.push_back({field.name, field.type, field.counter, field.copy_of_counter});
   }
-  return Layout(std::move(columns));
+  return Field_Layout(std::move(columns));
 }
 
-Order Order_Of(const Table_Schema& schema, const Index_Schema& index, const Layout& layout) {
+Order Order_Of(const Table_Schema& schema, const Index_Schema& index, const Field_Layout& layout) {
   Order order;
   order.name = index.name;
   order.unique = index.unique;
@@ -41,14 +41,14 @@ Order Order_Of(const Table_Schema& schema, const Index_Schema& index, const Layo
 
 // Forms as numbers, for the table of kept statements.
 constexpr std::size_t forms_of_a_prefix = 10;
-std::size_t Number_Of(const Form& form) {
-  return static_cast<std::size_t>(form.prefix) * forms_of_a_prefix +
-         static_cast<std::size_t>(form.range) * 2 + (form.backwards ? 1 : 0);
+std::size_t Number_Of(const Question& question) {
+  return static_cast<std::size_t>(question.prefix) * forms_of_a_prefix +
+         static_cast<std::size_t>(question.range) * 2 + (question.backwards ? 1 : 0);
 }
 
 }  // namespace
 
-Table::Table(Table_Schema schema, Engine& engine)
+Stored_Table::Stored_Table(Table_Schema schema, Engine& engine)
     : engine_(&engine), schema_(std::move(schema)), layout_(Layout_Of(schema_)) {
   orders_.emplace_back();
   for (const Index_Schema& index : schema_.indexes) {
@@ -60,7 +60,7 @@ Table::Table(Table_Schema schema, Engine& engine)
   last_number_ = schema_.first_counter - 1;
 }
 
-const Order* Table::Find_Order(std::string_view index) const {
+const Order* Stored_Table::Find_Order(std::string_view index) const {
   for (std::size_t i = 1; i < orders_.size(); ++i) {
     if (Same_Name(orders_[i].name, index)) return &orders_[i];
   }
@@ -69,19 +69,21 @@ const Order* Table::Find_Order(std::string_view index) const {
 
 // ---- questions ----
 
-std::string Table::Quoted_Field(int ordinal) const { return Quoted(layout_.At(ordinal).name); }
+std::string Stored_Table::Quoted_Field(int ordinal) const {
+  return Quoted(layout_.At(ordinal).name);
+}
 
-std::string Table::Columns() const {
+std::string Stored_Table::Columns() const {
   std::string text;
   for (int i = 0; i < layout_.Count(); ++i) text += (i == 0 ? "" : ", ") + Quoted_Field(i);
   return layout_.Counter() >= 0 ? text : text + ", rowid";
 }
 
-std::string Table::Question(const Order& order, const Form& form) const {
+std::string Stored_Table::Text_Of(const Order& order, const Question& question) const {
   const auto column = [&](const Sort_Column& sort) {
     return Quoted_Field(sort.ordinal) + (sort.by_case ? " COLLATE WINE_CASE" : "");
   };
-  const bool counter_sought = order.sort.empty() && form.range == Form::Sought;
+  const bool counter_sought = order.sort.empty() && question.range == Question::Sought;
 
   std::string text = "SELECT " + Columns() + " FROM " + Quoted(schema_.name);
   if (!order.engine_index.empty()) text += " INDEXED BY " + Quoted(order.engine_index);
@@ -90,38 +92,38 @@ std::string Table::Question(const Order& order, const Form& form) const {
   const auto add = [&](const std::string& part) {
     condition += (condition.empty() ? " WHERE " : " AND ") + part;
   };
-  const char* equal = form.range == Form::Sought ? "=?" : " IS ?";
-  for (int i = 0; i < form.prefix && !counter_sought; ++i) {
+  const char* equal = question.range == Question::Sought ? "=?" : " IS ?";
+  for (int i = 0; i < question.prefix && !counter_sought; ++i) {
     add(column(order.sort[static_cast<std::size_t>(i)]) + equal);
   }
-  const auto next = static_cast<std::size_t>(form.prefix);
+  const auto next = static_cast<std::size_t>(question.prefix);
   const std::string border = next < order.sort.size() ? column(order.sort[next]) : "rowid";
   if (counter_sought) add("rowid=?");
-  if (form.range == Form::Beyond) add(border + (form.backwards ? "<?" : ">?"));
-  if (form.range == Form::From) add(border + ">=?");
-  if (form.range == Form::Nulls) add(border + " IS NULL");
+  if (question.range == Question::Beyond) add(border + (question.backwards ? "<?" : ">?"));
+  if (question.range == Question::From) add(border + ">=?");
+  if (question.range == Question::Nulls) add(border + " IS NULL");
   text += condition;
 
   // The columns that are given stand still. Naming them too would make the engine sort.
-  const char* direction = form.backwards ? " DESC" : "";
+  const char* direction = question.backwards ? " DESC" : "";
   text += " ORDER BY ";
-  const std::size_t first = next + (form.range == Form::Nulls ? 1 : 0);
+  const std::size_t first = next + (question.range == Question::Nulls ? 1 : 0);
   for (std::size_t i = first; i < order.sort.size(); ++i) {
     text += column(order.sort[i]) + direction + ", ";
   }
   return text + "rowid" + direction;
 }
 
-Table::Pool& Table::Pool_Of(const Order& order, const Form& form) {
-  Pool& pool = pools_[static_cast<std::size_t>(&order - orders_.data())][Number_Of(form)];
+Stored_Table::Pool& Stored_Table::Pool_Of(const Order& order, const Question& question) {
+  Pool& pool = pools_[static_cast<std::size_t>(&order - orders_.data())][Number_Of(question)];
   if (pool.engine_ == nullptr) {
     pool.engine_ = engine_;
-    pool.text_ = Question(order, form);
+    pool.text_ = Text_Of(order, question);
   }
   return pool;
 }
 
-Statement Table::Pool::Borrow() {
+Statement Stored_Table::Pool::Borrow() {
   if (free_.empty()) return engine_->Prepare(text_);
   Statement statement = std::move(free_.back());
   free_.pop_back();
@@ -130,17 +132,17 @@ Statement Table::Pool::Borrow() {
 
 // ---- statements on one row ----
 
-sqlite3_stmt* Table::Keep(Statement& place, const std::string& text) {
+sqlite3_stmt* Stored_Table::Keep(Statement& place, const std::string& text) {
   if (!place) place = engine_->Prepare(text);
   return place.get();
 }
 
-sqlite3_stmt* Table::Row_Statement() {
+sqlite3_stmt* Stored_Table::Row_Statement() {
   if (row_) return row_.get();
   return Keep(row_, "SELECT " + Columns() + " FROM " + Quoted(schema_.name) + " WHERE rowid=?");
 }
 
-sqlite3_stmt* Table::Insert_Statement() {
+sqlite3_stmt* Stored_Table::Insert_Statement() {
   if (insert_) return insert_.get();
   std::string fields = "rowid";
   std::string places = "?";
@@ -153,12 +155,12 @@ sqlite3_stmt* Table::Insert_Statement() {
               "INSERT INTO " + Quoted(schema_.name) + " (" + fields + ") VALUES (" + places + ")");
 }
 
-sqlite3_stmt* Table::Delete_Statement() {
+sqlite3_stmt* Stored_Table::Delete_Statement() {
   if (delete_) return delete_.get();
   return Keep(delete_, "DELETE FROM " + Quoted(schema_.name) + " WHERE rowid=?");
 }
 
-sqlite3_stmt* Table::Update_Statement(const std::vector<bool>& assigned) {
+sqlite3_stmt* Stored_Table::Update_Statement(const std::vector<bool>& assigned) {
   Statement& place = updates_[assigned];
   if (place) return place.get();
   std::string fields;
@@ -171,7 +173,7 @@ sqlite3_stmt* Table::Update_Statement(const std::vector<bool>& assigned) {
 
 // ---- numbers of rows ----
 
-std::int64_t Table::Next_Number(std::uint64_t file_state) {
+std::int64_t Stored_Table::Next_Number(std::uint64_t file_state) {
   if (numbered_in_state_ != file_state) {
     if (!counter_) {
       counter_ = engine_->Prepare(layout_.Counter() >= 0
@@ -192,9 +194,9 @@ std::int64_t Table::Next_Number(std::uint64_t file_state) {
   return ++last_number_;
 }
 
-void Table::Has_Seen(std::int64_t number) { last_number_ = std::max(last_number_, number); }
+void Stored_Table::Has_Seen(std::int64_t number) { last_number_ = std::max(last_number_, number); }
 
-std::int64_t Table::Count(std::uint64_t file_state) {
+std::int64_t Stored_Table::Count(std::uint64_t file_state) {
   if (counted_in_state_ != file_state) {
     if (!count_) count_ = engine_->Prepare("SELECT count(*) FROM " + Quoted(schema_.name));
     counted_ = engine_->Step(count_.get()) ? sqlite3_column_int64(count_.get(), 0) : 0;

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/record_store/Engine.h"
-#include "platform/record_store/Layout.h"
+#include "platform/record_store/Field_Layout.h"
 #include "platform/record_store/Look_Ups.h"
 #include "platform/record_store/Schema.h"
 
@@ -35,7 +35,7 @@ struct Order {
 /// A question to the engine about rows in one order. Its rows have the first `prefix` sort columns
 /// equal to given values; of those, `range` takes a part by the next sort column, or, where all are
 /// equal, by the storage order.
-struct Form {
+struct Question {
   enum Range { All, Sought, Beyond, From, Nulls };
 
   int prefix = 0;
@@ -43,12 +43,12 @@ struct Form {
   bool backwards = false;
 };
 
-class Table {
+class Stored_Table {
  public:
-  Table(Table_Schema schema, Engine& engine);
+  Stored_Table(Table_Schema schema, Engine& engine);
 
   const Table_Schema& Schema() const { return schema_; }
-  const Record_Store::Layout& Layout() const { return layout_; }
+  const Field_Layout& Layout() const { return layout_; }
   /// The column of a question that has the row's number: the counter, or one behind the fields.
   int Number_Column() const { return layout_.Counter() >= 0 ? layout_.Counter() : layout_.Count(); }
   int Width() const { return std::max(layout_.Count(), Number_Column() + 1); }
@@ -63,12 +63,12 @@ class Table {
     void Give_Back(Statement statement) { free_.push_back(std::move(statement)); }
 
    private:
-    friend class Table;
+    friend class Stored_Table;
     const Engine* engine_ = nullptr;
     std::string text_;
     std::vector<Statement> free_;
   };
-  Pool& Pool_Of(const Order& order, const Form& form);
+  Pool& Pool_Of(const Order& order, const Question& question);
 
   sqlite3_stmt* Row_Statement();     ///< the row of number ?1
   sqlite3_stmt* Insert_Statement();  ///< ?1 is the row's number, the fields follow
@@ -93,14 +93,14 @@ class Table {
  private:
   std::string Quoted_Field(int ordinal) const;
   std::string Columns() const;
-  std::string Question(const Order& order, const Form& form) const;
+  std::string Text_Of(const Order& order, const Question& question) const;
   sqlite3_stmt* Keep(Statement& place, const std::string& text);
 
   Engine* engine_;
   Table_Schema schema_;
-  Record_Store::Layout layout_;
+  Field_Layout layout_;
   std::vector<Order> orders_;
-  std::vector<std::vector<Pool>> pools_;  // by order, then by form
+  std::vector<std::vector<Pool>> pools_;  // by order, then by question
 
   Statement row_;
   Statement insert_;

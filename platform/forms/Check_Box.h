@@ -24,6 +24,9 @@ class Check_Box : public Placed_Control {
   void Show_Caption() override;
 
  private:
+  void Ticked_By_User(bool ticked);
+  void Show_Value();
+
   int value_ = 0;
 };
 

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
+#include "platform/forms/Clicked_At_Once.h"
 #include "platform/forms/Focus.h"
 #include "platform/forms/Form_Data.h"
 #include "platform/forms/Handlers.h"
@@ -12,19 +13,10 @@ namespace Forms {
 
 namespace {
 
-class Button_Widget : public QPushButton {
+class Button_Widget : public Clicked_At_Once<QPushButton> {
  public:
-  Button_Widget(QWidget* parent, Command_Button& button) : QPushButton(parent), button_(button) {
+  explicit Button_Widget(QWidget* parent) : Clicked_At_Once(parent) {
     setFocusPolicy(Qt::StrongFocus);
-  }
-
-  bool event(QEvent* event) override {
-    if (event->type() != QEvent::Shortcut) return QPushButton::event(event);
-    if (static_cast<QShortcutEvent*>(event)->isAmbiguous()) return QPushButton::event(event);
-    setFocus(Qt::ShortcutFocusReason);
-    const bool is_exit = button_.Owner().Data().exit_button == &button_;
-    if (is_exit || !Focus_Watch::The().Was_Refused(button_)) click();
-    return true;
   }
 
  protected:
@@ -35,23 +27,23 @@ class Button_Widget : public QPushButton {
       QPushButton::keyPressEvent(event);
     }
   }
-
- private:
-  Command_Button& button_;
 };
 
 }  // namespace
 
 Command_Button::Command_Button(Form& form, std::string_view name, std::string_view caption)
     : Placed_Control(form, name, caption) {
-  auto* widget = new Button_Widget(Widget_Parent(), *this);
+  auto* widget = new Button_Widget(Widget_Parent());
   QObject::connect(widget, &QPushButton::clicked, [this] { Clicked(); });
   Set_Widget(widget);
 }
 
 Command_Button::~Command_Button() = default;
 
-void Command_Button::Clicked() { Raise(*this, Click); }
+void Command_Button::Clicked() {
+  const bool left = Focus_Watch::The().Go_To(*this);
+  if (left || Owner().Data().exit_button == this) Raise(*this, Click);
+}
 
 void Command_Button::Show_Mnemonic(const std::string& text) {
   static_cast<QPushButton*>(Widget())->setText(To_Qt(text));

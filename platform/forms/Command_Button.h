@@ -1,5 +1,6 @@
-// A button. Set off by the mouse, its mnemonic, Enter or Space, it takes the focus first, so that
-// the LostFocus of the field comes before the Click.
+// A button. However it is set off, by mouse or key or by an assistive program, it takes the focus
+// first, so that the LostFocus of the field comes before the Click. Where the field refuses to be
+// left there is no Click, unless the button is the form's exit.
 #pragma once
 
 #include "platform/forms/Control.h"
@@ -13,13 +14,14 @@ class Command_Button : public Placed_Control {
 
   std::function<void()> Click;
 
-  /// The user's click, as it comes from the toolkit.
-  void Clicked();
   bool Has_Mnemonic() const override { return true; }
   void Show_Mnemonic(const std::string& text) override;
 
  protected:
   void Show_Caption() override;
+
+ private:
+  void Clicked();
 };
 
 }  // namespace Forms

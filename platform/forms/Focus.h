@@ -33,8 +33,11 @@ class Focus_Watch : public QObject {
   /// The form goes, or takes no input from now on: nothing of it loses the focus by that.
   void Forget(const Form& form);
 
-  /// Whether the last move of the focus, on its way to `control`, was refused by the field it left.
-  bool Was_Refused(const Placed_Control& control) const { return refused_for_ == &control; }
+  /// The one door for all that the user does to a control, by whatever way: the focus goes there
+  /// first, if it is not there yet, and so the field that has it is left before anything happens.
+  /// False if nothing may happen: the field refused to be left, or the control takes no input now
+  /// (Form::Takes_Input) and nothing was moved.
+  bool Go_To(Placed_Control& control);
 
   /// A form was shown by code; its window may come to the front later, or not at all.
   void Shown(Form& form);
@@ -51,7 +54,11 @@ class Focus_Watch : public QObject {
   void Look_Where(QWidget* now);
   void Change_Owner(Placed_Control* target);
   void Raise_Lost_Focus(Placed_Control& loser, Placed_Control* target);
-  bool Filter_Press(QWidget* widget);
+  bool Filter_Press(QWidget& widget);
+  bool Filter_Drop(const QWidget& widget, QEvent& drop);
+  void Take_Press_Of_Inactive_Window(const QWidget& widget);
+  void Bring_To_Front(Form& form);
+  bool Is_Ahead_Of_Window() const;
   void Activate(Form& form);
 
   std::unordered_map<const QWidget*, Placed_Control*> controls_;
@@ -61,8 +68,9 @@ class Focus_Watch : public QObject {
   Placed_Control* interrupted_ = nullptr;  ///< who got it, after a box that swallowed the mouse
   bool refused_ = false;
   bool by_code_ = false;
-  Form* front_ = nullptr;    ///< whose Form_Activate ran last
-  Form* awaited_ = nullptr;  ///< shown by code, not yet in front
+  bool press_dropped_ = false;  ///< and so is the release that ends it
+  Form* front_ = nullptr;       ///< whose Form_Activate ran last
+  Form* awaited_ = nullptr;     ///< asked to come to the front, not yet there
 };
 
 }  // namespace Forms

@@ -10,6 +10,7 @@
 #include "platform/forms/Later.h"
 #include "platform/forms/Layout_Building.h"
 #include "platform/forms/Menu.h"
+#include "platform/forms/Message_Box.h"
 #include "platform/forms/Qt_Text.h"
 #include "platform/forms/Screens_Inside.h"
 #include "platform/run_time/Guard.h"
@@ -68,6 +69,11 @@ void Form::Set_Width(int pixels) {
 }
 
 bool Form::Is_Live() const { return data_->loaded && !data_->unloaded && !Process_Has_Ended(); }
+
+bool Form::Takes_Input() const {
+  return Is_Live() && Visible() && data_->window->isEnabled() && data_->waiting_for == 0 &&
+         !Box_Is_Up();
+}
 
 void Form::Load() {
   if (data_->loaded) return;

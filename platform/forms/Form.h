@@ -18,8 +18,9 @@ class Menu_Entry;
 struct Form_Data;
 
 /// The base of every screen. A screen's controls are its members; its constructor builds the
-/// design (captions, events, layout) and touches nothing else. It is made and owned by the
-/// registry (Screens.h).
+/// design: captions, events, layout, what is hidden, disabled or tagged at first. It may keep a
+/// global as it stands when the screen is opened, such as the command, but opens no table and asks
+/// no other screen: that is for Form_Load. A screen is made and owned by the registry (Screens.h).
 ///
 /// Life: made; Form_Load, once, before it is visible; any number of Show and Hide; Unload, which
 /// runs Form_Unload at once and forgets everything. A handler of the form that unloads it runs on
@@ -67,8 +68,11 @@ class Form {
   QWidget* Window() const;
   /// Runs Form_Load if that has not been.
   void Load();
-  /// Whether the user's doings still reach handlers: loaded and not yet unloaded.
+  /// Loaded and not yet unloaded.
   bool Is_Live() const;
+  /// Whether the user's doings reach handlers now: the form is live, in sight and enabled, waits
+  /// for no other form and stands behind no message box.
+  bool Takes_Input() const;
 
  protected:
   /// The layout of everything that is seen. Called once, at the end of the constructor.

@@ -21,11 +21,11 @@ Form* Form_Of(const QWidget* widget) {
 
 void Leave(Form& form, bool by_key) {
   const Form_Data& data = form.Data();
-  if (!form.Is_Live() || data.waiting_for > 0 || (by_key && !data.esc_leaves)) return;
+  if (!form.Takes_Input() || (by_key && !data.esc_leaves)) return;
   if (data.exit_button != nullptr) {
-    if (data.exit_button->Enabled()) data.exit_button->Clicked();
+    Raise(*data.exit_button, data.exit_button->Click);
   } else if (data.exit_entry != nullptr) {
-    if (data.exit_entry->Enabled()) Raise(*data.exit_entry, data.exit_entry->Click);
+    Raise(*data.exit_entry, data.exit_entry->Click);
   } else {
     Run_Guarded([&] { form.Unload(); });
   }

@@ -10,11 +10,13 @@
 
 namespace Forms {
 
-/// The user did something to `control`: runs `handler` inside the guard, unless the form is gone.
+/// The user did something to `control`: runs `handler` inside the guard, unless the control or its
+/// form takes no input now. Every way of the user's goes through here, also those that the toolkit
+/// does not close by itself, as the actions of assistive programs.
 template <class... Arguments>
 void Raise(const Control& control, const std::function<void(Arguments...)>& handler,
            std::type_identity_t<Arguments>... arguments) {
-  if (!handler || !control.Owner().Is_Live()) return;
+  if (!handler || !control.Enabled() || !control.Owner().Takes_Input()) return;
   Run_Guarded([&] { handler(arguments...); });
 }
 

@@ -3,6 +3,7 @@
 #include <QSignalBlocker>
 #include <QWidget>
 
+#include "platform/forms/Focus.h"
 #include "platform/forms/Handlers.h"
 #include "platform/forms/Plain_List.h"
 #include "platform/run_time/Run_Time_Error.h"
@@ -67,6 +68,7 @@ void Item_List::Take_Index(int index) {
 }
 
 void Item_List::Chosen_By_User(int index) {
+  if (!Focus_Watch::The().Go_To(*this)) return Take_Index(list_index_);
   list_index_ = index;
   Raise(*this, Click);
 }

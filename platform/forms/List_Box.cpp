@@ -1,5 +1,6 @@
 #include "platform/forms/List_Box.h"
 
+#include "platform/forms/Focus.h"
 #include "platform/forms/Handlers.h"
 #include "platform/forms/List_Common.h"
 #include "platform/forms/List_Widget.h"
@@ -84,7 +85,7 @@ int Check_List::SelCount() const {
 }
 
 void Check_List::Ticked_By_User(int index, bool ticked) {
-  if (Locked() || Entries().Ticked(index) == ticked) return;
+  if (Locked() || Entries().Ticked(index) == ticked || !Focus_Watch::The().Go_To(*this)) return;
   Take_Index(index);
   Entries().Set_Ticked(index, ticked);
   Raise(*this, ItemCheck, index);

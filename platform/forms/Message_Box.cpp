@@ -21,6 +21,7 @@ Watcher& The_Watcher() {
 }
 
 int boxes_shown = 0;
+int boxes_up = 0;
 
 // The frame would cut a title that is wider than the text.
 void Make_Room_For_Title(QMessageBox& dialog) {
@@ -53,6 +54,10 @@ bool Ask(const Box& box) {
 }
 
 bool Show(const Box& box) {
+  struct Mark {
+    Mark() { ++boxes_up; }
+    ~Mark() { --boxes_up; }
+  } const mark;
   ++boxes_shown;
   if (The_Watcher()) {
     if (const std::optional<bool> answer = The_Watcher()(box)) return *answer;
@@ -80,5 +85,7 @@ void Show_Failure(const Run_Time_Error& error) {
 void Watch_Boxes_For_Tests(Watcher watcher) { The_Watcher() = std::move(watcher); }
 
 int Boxes_Shown() { return boxes_shown; }
+
+bool Box_Is_Up() { return boxes_up > 0; }
 
 }  // namespace Forms

@@ -33,5 +33,7 @@ void Watch_Boxes_For_Tests(std::function<std::optional<bool>(const Box&)> watche
 
 /// How many boxes there have been in this run.
 int Boxes_Shown();
+/// Whether one is up now, or asks a test's watcher.
+bool Box_Is_Up();
 
 }  // namespace Forms

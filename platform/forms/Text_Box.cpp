@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 
+#include "platform/forms/Focus.h"
 #include "platform/forms/Handlers.h"
 #include "platform/forms/Qt_Text.h"
 
@@ -35,8 +36,11 @@ Text_Box::Text_Box(Form& form, std::string_view name, Lines lines)
 
 Text_Box::~Text_Box() = default;
 
+// Not only keys change a text: a drop and an assistive program do, in any box. One that was changed
+// unseen would never be left, and never tested.
 void Text_Box::Take_Over(std::string text) {
   if (text == text_) return;
+  if (!Focus_Watch::The().Go_To(*this)) return Show_Text();
   text_ = std::move(text);
   Raise(*this, Change);
 }
@@ -44,15 +48,17 @@ void Text_Box::Take_Over(std::string text) {
 void Text_Box::Set_Text(std::string_view text) {
   if (text == text_) return;
   text_ = text;
-  {
-    const QSignalBlocker no_signals(Widget());
-    if (lines_ == Lines::One) {
-      static_cast<QLineEdit*>(Widget())->setText(To_Qt(text));
-    } else {
-      static_cast<QPlainTextEdit*>(Widget())->setPlainText(To_Qt(text).replace("\r\n", "\n"));
-    }
-  }
+  Show_Text();
   if (Change) Change();
+}
+
+void Text_Box::Show_Text() {
+  const QSignalBlocker no_signals(Widget());
+  if (lines_ == Lines::One) {
+    static_cast<QLineEdit*>(Widget())->setText(To_Qt(text_));
+  } else {
+    static_cast<QPlainTextEdit*>(Widget())->setPlainText(To_Qt(text_).replace("\r\n", "\n"));
+  }
 }
 
 void Text_Box::Select_All() {

@@ -37,6 +37,7 @@ class Text_Box : public Lockable_Control {
 
  private:
   void Take_Over(std::string text);
+  void Show_Text();
 
   std::string text_;
   Lines lines_;

@@ -252,12 +252,7 @@ TEST_F(Controls_Test, Each_line_break_of_the_program_is_one_that_is_seen) {
   const char* const text = "Your cellar\rhas\r\nno wine.\r\r<b>None</b>";
   const std::string lines = "Your cellar\nhas\nno wine.\n\n<b>None</b>";
   std::string shown;
-  QTimer::singleShot(0, [&] {
-    const auto is_up = [] {
-      const QWidget* box = QApplication::activeModalWidget();
-      return box != nullptr && QApplication::focusWindow() == box->windowHandle();
-    };
-    ASSERT_TRUE(Wait_Until(is_up));
+  Act_In_Next_Box([&] {
     shown = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget()).text().toStdString();
     Press("Return");
   });

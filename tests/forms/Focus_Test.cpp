@@ -1,7 +1,13 @@
 // Who has the focus, who loses it, and which clicks are dropped.
 #include <gtest/gtest.h>
 
-#include <QPushButton>
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
+#include <map>
 
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Guard.h"
@@ -18,6 +24,8 @@ class Entry_Form : public Forms::Form {
     Price_Text.Change = [this] { log.push_back("Change " + Price_Text.Text()); };
     Price_Text.LostFocus = [this] { Price_Text_LostFocus(); };
     Name_Text.LostFocus = [this] { log.push_back("Name LostFocus"); };
+    Dry_Check.Click = [this] { log.push_back("Dry " + std::to_string(Dry_Check.Value())); };
+    Wine_Add.Click = [] { log.push_back("Add"); };
     General_Command.Click = [this] { log.push_back("Click"); };
     Exit_Command.Click = [this] {
       log.push_back("Exit");
@@ -25,15 +33,15 @@ class Entry_Form : public Forms::Form {
     };
     Set_Exit(Exit_Command);
     Set_Content(Forms::Column({Forms::Fields({{Price_Label, Price_Text}, {Name_Label, Name_Text}}),
-                               Forms::Buttons({General_Command, Exit_Command})}));
+                               Dry_Check, Forms::Buttons({General_Command, Exit_Command})}));
   }
 
   void Price_Text_LostFocus() {
     log.push_back("Price LostFocus");
-    if (Price_Text.Text() == "on") Name_Text.SetFocus();
-    if (Price_Text.Text() != "bad") return;
-    Forms::Message_Box("not numeric", "ILLEGAL NUMBER");
-    Price_Text.SetFocus();
+    const std::string& text = Price_Text.Text();
+    if (text == "on") Name_Text.SetFocus();
+    if (text == "told" || text == "bad") Forms::Message_Box("not numeric", "ILLEGAL NUMBER");
+    if (text == "bad") Price_Text.SetFocus();
   }
 
   static inline Log log;
@@ -41,20 +49,31 @@ class Entry_Form : public Forms::Form {
   Forms::Text_Box Price_Text{*this, "Price_Text"};
   Forms::Label Name_Label{*this, "Name_Label", "Name"};
   Forms::Text_Box Name_Text{*this, "Name_Text"};
+  Forms::Check_Box Dry_Check{*this, "Dry_Check", "Dry"};
+  Forms::Menu_Entry Wine_Add{*this, "Wine_Add", "Add"};
   Forms::Command_Button General_Command{*this, "General_Command", "SAVE"};
   Forms::Command_Button Exit_Command{*this, "Exit_Command", "EXIT"};
+};
+
+class Picker_Form : public Forms::Form {
+ public:
+  Picker_Form() : Form("Picker_Form", "Picker") { Set_Content(Forms::Column({Choice_Text})); }
+  Forms::Text_Box Choice_Text{*this, "Choice_Text"};
 };
 
 class Focus_Test : public testing::Test {
  protected:
   Focus_Test() {
     Forms::Screens::Register<Entry_Form>("Entry_Form");
-    Run_Guarded([] { Forms::Screen("Entry_Form").Open(); });
-    EXPECT_TRUE(Wait_Until([] { return Focused() == "Price_Text"; }));
+    Open();
     Entry_Form::log.clear();
   }
   ~Focus_Test() override { Forms::Screens::Clear_For_Tests(); }
 
+  static void Open() {
+    Run_Guarded([] { Forms::Screen("Entry_Form").Open(); });
+    EXPECT_TRUE(Wait_Until([] { return Focused() == "Price_Text"; }));
+  }
   static Log Taken() { return std::exchange(Entry_Form::log, {}); }
 };
 
@@ -77,50 +96,163 @@ TEST_F(Focus_Test, Leaving_a_field_comes_before_the_click_of_the_button) {
   EXPECT_EQ(Taken(), Log({"Price LostFocus"}));
 }
 
-TEST_F(Focus_Test, A_refused_value_drops_the_click_but_not_the_exit) {
-  Box_Script boxes;
-  Type("bad");
-  for (const bool by_mouse : {true, false}) {
-    Taken();
-    by_mouse ? Click("General_Command") : Press("Alt+S");
-    EXPECT_EQ(Taken(), Log({"Price LostFocus"})) << by_mouse;
-    EXPECT_EQ(Focused(), "Price_Text");
+// A focus that is not the program's, as long as it lives.
+class Other_Program : public QWidget {
+ public:
+  Other_Program() {
+    setFocusPolicy(Qt::StrongFocus);
+    show();
+    activateWindow();
+    setFocus();
+    EXPECT_TRUE(Wait_Until([this] { return hasFocus(); }));
   }
-  Press("Tab");
-  EXPECT_EQ(Focused(), "Price_Text");
-  Taken();
-  Click("Exit_Command");
-  EXPECT_EQ(Taken(), Log({"Price LostFocus", "Exit"}));
-  EXPECT_FALSE(Forms::Screen("Entry_Form").Is_Loaded());
+};
+
+QAccessibleInterface& Seen_By_Assistive_Programs(const char* name) {
+  return *QAccessible::queryAccessibleInterface(&Find(name));
 }
 
-TEST_F(Focus_Test, A_box_in_the_middle_of_a_press_leaves_no_button_down) {
-  Type("bad");
-  for (const char* button : {"General_Command", "Exit_Command"}) {
-    Taken();
-    Press_In_Next_Box("Return");
-    Click(button);
-    if (button == std::string("General_Command")) {
-      EXPECT_EQ(Taken(), Log({"Price LostFocus"}));
-      EXPECT_FALSE(dynamic_cast<QPushButton&>(Find(button)).isDown());
-      Type("!");
-      EXPECT_EQ(Shown_Text("Price_Text"), "bad!");
-      Press("Backspace");
+const std::string inactive = "mouse into an inactive window";
+
+/// How a user, or a program for the user, clicks.
+const std::map<std::string, void (*)(const char* button)> ways_to_click = {
+    {"mouse", [](const char* button) { Click(button); }},
+    {"mnemonic", [](const char* button) { Press("Alt+" + Shown_Text(button).substr(0, 1)); }},
+    {"action",
+     [](const char* button) {
+       auto* widget = dynamic_cast<QAbstractButton*>(&Find(button));
+       Seen_By_Assistive_Programs(button).actionInterface()->doAction(
+           QAccessibleActionInterface::pressAction());
+       EXPECT_TRUE(Wait_Until([widget] { return !widget->isDown(); }));
+       Settle_Events();
+     }},
+    {inactive,
+     [](const char* button) {
+       const Other_Program other;
+       Click(button);
+     }},
+};
+
+/// How a text comes into a box that does not have the focus.
+const std::map<std::string, void (*)(const char* box, const char* text)> ways_to_enter = {
+    {"keys",
+     [](const char* box, const char* text) {
+       Click(box);
+       if (Focused() == box) Type(text);
+     }},
+    {"drop",
+     [](const char* box, const char* text) {
+       QMimeData word;
+       word.setText(text);
+       QDragEnterEvent enter({}, Qt::CopyAction, &word, Qt::LeftButton, {});
+       QDropEvent drop({}, Qt::CopyAction, &word, Qt::LeftButton, {});
+       QApplication::sendEvent(&Find(box), &enter);
+       if (enter.isAccepted()) QApplication::sendEvent(&Find(box), &drop);
+       EXPECT_EQ(enter.isAccepted() && drop.isAccepted(), Shown_Text(box) == text);
+     }},
+    {"assistive program",
+     [](const char* box, const char* text) {
+       Seen_By_Assistive_Programs(box).setText(QAccessible::Value, text);
+     }},
+};
+
+// The text of the field says what its LostFocus does; see Price_Text_LostFocus.
+TEST_F(Focus_Test, A_field_is_left_before_any_click_and_a_refusal_drops_all_but_the_exit) {
+  for (const auto& [entering, enter] : ways_to_enter) {
+    for (const auto& [clicking, click] : ways_to_click) {
+      for (const std::string text : {"5", "told", "bad"}) {
+        SCOPED_TRACE(testing::Message() << text << " by " << entering << ", " << clicking);
+        Open();
+        Press("Tab");
+        enter("Price_Text", text.c_str());
+        const bool refused = text == "bad";
+        for (const bool on_exit : {false, true}) {
+          Taken();
+          const bool left_before = on_exit && !refused;
+          if (text != "5" && !left_before) Press_In_Next_Box("Return");
+          click(on_exit ? "Exit_Command" : "General_Command");
+          Log expected;
+          if (!left_before) expected.push_back("Price LostFocus");
+          if (on_exit) expected.push_back("Exit");
+          if (!on_exit && !refused) expected.push_back("Click");
+          EXPECT_EQ(Taken(), expected);
+          if (on_exit) continue;
+          Find("Entry_Form").activateWindow();  // no window manager does it when a box has gone
+          EXPECT_TRUE(Wait_Until(
+              [&] { return Focused() == (refused ? "Price_Text" : "General_Command"); }));
+          EXPECT_FALSE(dynamic_cast<QAbstractButton&>(Find("General_Command")).isDown());
+        }
+        EXPECT_FALSE(Forms::Screen("Entry_Form").Is_Loaded());
+      }
     }
   }
-  EXPECT_EQ(Taken(), Log({"Price LostFocus", "Exit"}));
+}
+
+TEST_F(Focus_Test, Nothing_is_changed_beside_a_field_that_refuses_to_be_left) {
+  Box_Script boxes;
+  const auto toggle = [] {
+    Seen_By_Assistive_Programs("Dry_Check")
+        .actionInterface()
+        ->doAction(QAccessibleActionInterface::toggleAction());
+  };
+  for (const std::string text : {"bad", "5"}) {
+    for (const auto& [entering, enter] : ways_to_enter) {
+      SCOPED_TRACE(text + ", " + entering);
+      Type_Into("Price_Text", text);
+      Taken();
+      enter("Name_Text", "word");
+      const bool refused = text == "bad";
+      EXPECT_EQ(Taken(), Log({"Price LostFocus"}));
+      EXPECT_EQ(Shown_Text("Name_Text"), refused ? "" : "word");
+      EXPECT_EQ(Focused(), refused ? "Price_Text" : "Name_Text");
+      Press("Ctrl+A");
+      Press("Delete");
+    }
+    Type_Into("Price_Text", text);
+    Taken();
+    toggle();
+    EXPECT_EQ(Taken(),
+              text == "bad" ? Log({"Price LostFocus"}) : Log({"Price LostFocus", "Dry 1"}));
+    EXPECT_EQ(dynamic_cast<QAbstractButton&>(Find("Dry_Check")).isChecked(), text == "5");
+  }
+}
+
+TEST_F(Focus_Test, A_form_that_takes_no_input_answers_to_nothing_and_nobody) {
+  auto& form = dynamic_cast<Entry_Form&>(Forms::Screen("Entry_Form").Instance());
+  const auto try_all = [](bool beside_a_box) {
+    for (const auto& [clicking, click] : ways_to_click) {
+      if (!beside_a_box || clicking != inactive) click("General_Command");
+    }
+    for (const auto& [entering, enter] : ways_to_enter) enter("Name_Text", "word");
+    Seen_By_Assistive_Programs("Dry_Check")
+        .actionInterface()
+        ->doAction(QAccessibleActionInterface::toggleAction());
+    Find("Entry_Form").findChild<QAction*>("Wine_Add")->trigger();
+    Close_Window("Entry_Form");
+    EXPECT_EQ(Taken(), Log());
+    EXPECT_EQ(Shown_Text("Name_Text"), "");
+    EXPECT_FALSE(dynamic_cast<QAbstractButton&>(Find("Dry_Check")).isChecked());
+  };
+  Act_In_Next_Box([&] {
+    try_all(true);
+    Press("Return");
+  });
+  Forms::Message_Box("text\r\nmore", "title");
+  form.Set_Enabled(false);
+  try_all(false);
+  form.Set_Enabled(true);
+  Forms::Screens::Register<Picker_Form>("Picker_Form");
+  Run_Guarded([&] { Forms::Screen("Picker_Form").Open_Over(form); });
+  try_all(false);
+  Run_Guarded([] { Forms::Screen("Picker_Form").Unload(); });
+  Click("General_Command");
+  EXPECT_EQ(Taken(), Log({"Click"}));
 }
 
 TEST_F(Focus_Test, Boxes_other_windows_and_a_disabled_form_take_no_focus_away) {
   Press_In_Next_Box("Return");
-  Forms::Message_Box("text\r\nmore", "title");
-  QWidget other_program;
-  other_program.setFocusPolicy(Qt::StrongFocus);
-  other_program.show();
-  other_program.activateWindow();
-  other_program.setFocus();
-  EXPECT_TRUE(Wait_Until([&] { return other_program.hasFocus(); }));
-  other_program.close();
+  Forms::Message_Box("text", "title");
+  Other_Program().close();
   Find("Entry_Form").activateWindow();
   EXPECT_TRUE(Wait_Until([] { return Focused() == "Price_Text"; }));
   EXPECT_EQ(Taken(), Log());

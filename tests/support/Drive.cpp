@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDeadlineTimer>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -352,14 +353,22 @@ void Settle_Events() {
   QCoreApplication::processEvents();
 }
 
-void Press_In_Next_Box(std::string_view key) {
-  QTimer::singleShot(0, [key = std::string(key)] {
-    const auto is_up = [] {
-      const QWidget* box = QApplication::activeModalWidget();
-      return box != nullptr && QApplication::focusWindow() == box->windowHandle();
-    };
-    if (Wait_Until(is_up)) Press(key);
+// The box may come up inside an event loop of its own, above that of whoever waits for it.
+void Act_In_Next_Box(const std::function<void()>& act) {
+  auto* look = new QTimer(qApp);
+  QObject::connect(look, &QTimer::timeout, [look, act, until = QDeadlineTimer(5000)] {
+    const QWidget* box = QApplication::activeModalWidget();
+    const bool is_up = box != nullptr && QApplication::focusWindow() == box->windowHandle();
+    if (!is_up && !until.hasExpired()) return;
+    look->stop();
+    look->deleteLater();
+    if (is_up) act();
   });
+  look->start(1);
+}
+
+void Press_In_Next_Box(std::string_view key) {
+  Act_In_Next_Box([key = std::string(key)] { Press(key); });
 }
 
 Box_Script::Box_Script(std::vector<bool> answers) : answers_(std::move(answers)) {

@@ -67,7 +67,9 @@ bool Wait_Until(const std::function<bool()>& condition);
 /// Lets all events that are due happen.
 void Settle_Events();
 
-/// Presses the key in the message box that the next steps bring up: a real one.
+/// Does it in the message box that the next steps bring up: a real one, which it must close.
+void Act_In_Next_Box(const std::function<void()>& act);
+/// Presses the key there.
 void Press_In_Next_Box(std::string_view key);
 
 /// Answers the message boxes of a test and keeps what they said. A box without an answer left in

@@ -60,6 +60,27 @@ QString Display::Run(const QString& command, const QStringList& arguments) const
   return QString::fromUtf8(process->readAllStandardOutput()).trimmed();
 }
 
+// Without a word about the background it would look for a program to paint one, and complain.
+Window_Manager::Window_Manager(const Display& display) {
+  const auto write = [this](const QString& name, const QString& text) {
+    QFile file(home_.filePath(name));
+    if (file.open(QFile::WriteOnly)) file.write(text.toUtf8());
+  };
+  write("style", "background: none\n");
+  write("init", "session.styleOverlay: " + home_.filePath("style") + "\n");
+  process_ = display.Begin(
+      "env", {"HOME=" + home_.path(), "fluxbox", "-no-toolbar", "-rc", home_.filePath("init")});
+  const bool ready = Comes_True([&] {
+    return display.Run("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"}).contains("window id");
+  });
+  if (!ready) throw std::runtime_error("fluxbox does not start");
+}
+
+Window_Manager::~Window_Manager() {
+  process_->kill();
+  process_->waitForFinished(patience);
+}
+
 Program::Program(const Display& display) : display_(display) {
   const QDir delivered(DELIVERED_FOLDER);
   const QDir folder(folder_.path());
@@ -144,6 +165,15 @@ void Program::Press(const QStringList& keys) const {
 
 void Program::Type(const QString& text) const {
   display_.Run("xdotool", {"type", "--delay", "15", text});
+}
+
+void Program::Click(const QString& title, int from_right, int from_below) const {
+  const QString window = Window_Of(title);
+  const QString place = display_.Run("xdotool", {"getwindowgeometry", window}).section(": ", -1);
+  const int x = place.section('x', 0, 0).toInt() - from_right;
+  const int y = place.section('x', 1, 1).toInt() - from_below;
+  display_.Run("xdotool", {"mousemove", "--window", window, QString::number(x), QString::number(y),
+                           "click", "1"});
 }
 
 void Program::Take_Picture(const QString& file) const {

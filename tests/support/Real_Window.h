@@ -26,6 +26,18 @@ class Display {
   QString name_;
 };
 
+/// A window manager on a display, for as long as the object lives. It passes the click on that
+/// brings a window to the front, and does so before the window is there.
+class Window_Manager {
+ public:
+  explicit Window_Manager(const Display& display);
+  ~Window_Manager();
+
+ private:
+  QTemporaryDir home_;
+  std::unique_ptr<QProcess> process_;
+};
+
 /// The program, started in a folder of its own with a copy of the delivered data file.
 class Program {
  public:
@@ -54,6 +66,9 @@ class Program {
   /// Presses keys one after the other, by their X names: "alt+m", "Down", "Return".
   void Press(const QStringList& keys) const;
   void Type(const QString& text) const;
+  /// Clicks into the window of this title, so many pixels from its right and its lower edge,
+  /// whether it is in front or not.
+  void Click(const QString& title, int from_right, int from_below) const;
   void Take_Picture(const QString& file) const;
 
  private:

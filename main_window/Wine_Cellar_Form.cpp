@@ -31,7 +31,7 @@ Wine_Cellar_Form::Wine_Cellar_Form() : Form("Wine_Cellar_Form", "Wine Cellar") {
 }
 
 void Wine_Cellar_Form::Lay_Out() {
-  using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  using namespace Forms;
   Picture1.Set_Picture(":/title.svg");
   Image1.Set_Picture(":/bunch.svg");
   Corvale_Logo.Set_Picture(":/logo.svg");

@@ -16,8 +16,9 @@ class Screen {
  public:
   explicit Screen(std::string_view name) : name_(name) {}
 
-  /// Whether a screen of this name is registered. Nothing else may be asked of one that is not:
-  /// such a call does nothing, or fails with 424.
+  /// Whether a screen of this name is registered. One that is not counts as not loaded, not visible
+  /// and without a tag, and to open, show, hide, unload or tag it does nothing. Only Load and what
+  /// needs the screen itself (Caption, Set_Caption, Control, Get, Instance) fail: with 424.
   bool Exists() const;
   bool Is_Loaded() const;
   bool Visible() const;

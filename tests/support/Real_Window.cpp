@@ -77,7 +77,7 @@ Window_Manager::Window_Manager(const Display& display) {
 }
 
 Window_Manager::~Window_Manager() {
-  process_->kill();
+  process_->terminate();
   process_->waitForFinished(patience);
 }
 

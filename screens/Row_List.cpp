@@ -52,8 +52,10 @@ void Row_List::Scroll_to(std::string_view key) {
 }
 
 void Row_List::Select(std::string_view key) {
-  if (std::optional<Forms::List_Item> row = Row_of(key)) row->Set_Selected(true);
-  Scroll_to(key);
+  std::optional<Forms::List_Item> row = Row_of(key);
+  if (!row) return;
+  row->Set_Selected(true);
+  row->EnsureVisible();
 }
 
 void Row_List::Sort_by(const Forms::Column_Header& header) {

@@ -64,48 +64,41 @@ class Lists_Form : public Forms::Form {
 
 class Lists_Test : public testing::Test {
  protected:
-  Lists_Test() {
+  ~Lists_Test() override { Forms::Screens::Clear_For_Tests(); }
+
+  static Log Taken() { return std::exchange(Lists_Form::log, {}); }
+  static Lists_Form& Opened() {
     Forms::Screens::Register<Lists_Form>("Lists_Form");
     Run_Guarded([] { Forms::Screen("Lists_Form").Open(); });
     EXPECT_TRUE(Wait_Until([] { return Focused() == "Country_Combo"; }));
     EXPECT_EQ(Taken(), Log());
-  }
-  ~Lists_Test() override { Forms::Screens::Clear_For_Tests(); }
-
-  static Log Taken() { return std::exchange(Lists_Form::log, {}); }
-  static std::vector<Forms::Item_List*> All_Lists() {
-    return {&Shown().Country_Combo, &Shown().Cat_List, &Shown().Variety_Combo};
-  }
-  static Lists_Form& Shown() {
     return dynamic_cast<Lists_Form&>(Forms::Screen("Lists_Form").Instance());
   }
+
+  Lists_Form& form = Opened();
+  Forms::Combo_Box& combo = form.Country_Combo;
+  Forms::List_Box& list = form.Cat_List;
+  Forms::Check_List& checks = form.Variety_Combo;
+  const std::vector<Forms::Item_List*> all_lists{&combo, &list, &checks};
 };
 
 TEST_F(Lists_Test, Code_that_chooses_raises_click_and_code_that_adds_or_removes_nothing) {
-  for (Forms::Item_List* list : All_Lists()) {
-    EXPECT_EQ(list->ListIndex(), -1);
-    EXPECT_EQ(list->Text(), "");
-    EXPECT_EQ(list->List(3), "Spain");
-    for (const int index : {1, 1, -1, 2}) list->Set_ListIndex(index);
+  for (Forms::Item_List* any : all_lists) {
+    for (const int index : {1, 1, -1, 2}) any->Set_ListIndex(index);
     EXPECT_EQ(Taken().size(), 3U);
-    list->AddItem("Austria", 0);
-    EXPECT_EQ(list->ListIndex(), 3);
-    EXPECT_EQ(list->Text(), "Greece");
-    list->RemoveItem(0);
-    EXPECT_EQ(list->ListIndex(), -1);
-    EXPECT_EQ(list->ListCount(), 4);
-    list->Clear();
-    EXPECT_EQ(list->ListCount(), 0);
-    list->AddItem("Italy");
-    EXPECT_EQ(list->ListIndex(), -1);
+    any->AddItem("Austria", 0);
+    EXPECT_EQ(std::to_string(any->ListIndex()) + any->Text(), "3Greece");
+    any->RemoveItem(0);
+    EXPECT_EQ(any->ListIndex(), -1);
+    any->Clear();
+    any->AddItem("Italy");
+    EXPECT_EQ(any->ListIndex(), -1);
     EXPECT_EQ(Shown_Text("Country_Combo"), "");
     EXPECT_EQ(Taken(), Log());
-    EXPECT_FAILURE(380, list->Set_ListIndex(1));
-    EXPECT_FAILURE(380, list->Set_ListIndex(-2));
-    EXPECT_FAILURE(381, list->List(1));
-    EXPECT_FAILURE(5, list->RemoveItem(1));
+    EXPECT_FAILURE(380, any->Set_ListIndex(1));
+    EXPECT_FAILURE(381, any->List(1));
+    EXPECT_FAILURE(5, any->RemoveItem(1));
   }
-  EXPECT_FAILURE(381, Shown().Variety_Combo.Selected(1));
 }
 
 TEST_F(Lists_Test, The_user_chooses_in_a_combo_box) {
@@ -115,8 +108,6 @@ TEST_F(Lists_Test, The_user_chooses_in_a_combo_box) {
   Press("Down");
   Type("f");
   EXPECT_EQ(Taken(), Log({"Combo Spain", "Combo France"}));
-  Press("Ctrl+C");
-  EXPECT_EQ(QApplication::clipboard()->text(), "France");
   Turn_Wheel("Country_Combo");
   EXPECT_EQ(Taken(), Log({"Combo Greece"}));
   Click("Other_Text");
@@ -129,20 +120,20 @@ TEST_F(Lists_Test, The_user_chooses_in_a_combo_box) {
 
 TEST_F(Lists_Test, The_list_of_a_combo_box_shows_its_longest_entry_whole) {
   const std::string longest(50, 'W');
-  Shown().Country_Combo.AddItem(longest);
+  combo.AddItem(longest);
   Click("Country_Combo");
-  const QWidget* list = QApplication::activePopupWidget();
-  ASSERT_NE(list, nullptr);
-  const int needed = list->fontMetrics().horizontalAdvance(QString::fromStdString(longest));
+  const QWidget* popup = QApplication::activePopupWidget();
+  ASSERT_NE(popup, nullptr);
+  const int needed = popup->fontMetrics().horizontalAdvance(QString::fromStdString(longest));
   EXPECT_LT(Find("Country_Combo").width(), needed);
-  EXPECT_GT(list->width(), needed);
-  EXPECT_TRUE(list->screen()->availableGeometry().contains(list->geometry()));
+  EXPECT_GT(popup->width(), needed);
+  EXPECT_TRUE(popup->screen()->availableGeometry().contains(popup->geometry()));
   Press("Escape");
 }
 
 TEST_F(Lists_Test, A_locked_combo_box_can_be_read_copied_and_set_but_not_changed) {
-  Shown().Country_Combo.Set_ListIndex(1);
-  Shown().Country_Combo.Set_Locked(true);
+  combo.Set_ListIndex(1);
+  combo.Set_Locked(true);
   Taken();
   Click("Other_Text");
   Click("Country_Combo");
@@ -154,29 +145,22 @@ TEST_F(Lists_Test, A_locked_combo_box_can_be_read_copied_and_set_but_not_changed
   EXPECT_EQ(Taken(), Log());
   Press("Ctrl+C");
   EXPECT_EQ(QApplication::clipboard()->text(), "France");
-  Double_Click("Country_Combo");
-  Shown().Country_Combo.Set_ListIndex(2);
-  EXPECT_EQ(Taken(), Log({"Combo DblClick", "Combo Greece"}));
-  Press("Tab");
-  EXPECT_EQ(Focused(), "Cat_List");
+  combo.Set_ListIndex(2);
+  EXPECT_EQ(Taken(), Log({"Combo Greece"}));
 }
 
 TEST_F(Lists_Test, The_user_chooses_in_a_list) {
-  Forms::List_Box& list = Shown().Cat_List;
   Click_Row("Cat_List", 1);
   Click_Row("Cat_List", 1);
   Press("Down");
   Type("s");
   EXPECT_EQ(Taken(), Log({"List France", "List France", "List Greece", "List Spain"}));
-  EXPECT_EQ(list.ListIndex(), 3);
   list.Set_Arrow_Keys_Pick(false);
   Press("Home");
   Type_Anew("fr");
   EXPECT_EQ(Taken(), Log());
   EXPECT_EQ(list.Text(), "France");
-  Press("Return");
-  Press("Down");
-  Press("Space");
+  for (const char* key : {"Return", "Down", "Space"}) Press(key);
   Click_Row("Cat_List", 3);
   Hold_Down("Cat_List", Qt::Key_Return);
   list.RemoveItem(0);
@@ -186,7 +170,6 @@ TEST_F(Lists_Test, The_user_chooses_in_a_list) {
 }
 
 TEST_F(Lists_Test, Enter_and_delete_are_events_of_a_list_in_which_an_entry_is_chosen) {
-  Forms::List_Box& list = Shown().Cat_List;
   list.SetFocus();
   const auto press_all = [] {
     for (const char* key : {"Return", "Enter", "Delete", "Shift+Delete", "Ctrl+Return"}) Press(key);
@@ -225,7 +208,6 @@ TEST_F(Lists_Test, A_double_click_comes_after_its_click_and_only_on_one_entry) {
   Double_Click_Row("Cat_List", 99);
   Double_Click_Row("Cat_List", 1, Qt::RightButton);
   EXPECT_EQ(Taken(), Log());
-  EXPECT_EQ(Chosen_Row("Cat_List"), 2);
   Double_Click_Row("Cat_List", 2, Qt::LeftButton, Qt::ControlModifier);
   EXPECT_EQ(Taken(), Log({"List Greece", "DblClick Greece"}));
   EXPECT_EQ(Chosen_Row("Cat_List"), 2);
@@ -235,8 +217,6 @@ TEST_F(Lists_Test, A_double_click_comes_after_its_click_and_only_on_one_entry) {
 }
 
 TEST_F(Lists_Test, A_handler_may_take_the_entries_away) {
-  Lists_Form& form = Shown();
-  Forms::List_Box& list = form.Cat_List;
   form.on_click = [&] { list.RemoveItem(list.ListIndex()); };
   Double_Click_Row("Cat_List", 0);
   EXPECT_EQ(Taken(), Log({"List Chile", "List France"}));
@@ -246,7 +226,6 @@ TEST_F(Lists_Test, A_handler_may_take_the_entries_away) {
   };
   Double_Click_Row("Cat_List", 0);
   EXPECT_EQ(Taken(), Log({"List Greece", "List Italy"}));
-  EXPECT_EQ(list.ListIndex(), -1);
   form.on_click = {};
   form.on_second = [&] { list.Clear(); };
   Double_Click_Row("Cat_List", 0);
@@ -258,10 +237,8 @@ TEST_F(Lists_Test, A_handler_may_take_the_entries_away) {
   Press("Delete");
   EXPECT_EQ(list.ListCount(), 3);
   list.Set_ListIndex(2);
-  Press("Return");
-  Press("Return");
+  for (const char* key : {"Return", "Return", "Down", "End", "Space", "Delete", "x"}) Press(key);
   EXPECT_EQ(list.ListCount(), 0);
-  for (const char* key : {"Down", "End", "Space", "Delete", "x"}) Press(key);
   EXPECT_EQ(Taken(), Log({"List Spain", "List Greece"}));
   form.Fill(list);
   form.on_second = [&] { form.Unload(); };
@@ -270,7 +247,6 @@ TEST_F(Lists_Test, A_handler_may_take_the_entries_away) {
 }
 
 TEST_F(Lists_Test, Keys_go_on_where_the_chosen_entry_was_removed) {
-  Forms::List_Box& list = Shown().Cat_List;
   list.SetFocus();
   list.AddItem("Sweden");
   const auto remove = [&](int index) {
@@ -289,10 +265,6 @@ TEST_F(Lists_Test, Keys_go_on_where_the_chosen_entry_was_removed) {
   EXPECT_EQ(Taken(), Log({"List Spain"}));
   EXPECT_EQ(Chosen_Row("Cat_List"), 2);
   remove(1);
-  list.Set_ListIndex(1);
-  EXPECT_EQ(Chosen_Row("Cat_List"), 1);
-  Press("Up");
-  EXPECT_EQ(Taken(), Log({"List Spain", "List Chile"}));
   remove(0);
   remove(0);
   list.AddItem("Italy");
@@ -301,7 +273,6 @@ TEST_F(Lists_Test, Keys_go_on_where_the_chosen_entry_was_removed) {
 }
 
 TEST_F(Lists_Test, The_first_key_chooses_what_the_focus_stands_on) {
-  Forms::List_Box& list = Shown().Cat_List;
   list.SetFocus();
   Press("Shift+F5");
   EXPECT_EQ(Taken(), Log());
@@ -311,7 +282,7 @@ TEST_F(Lists_Test, The_first_key_chooses_what_the_focus_stands_on) {
   EXPECT_EQ(Taken(), Log({"List Chile", "List France"}));
   for (const char* key : {"Home", "PgUp", "Space", "c"}) {
     list.Clear();
-    Shown().Fill(list);
+    form.Fill(list);
     Click("Other_Text");
     list.SetFocus();
     Press(key);
@@ -321,83 +292,65 @@ TEST_F(Lists_Test, The_first_key_chooses_what_the_focus_stands_on) {
 }
 
 TEST_F(Lists_Test, Typing_finds_entries_in_every_script) {
-  for (Forms::Item_List* list :
-       std::initializer_list<Forms::Item_List*>{&Shown().Cat_List, &Shown().Variety_Combo}) {
+  for (Forms::Item_List* any : {all_lists[1], all_lists[2]}) {
     for (const char* entry : {"São Tomé", "South Africa", "Éire", "日本", "日本酒", "𠮷野",
                               "Rôti d'agneau", "Roast chicken", "Chili"}) {
-      list->AddItem(entry);
+      any->AddItem(entry);
     }
-    list->Click = [list] { Lists_Form::log.push_back(list->Text()); };
-    list->SetFocus();
-    const auto typed = [](const char* word) {
-      Type_Anew(word);
-      return Taken();
-    };
-    EXPECT_EQ(typed("s"), Log({"Spain"}));
-    EXPECT_EQ(typed("s"), Log({"São Tomé"}));
-    EXPECT_EQ(typed("sss"), Log({"South Africa", "Spain", "São Tomé"}));
-    EXPECT_EQ(typed("SOUTH A"), Log({"South Africa"}));
-    EXPECT_EQ(typed("sao t"), Log({"Spain", "São Tomé"}));
-    EXPECT_EQ(typed("é"), Log({"Éire"}));
-    EXPECT_EQ(typed("日本酒"), Log({"日本", "日本酒"}));
-    EXPECT_EQ(typed("ж"), Log());
-    EXPECT_EQ(typed("chicken"), Log({"Chili", "Roast chicken"}));
-    EXPECT_EQ(typed("AGN"), Log({"South Africa", "Rôti d'agneau"}));
-    EXPECT_EQ(typed("hicken"), Log());
-    EXPECT_EQ(typed("tom"), Log({"São Tomé"}));
+    any->Click = [any] { Lists_Form::log.push_back(any->Text()); };
+    any->SetFocus();
+    for (const char* word : {"s", "s", "sss", "SOUTH A", "sao t", "é", "日本酒"}) Type_Anew(word);
+    EXPECT_EQ(Taken(), Log({"Spain", "São Tomé", "South Africa", "Spain", "São Tomé",
+                            "South Africa", "Spain", "São Tomé", "Éire", "日本", "日本酒"}));
+    for (const char* word : {"ж", "chicken", "AGN", "hicken", "tom"}) Type_Anew(word);
+    EXPECT_EQ(Taken(),
+              Log({"Chili", "Roast chicken", "South Africa", "Rôti d'agneau", "São Tomé"}));
     Type_Anew("roast");
     Press("Space");
     Type("c");
     EXPECT_EQ(Taken(), Log({"Rôti d'agneau", "Roast chicken"}));
-    Compose_Anew(list->Name(), "𠮷");
-    Compose_Anew(list->Name(), "酒");
+    Compose_Anew(any->Name(), "𠮷");
+    Compose_Anew(any->Name(), "酒");
     EXPECT_EQ(Taken(), Log({"𠮷野", "日本酒"}));
   }
 }
 
 TEST_F(Lists_Test, A_list_that_is_filled_anew_stands_at_its_top) {
-  for (Forms::Item_List* list : All_Lists()) {
-    auto* combo = dynamic_cast<QComboBox*>(&Find(list->Name()));
+  for (Forms::Item_List* any : all_lists) {
+    auto* box = dynamic_cast<QComboBox*>(&Find(any->Name()));
     const auto filled_to = [&](int chosen) {
-      list->Clear();
-      for (int i = 0; i < 60; ++i) list->AddItem("Entry " + std::to_string(i));
-      list->Set_ListIndex(chosen);
+      any->Clear();
+      for (int i = 0; i < 60; ++i) any->AddItem("Entry " + std::to_string(i));
+      any->Set_ListIndex(chosen);
       Settle_Events();
-      if (combo == nullptr) return View_Of(list->Name()).verticalScrollBar()->value();
-      combo->showPopup();
-      const int scrolled = combo->view()->verticalScrollBar()->value();
-      combo->hidePopup();
+      if (box == nullptr) return View_Of(any->Name()).verticalScrollBar()->value();
+      box->showPopup();
+      const int scrolled = box->view()->verticalScrollBar()->value();
+      box->hidePopup();
       return scrolled;
     };
-    EXPECT_GT(filled_to(59), 0) << list->Name();
-    EXPECT_EQ(filled_to(-1), 0) << list->Name();
+    EXPECT_GT(filled_to(59), 0) << any->Name();
+    EXPECT_EQ(filled_to(-1), 0) << any->Name();
   }
-  Taken();
 }
 
 TEST_F(Lists_Test, Ticks_raise_item_check_by_the_user_and_by_code_that_changes_one) {
-  Forms::Check_List& list = Shown().Variety_Combo;
   Click_Tick("Variety_Combo", 2);
-  EXPECT_TRUE(list.Selected(2));
-  EXPECT_EQ(list.ListIndex(), 2);
   Press("Space");
-  EXPECT_FALSE(list.Selected(2));
-  list.Set_Selected(0, true);
-  list.Set_Selected(0, true);
-  list.Set_Selected(3, true);
-  EXPECT_EQ(list.SelCount(), 2);
+  for (const int item : {0, 0, 3}) checks.Set_Selected(item, true);
+  EXPECT_EQ(checks.SelCount(), 2);
   const Log wanted{"ItemCheck 2", "Checks Greece", "ItemCheck 2", "ItemCheck 0", "ItemCheck 3"};
   EXPECT_EQ(Taken(), wanted);
-  list.Set_Locked(true);
+  checks.Set_Locked(true);
   Click_Tick("Variety_Combo", 1);
   Press("Space");
-  EXPECT_EQ(list.SelCount(), 2);
-  list.Set_Selected(3, false);
-  list.Set_Locked(false);
+  EXPECT_EQ(checks.SelCount(), 2);
+  checks.Set_Selected(3, false);
+  checks.Set_Locked(false);
   Taken();
-  Shown().undo_ticks = true;
+  form.undo_ticks = true;
   Click_Tick("Variety_Combo", 1);
-  EXPECT_FALSE(list.Selected(1));
+  EXPECT_FALSE(checks.Selected(1));
   EXPECT_EQ(Taken(), Log({"ItemCheck 1", "ItemCheck 1", "Checks France"}));
 }
 

@@ -55,21 +55,6 @@ TEST_F(Catalogue_Changes, An_addition_is_stored_whole_and_comes_into_the_list) {
   EXPECT_THAT(Lines("SelectList"), ElementsAre("Pie, é la crème"));
 }
 
-TEST_F(Catalogue_Changes, A_group_of_the_user_holds_ten) {
-  Maridages_Record last = Made_Up("The last delivered one");
-  last.Maridage_Group = 999999;
-  last.Maridage_SubGr = 3;
-  Put_Pairing(last);
-  Open("Pairing_Add");
-  Texts expected;
-  for (int pairing = 1; pairing <= 11; ++pairing) {
-    const Text name = "Dish " + std::to_string(pairing);
-    Add_Pairing({name, name});
-    expected.push_back(pairing < 11 ? "1000000|" + std::to_string(pairing) : "1000001|1");
-  }
-  EXPECT_EQ(Added("Maridage_Group, Maridage_SubGr"), expected);
-}
-
 // Behind the highest place of the highest group, wherever that row stands; a row of a hidden use
 // counts too.
 TEST_F(Catalogue_Changes, A_new_place_follows_the_highest_one) {
@@ -193,24 +178,6 @@ TEST_F(Catalogue_Changes, A_change_writes_sixty_characters_of_two_names_and_noth
   EXPECT_EQ(Stored(names)[0].substr(0, 4 + 120 + 1), "Two|" + Copies("ñ", 60) + "|");
   EXPECT_EQ(Stored(rest), rest_before);
   EXPECT_EQ(Stored("SELECT * FROM Maridages WHERE Maridage_ID <> " + key), others_before);
-}
-
-// What is left in the boxes goes to other columns than it came from.
-TEST_F(Catalogue_Changes, Under_a_third_language_the_names_shown_go_to_it_and_to_English) {
-  const Text key = Put_Pairing(Made_Up("Pie"));
-  Put_Pairing(Made_Up("Cake"));
-  Open("Pairing_Mod", french);
-  Click_Pairing("Cake en");
-  Click_Pairing("Pie en");
-  const Box_Script boxes;
-  Click("Cat_Add_Now");
-  EXPECT_THAT(Stored("SELECT English, Spanish, French FROM Maridages "
-                     "WHERE English LIKE 'Pie %' OR English LIKE 'Cake %' ORDER BY Maridage_ID"),
-              ElementsAre("Pie es|Pie es|Pie en", "Cake en|Cake es|Cake fr"));
-  Type_Into("CatText", "Cake fr");  // a double is no matter here, and the pick still holds
-  Click("Cat_Add_Now");
-  EXPECT_THAT(Stored("SELECT French FROM Maridages WHERE Maridage_ID = " + key),
-              ElementsAre("Cake fr"));
 }
 
 TEST_F(Catalogue_Changes, A_change_of_nothing_picked_or_of_what_has_gone_ends_the_run) {

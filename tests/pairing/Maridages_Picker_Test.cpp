@@ -57,21 +57,7 @@ TEST_F(Maridages_Picker, For_a_grape_or_a_cheese) {
 TEST_F(Maridages_Picker, For_a_wine_of_the_cellar) {
   const Long wine = Put_Wine(Sample_Wine());
   Put_Pairing(wine, Food(0));
-  Start_With("Wine_Add");
-  Wines.Variety = "Malbec";
-  Wines.Label = "Reserva";
-  Wines.Vintage = 2001;
-  Open_Under(maridages, "WineAdd");
-  EXPECT_EQ(Shown_Text("Recipe_Name"), "Malbec - Reserva - 2001");
-  EXPECT_EQ(Shown_Text("MSelectLab3"), "Grape Variety:");
-  Expect_State({}, false, false);
-  Add(Food(1).name);
-  Click("MultSelect");
-  Expect_Left(maridages, "Wine_Form");
-  EXPECT_THAT(Lines("Pairing_List"), ElementsAre(Food(1).name));
-  EXPECT_EQ(Tag_of("Pairing_List"), "1");
-  Click("Exit_Command");
-  Pick("Wine_Mod");
+  Start_With("Wine_Mod");
   Pick_Wine(wine);
   Open_Under(maridages, "WineMod");
   Expect_State({Food(0).name}, false, false);
@@ -150,23 +136,6 @@ TEST_F(Maridages_Picker, A_search_that_finds_nothing_in_the_general_list_ends_in
           "KEINE PASSENDEN WEINE: Es gibt KEINE Weine, die zu einer Ihrer Speisen passen."));
   Expect_Left(maridages, "Wine_Cellar_Form");
   EXPECT_EQ(Used(Food(0)), used);
-}
-
-TEST_F(Maridages_Picker, Words_and_tips_in_German) {
-  Set_Language(german);
-  Open("CheeseMod");
-  for (const auto& [control, text] : {std::pair{maridages, "Speisen zum Käse ÄNDERN"},
-                                      {"MultSelect", "WEITER"},
-                                      {"MSelectLab3", "Käse: "}}) {
-    EXPECT_EQ(Shown_Text(control), text);
-  }
-  EXPECT_FALSE(Is_Seen("MSelectLab2"));
-  EXPECT_EQ(Find("Add_Command").toolTip().toStdString(),
-            "Nimmt den markierten Eintrag in die Auswahl auf (Eingabetaste)");
-  Press("Esc");
-  Open_Under(maridages, "VarietyMod");
-  EXPECT_EQ(Shown_Text(maridages), "Speisen zur Rebsorte ÄNDERN");
-  EXPECT_EQ(Shown_Text("MSelectLab3"), "Rebsorte:");
 }
 
 }  // namespace

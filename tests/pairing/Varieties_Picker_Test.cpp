@@ -36,19 +36,6 @@ class Varieties_Picker : public Pickers_Program {
   }
 };
 
-TEST_F(Varieties_Picker, Every_variety_by_name_whatever_the_language) {
-  const Texts expected = In_Order("SELECT Variety_Name FROM Varieties");
-  for (const Integer language : {english, japanese}) {
-    Set_Language(language);
-    Start();
-    Open_For_Region(Sample().region_id);
-    EXPECT_EQ(Lines("Cat_List"), expected);
-    EXPECT_EQ(Shown_Text("Cat_Number"), std::to_string(expected.size()));
-    EXPECT_FALSE(Is_Usable("Add_Command"));
-    EXPECT_EQ(Focused(), "Cat_List");
-  }
-}
-
 TEST_F(Varieties_Picker, The_varieties_of_a_region_come_up_chosen_and_what_is_left_is_stored) {
   const Text of_region = "Region_ID = " + Sample().region_id;
   const Texts others = Rows("Varieties_Per_Region", "NOT " + of_region);
@@ -75,44 +62,28 @@ TEST_F(Varieties_Picker, The_varieties_of_a_region_come_up_chosen_and_what_is_le
   EXPECT_THAT(Lines("SelectList"), UnorderedElementsAreArray(chosen));
 }
 
-TEST_F(Varieties_Picker, A_region_without_varieties_begins_empty_and_Cancel_stores_nothing) {
-  Remove_Rows("Varieties_Per_Region");
-  Start();
-  Decoded_Count = 3;  // of another list
-  Open_For_Region(Sample().region_id);
-  EXPECT_THAT(Lines("SelectList"), IsEmpty());
-  EXPECT_FALSE(Is_Usable("MultSelect"));
-  Add(Sample().varieties[0]);
-  Press("Esc");
-  Expect_Left(varieties, "Wine_Cellar_Form");
-  EXPECT_FALSE(Varieties_Changed_Flag);
-  EXPECT_THAT(Rows("Varieties_Per_Region", "1 = 1"), IsEmpty());
-}
-
 TEST_F(Varieties_Picker, The_varieties_of_a_new_cheese_take_the_place_of_its_rows) {
   Remove_Rows("Varieties_Per_Cheeses");
   for (const int cheese : {7, 7, 8}) {
     Put("Varieties_Per_Cheeses", {{"Cheese_ID", cheese}, {"GROUP", 10}, {"SUBCATEGO", 1}});
   }
-  for (const bool screen_is_there : {false, true}) {
-    if (screen_is_there) Stand_In("Cheeses_Form", {});
-    Start();
-    Cheeses.Cheese_ID = 7;
-    Cheeses.Cheese_Name = "Brie";
-    Open_Under(varieties, "CheeseAdd");
-    EXPECT_EQ(Shown_Text("MSelectLab3"), "Cheese: ");
-    EXPECT_EQ(Shown_Text("Recipe_Name"), "Brie");
-    EXPECT_THAT(Lines("SelectList"), IsEmpty());
-    Add(Sample().varieties[0]);
-    Add(Sample().varieties[1]);
-    EXPECT_THAT(
-        Told_By([] { Click("MultSelect"); }),
-        ElementsAre("VARIETIES MATCHED TO CHEESE: Vaieties were added to the selected Cheese."));
-    Expect_Left(varieties, screen_is_there ? "Cheeses_Form" : "Wine_Cellar_Form");
-    EXPECT_EQ(Rows("Varieties_Per_Cheeses", "Cheese_ID = 7"),
-              Rows_For({Sample().varieties[0], Sample().varieties[1]}));
-    EXPECT_THAT(Rows("Varieties_Per_Cheeses", "Cheese_ID = 8"), ElementsAre("10|1"));
-  }
+  Stand_In("Cheeses_Form", {});
+  Start();
+  Cheeses.Cheese_ID = 7;
+  Cheeses.Cheese_Name = "Brie";
+  Open_Under(varieties, "CheeseAdd");
+  EXPECT_EQ(Shown_Text("MSelectLab3"), "Cheese: ");
+  EXPECT_EQ(Shown_Text("Recipe_Name"), "Brie");
+  EXPECT_THAT(Lines("SelectList"), IsEmpty());
+  Add(Sample().varieties[0]);
+  Add(Sample().varieties[1]);
+  EXPECT_THAT(
+      Told_By([] { Click("MultSelect"); }),
+      ElementsAre("VARIETIES MATCHED TO CHEESE: Vaieties were added to the selected Cheese."));
+  Expect_Left(varieties, "Cheeses_Form");
+  EXPECT_EQ(Rows("Varieties_Per_Cheeses", "Cheese_ID = 7"),
+            Rows_For({Sample().varieties[0], Sample().varieties[1]}));
+  EXPECT_THAT(Rows("Varieties_Per_Cheeses", "Cheese_ID = 8"), ElementsAre("10|1"));
 }
 
 TEST_F(Varieties_Picker, For_a_wine_the_grapes_are_handed_to_its_screen) {
@@ -132,29 +103,6 @@ TEST_F(Varieties_Picker, For_a_wine_the_grapes_are_handed_to_its_screen) {
     EXPECT_EQ(Tag_of("Variety_Combo"), "1");
     EXPECT_EQ(Tag_of("Variety_Add_Command"), "1");
   }
-}
-
-TEST_F(Varieties_Picker, A_search_looks_for_regions_and_stays) {
-  Start();
-  Open_Under(varieties, "WineSearch");
-  Add(Sample().varieties[0]);
-  EXPECT_THAT(Told_By([] { Click("MultSelect"); }), IsEmpty());
-  EXPECT_GT(Found_Count, 0);
-  EXPECT_TRUE(Is_Seen(varieties));
-  Press("Esc");
-  Stop();
-  Remove_Rows("Varieties_Per_Region");
-  const Text used = "SELECT Used FROM Varieties WHERE Variety_ID = " + Sample().variety_ids[0];
-  const int before = std::stoi(One(used));
-  Start();
-  Open_Under(varieties, "WineSearch");
-  Add(Sample().varieties[0]);
-  EXPECT_THAT(
-      Told_By([] { Click("MultSelect"); }),
-      ElementsAre(
-          "NO Regions found: There are NO Regions with\rANY of the varieties selected !!!"));
-  EXPECT_TRUE(Is_Seen(varieties));
-  EXPECT_EQ(std::stoi(One(used)), before + 1) << "counted all the same";
 }
 
 }  // namespace

@@ -55,46 +55,6 @@ class Wines_Picker : public Pickers_Program {
   }
 };
 
-TEST_F(Wines_Picker, ALL_in_every_list_is_the_whole_general_list) {
-  const Texts all = Stored("SELECT Mobile_Wine_Name FROM Mobile_Wines ORDER BY Mobile_Wine_ID");
-  Open();
-  Choose("Country_Combo", "Italy");
-  EXPECT_LT(Lines(list).size(), all.size());
-  Choose("Wine_Color_Combo", "WHITE");
-  Choose("Grape_Variety_Combo", Lines("Grape_Variety_Combo")[1]);
-  Choose("Grape_Variety_Combo", "ALL VARIETIES");
-  Choose("Wine_Color_Combo", "ALL");
-  Choose("Country_Combo", "ALL");
-  EXPECT_EQ(Shown_Column(list, 0), all);
-  EXPECT_EQ(Shown_Text("Wines_Number"), std::to_string(all.size()));
-  EXPECT_EQ(Lines("Grape_Variety_Combo").size(),
-            1 + std::stoul(One("SELECT count(DISTINCT v.Variety_ID) FROM Varieties v JOIN "
-                               "Mobile_Wines w ON w.Mobile_Wine_Variety_ID = v.Variety_ID")));
-}
-
-TEST_F(Wines_Picker, The_lists_as_they_open) {
-  Put_Wines();
-  for (const auto& [language, france, italy] :
-       {std::tuple{english, "France", "Italy"}, {german, "Frankreich", "Italien"}}) {
-    Set_Language(language);
-    Open();
-    EXPECT_EQ(Shown_Text(wines), "Select Multiple Wines");
-    EXPECT_THAT(Lines("Country_Combo"), ElementsAre("ALL", france, italy));
-    EXPECT_THAT(Lines("Wine_Color_Combo"),
-                ElementsAre("ALL", "RED", "WHITE", "ROSE", "FORTIFIED", "SPARKLING"));
-    EXPECT_THAT(Lines("Grape_Variety_Combo"), ElementsAre("ALL VARIETIES", "Malbec", "Merlot"));
-    EXPECT_EQ(Shown_Text("Country_Combo") + Shown_Text("Wine_Color_Combo"), "ALLALL");
-    EXPECT_EQ(Shown_Text("Grape_Variety_Combo"), "ALL VARIETIES");
-    EXPECT_THAT(Rows(), ElementsAre("Alpha | FRA | RED | Malbec", "Gamma | ITA | RED | Merlot",
-                                    "Beta | FRA | WHITE | Merlot", "Delta | ALL | ROSE | ",
-                                    "Alpha | ITA | FORTIFIED | Malbec"));
-    EXPECT_EQ(Shown_Text("Wines_Number"), "5");
-    EXPECT_EQ(Focused(), list);
-    EXPECT_FALSE(Is_Seen("Search_Text"));
-    EXPECT_FALSE(Is_Usable("Add_Command") || Is_Usable("MultSelect"));
-  }
-}
-
 TEST_F(Wines_Picker, A_colour_looks_at_all_three_a_country_at_the_first_alone) {
   Put_Wines();
   Open();
@@ -138,50 +98,7 @@ TEST_F(Wines_Picker, A_chosen_grape_stays_where_it_is_still_offered) {
   EXPECT_THAT(Rows(), ElementsAre("Alpha | FRA | RED | Malbec"));
 }
 
-TEST_F(Wines_Picker, A_wine_is_chosen_once_by_its_name) {
-  Put_Wines();
-  Open("CheeseMod");
-  const Box_Script boxes;
-  Click_Wine("Alpha | FRA");
-  EXPECT_EQ(Mobile_Wines.Mobile_Wine_Country, "FRA");
-  EXPECT_TRUE(Is_Usable("Add_Command"));
-  Click("Add_Command");
-  Click_Wine("Alpha | ITA");
-  Click("Add_Command");
-  Click_Wine("Gamma");
-  Press("Return");
-  Double_Click_Row(list, 2);
-  EXPECT_THAT(Lines("SelectList"), ElementsAre("Alpha", "Gamma", "Beta"));
-  EXPECT_EQ(Shown_Text("Selected_Number"), "3");
-  EXPECT_THAT(boxes.Boxes(), IsEmpty());
-  Choose("Wine_Color_Combo", "RED");
-  EXPECT_FALSE(Is_Usable("Add_Command"));
-  EXPECT_EQ(Lines("SelectList").size(), 3U);
-  Click_Line("SelectList", "Gamma");
-  Click("Remove_Command");
-  EXPECT_THAT(Lines("SelectList"), ElementsAre("Alpha", "Beta"));
-}
-
-TEST_F(Wines_Picker, Typing_finds_a_wine_and_a_header_turns_the_order) {
-  Put_Wines();
-  Open();
-  Type_Anew("bet");
-  Press("Return");
-  EXPECT_THAT(Lines("SelectList"), ElementsAre("Beta"));
-  Click_Header(list, 0);
-  EXPECT_EQ(Rows().front(), "Gamma | ITA | RED | Merlot");
-  Click_Header(list, 1);
-  EXPECT_EQ(Rows().front(), "Delta | ALL | ROSE | ");
-  Click_Header(list, 2);
-  EXPECT_EQ(Rows().front(), "Beta | FRA | WHITE | Merlot");
-  Click_Header(list, 3);
-  EXPECT_EQ(Rows().front(), "Delta | ALL | ROSE | ");
-  EXPECT_TRUE(Rows().back().ends_with("Merlot"));
-  Double_Click_Row(list, 0);
-  EXPECT_THAT(Lines("SelectList"), ElementsAre("Beta", "Delta"));
-}
-
-TEST_F(Wines_Picker, For_a_cheese_the_wines_are_handed_on) {
+TEST_F(Wines_Picker, For_a_cheese_the_wines_are_handed_on_each_name_and_key_once) {
   Put_Wines();
   Stand_In("Cheeses_Form", {"Wine_Parings_List", "Wine_Parings_Index_List"});
   const Texts keys = Stored("SELECT Mobile_Wine_ID FROM Mobile_Wines ORDER BY Mobile_Wine_ID");
@@ -192,14 +109,15 @@ TEST_F(Wines_Picker, For_a_cheese_the_wines_are_handed_on) {
     Open_Under(wines, change ? "CheeseMod" : "CheeseAdd");
     EXPECT_EQ(Lines("SelectList"), change ? Texts{"Old name"} : Texts{});
     EXPECT_EQ(Is_Usable("MultSelect"), change);
-    for (const char* wine : {"Delta", "Beta"}) {
+    EXPECT_THAT(Lines("Country_Combo"), ElementsAre("ALL", "France", "Italy"));
+    for (const char* wine : {"Alpha | FRA", "Alpha | ITA", "Beta"}) {
       Click_Wine(wine);
       Click("Add_Command");
     }
     Click("MultSelect");
     Expect_Left(wines, "Cheeses_Form");
-    EXPECT_EQ(Selection(), change ? (Texts{"Old name|" + keys[2], "Delta|" + keys[3]})
-                                  : (Texts{"Delta|" + keys[3], "Beta|" + keys[2]}));
+    EXPECT_EQ(Selection(), change ? (Texts{"Old name|" + keys[2], "Alpha|" + keys[0]})
+                                  : (Texts{"Alpha|" + keys[0], "Beta|" + keys[2]}));
     EXPECT_TRUE(Cheese_Wines_Changed);
     EXPECT_FALSE(Cheese_Foods_Changed);
   }

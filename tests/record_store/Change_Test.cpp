@@ -133,30 +133,16 @@ TEST_F(Change_Test, Nothing_Is_Assigned_Or_Updated_Without_A_Beginning) {
   EXPECT_EQ(Failure_Of([&] { rows.Delete(); }), 3021);
 }
 
-TEST_F(Change_Test, A_Unique_Key_Is_Unique_Without_Regard_To_Case) {
-  Recordset rows = database_->OpenRecordset("Shelves");
-  const auto add = [&](std::string_view shelf) {
-    rows.AddNew();
-    rows["Shelf"] = shelf;
-    rows.Update();
-  };
-  add("Rosé");
-  EXPECT_EQ(Failure_Of([&] { add("ROSE\u0301"); }), 3022);
-  database_->Commit();
-  rows.MoveFirst();
-  EXPECT_EQ(Walk(rows, "Shelf"), (Names{"Rosé"}));
-}
-
 // What a failure left unfinished goes; what was stored before it in the same burst stays.
-TEST_F(Change_Test, A_Failed_Update_Takes_Nothing_With_It) {
+TEST_F(Change_Test, A_Unique_Key_Knows_No_Case_And_A_Failed_Update_Takes_Nothing_With_It) {
   Recordset rows = database_->OpenRecordset("Shelves");
   rows.AddNew();
-  rows["Shelf"] = "x";
+  rows["Shelf"] = "Rosé";
   rows.Update();
   Add_Bottle("before", 1);
   rows.MoveFirst();
   rows.AddNew();
-  rows["Shelf"] = "X";
+  rows["Shelf"] = "ROSE\u0301";
   EXPECT_EQ(Failure_Of([&] { rows.Update(); }), 3022);
   database_->Commit();
   Reopen();
@@ -308,33 +294,8 @@ TEST_F(Change_Test, Every_Type_Comes_Back_As_It_Was) {
   rows.MoveFirst();
   EXPECT_EQ(rows["Litres"].As_Single(), 2.0F);
   EXPECT_EQ(rows["Litres"].As_Text(), "2");
-  EXPECT_EQ(rows["Name"].As_Text(), std::string("a\0b", 3));
-}
-
-TEST_F(Change_Test, Values_Convert_Between_The_Types) {
-  Set_Locale("C");
-  Add_Bottles({"12"});
-  Recordset rows = database_->OpenRecordset("Bottles");
-  rows.Edit();
-  EXPECT_EQ(rows["Name"].As_Long(), 12);
-  rows["Rack"] = "34";
-  EXPECT_EQ(rows["Rack"].As_Long(), 34);
-  rows["Rack"] = 2.5;
-  EXPECT_EQ(rows["Rack"].As_Long(), 2);
-  rows["Row"] = 3.5;
-  EXPECT_EQ(rows["Row"].As_Single(), 4.0F);
-  rows["Price"] = "12.5";
-  EXPECT_EQ(rows["Price"].As_Currency().ten_thousandths, 125000);
-  EXPECT_EQ(rows["Price"].As_Text(), "12.5");
-  rows["Full"] = 5;
   EXPECT_EQ(rows["Full"].As_Text(), "True");
-  EXPECT_EQ(rows["Full"].As_Long(), -1);
-  rows["Full"] = "false";
-  EXPECT_FALSE(rows["Full"].As_Boolean());
-  rows["Bought"] = "2020-02-29";
-  EXPECT_EQ(rows["Bought"].As_Date(), Date::Of(2020, 2, 29));
-  rows["Name"] = Date::Of(2020, 2, 29);
-  EXPECT_EQ(To_Date(rows["Name"].As_Text()), Date::Of(2020, 2, 29));
+  EXPECT_EQ(rows["Name"].As_Text(), std::string("a\0b", 3));
 }
 
 TEST_F(Change_Test, Values_That_Do_Not_Fit_Are_Refused) {

@@ -43,17 +43,6 @@ TEST_F(Query_Cursor_Test, Walks_To_Both_Ends_And_Back) {
   EXPECT_EQ(Name(rows) + Ends(rows), "a--");
 }
 
-TEST_F(Query_Cursor_Test, Turns_Round_Anywhere) {
-  Add_Four();
-  Recordset rows = Open();
-  std::string walked = Name(rows);
-  for (const char step : std::string("++-+--++-+-")) {
-    step == '+' ? rows.MoveNext() : rows.MovePrevious();
-    walked += Name(rows);
-  }
-  EXPECT_EQ(walked, "abcbcbabcbcb");
-}
-
 TEST_F(Query_Cursor_Test, Without_Rows_Both_Ends_Are_True) {
   Recordset rows = Open();
   EXPECT_EQ(Ends(rows), "BE");

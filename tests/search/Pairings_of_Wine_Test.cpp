@@ -25,9 +25,6 @@ class Pairings_of_Wine : public Search_Program {
     Click_Line("SelectList", name);
     Click("Remove_Command");
   }
-  Texts Cheese_Rows(const char* table) const {
-    return Stored("SELECT Cheese_ID, Wine_ID FROM " + Text(table) + " WHERE Wine_ID < 20000");
-  }
   Texts Offered(const Text& language) const {
     return Stored("SELECT " + language + " FROM Maridages WHERE Multiuse IN (2, 3) ORDER BY " +
                   language);
@@ -188,34 +185,6 @@ TEST_F(Pairings_of_Wine, Leaving_the_chooser_otherwise_changes_nothing) {
   }
   Modify();
   EXPECT_THAT(Links_of(wine), ElementsAre(Link(Food(0), "1"), Link(Food(1), "1")));
-}
-
-// ---- cheeses ----
-
-TEST_F(Pairings_of_Wine, Each_pairing_counts_as_the_cheese_that_was_read_last_elsewhere) {
-  const Text cheese = One("SELECT English FROM Maridages WHERE Cheese_ID <> -1");
-  const Text key = One("SELECT Cheese_ID FROM Maridages WHERE Cheese_ID <> -1");
-  const Long first = Put_Wine_with({Food(0)});
-  const Long second = Put_Wine_with({Food(0), Food(1)});
-  Start_With_Picked(first);
-  Choose_Pairings();
-  Add(cheese);
-  Click("MultSelect");
-  Modify();
-  for (const char* table : {"Cheeses_Per_Wines", "Wines_Per_Cheeses"}) {
-    EXPECT_THAT(Cheese_Rows(table), IsEmpty());  // no row of the pairings was read
-  }
-  Click("Exit_Command");
-  Pick("Pairings_List");
-  Click_Line("Maridages_ListView", cheese);
-  Press("Esc");
-  Pick("Wine_Mod");
-  Pick_Wine(second);
-  Modify();
-  const Text pair = key + "|" + To_Text(second);
-  for (const char* table : {"Cheeses_Per_Wines", "Wines_Per_Cheeses"}) {
-    EXPECT_THAT(Cheese_Rows(table), ElementsAre(pair, pair)) << table;
-  }
 }
 
 // ---- a stored wine ----

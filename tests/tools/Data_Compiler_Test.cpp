@@ -4,7 +4,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 
 #include "core/tables/Recipes_Wines_Common_DB.h"
@@ -140,13 +139,6 @@ TEST(Stored_Library, Reads_Back_As_It_Was_Written) {
   auto wineries = database->OpenRecordset("Wineries");
   wineries.AddNew();
   EXPECT_EQ(wineries["Winery_ID"].As_Long(), 10003);
-}
-
-TEST(Stored_Library, Never_Replaces_A_File) {
-  const Small_Library small;
-  std::ofstream(small.Path("old.mdb")) << "mine";
-  EXPECT_THROW(Write_Library(Sound(small), small.Path("old.mdb")), fs::filesystem_error);
-  EXPECT_EQ(Contents(small.Path("old.mdb")), "mine");
 }
 
 /// Runs the command; gives its exit status. What it says goes to `said`.

@@ -16,7 +16,7 @@
 #include "bench/Bare_Cellar.h"
 #include "bench/Cellar_Program.h"
 #include "bench/Large_Cellar.h"
-#include "core/Globals.h"
+#include "core/tables/System_Tables.h"
 
 namespace {
 

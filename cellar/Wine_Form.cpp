@@ -19,8 +19,8 @@ constexpr const char* pick_first = "Please Select a Wine from the Cellar first";
 
 Wine_Form::Wine_Form()
     : Cellar_Wine_Screen("Wine_Form", "Wine Information", {8, 30, 28, 20, 38, 10, 7, 7, 7},
-                  {"Vintage", "Winery", "Label", "Wine Region", "Grape Variety", "Color", "Merit",
-                   "Peak", "Stock"}) {
+                         {"Vintage", "Winery", "Label", "Wine Region", "Grape Variety", "Color",
+                          "Merit", "Peak", "Stock"}) {
   for (Forms::Placed_Control* field : Gate_Fields()) field->Set_Tag("0");
   for (Forms::Control* field : {static_cast<Forms::Control*>(&Country_Combo),
                                 static_cast<Forms::Control*>(&Region_Combo)}) {

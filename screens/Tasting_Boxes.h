@@ -39,8 +39,9 @@ class Tasting_Boxes {
   /// has rows of it. 3021 for a colour without rows. `english_color` is written as in that table.
   void Offer(std::string_view english_color);
 
-  /// Ticks what the rows of `Wine_Tasting` with this key say, flags nothing. Of the general list only
-  /// its own; for the cellar, a row of a wine of the other list with the same key shows as well.
+  /// Ticks what the rows of `Wine_Tasting` with this key say, flags nothing. Of the general list
+  /// only its own; for the cellar, a row of a wine of the other list with the same key shows as
+  /// well.
   void Show_Marks_of(Long wine_id);
   /// Adds a row for each flagged taste box and each ticked aroma box. 6 for a key beyond 16 bits.
   void Store_Marks_of(Long wine_id);

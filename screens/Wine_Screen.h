@@ -47,9 +47,7 @@ class Wine_Screen : public Command_Form {
   /// another. Every one of them ends with the gate.
   template <class Screen>
   void On(std::function<void()>& event, void (Screen::*handler)()) {
-    event = [this, handler] {
-      Handle([&] { (static_cast<Screen*>(this)->*handler)(); });
-    };
+    event = [this, handler] { Handle([&] { (static_cast<Screen*>(this)->*handler)(); }); };
   }
   /// A locked text box that was only looked at tests nothing and leaves the button as it is.
   template <class Screen>

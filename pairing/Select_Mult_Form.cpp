@@ -6,7 +6,7 @@
 Select_Mult_Form::Select_Mult_Form(std::string_view name, std::string_view caption,
                                    const Form_Words& words)
     : List_Picker_Form(name, caption), Words(words) {
-  using namespace Forms;  // NOLINT(google-build-using-namespace): the words of the layout
+  using namespace Forms;
   constexpr int list_width = 54;
   Set_Content(Column(
       {Row({MSelectLab3, Recipe_Name, MSelectLab2, Stretch()}),

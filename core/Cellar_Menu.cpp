@@ -1,6 +1,7 @@
 #include "core/Cellar_Menu.h"
 
 #include "core/Globals.h"
+#include "core/Languages.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
@@ -8,8 +9,6 @@
 #include "platform/run_time/Conversions.h"
 
 namespace {
-
-constexpr Integer english = 3;
 
 Forms::Control& Entry(std::string_view name) {
   return Forms::Screen("Wine_Cellar_Form").Control(name);
@@ -49,7 +48,7 @@ void Show_Named_Cellars(std::string_view first, std::string_view second) {
   Enable_Cellar_Services(true);
   Caption_Current_Cellar();
   Forms::Control& cheeses = Entry("Cheeses_Pairing_Cellar");
-  if (System_Language == english) cheeses.Set_Caption(cheeses.Caption() + " Wines");
+  if (System_Language == First_Language) cheeses.Set_Caption(cheeses.Caption() + " Wines");
   for (const char* entry : {"Cellar1_View", "Cellar1_Print"}) Entry(entry).Set_Caption(first);
   for (const char* entry : {"Cellar2_View", "Cellar2_Print"}) Entry(entry).Set_Caption(second);
 }

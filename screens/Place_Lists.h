@@ -1,6 +1,6 @@
 // What the lists of places, producers and grapes are filled with. Each adds its entries behind
 // those that stand in the list, chooses none, and leaves its tables closed; names are unique only
-// with their keys. A name with a quote in a country's short name is failure 3075.
+// with their keys. A quote in a country's short name is failure 3075.
 #pragma once
 
 #include <functional>

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 namespace Forms {
 
@@ -29,14 +28,5 @@ inline constexpr Color Inactive_Label_Color{128, 128, 128};
 /// Taste and aroma boxes that can be clicked, of cellar wines and of general wines.
 inline constexpr Color Open_Check_Color{255, 255, 192};
 inline constexpr Color Open_Mobile_Check_Color{255, 224, 192};
-
-/// The words that say the same in tool tips and to assistive programs. Set them before the forms
-/// are made.
-struct Words_Of_State {
-  std::string required = "A value must be given here.";
-  std::string locked = "Locked: to be read, not changed.";
-  std::string to_click_next = "Choose a line of this list next.";
-};
-Words_Of_State& State_Words();
 
 }  // namespace Forms

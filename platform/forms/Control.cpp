@@ -7,6 +7,7 @@
 #include "platform/forms/Focus.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/Form_Data.h"
+#include "platform/forms/Form_Texts.h"
 #include "platform/forms/Later.h"
 #include "platform/forms/Look.h"
 #include "platform/forms/Qt_Text.h"
@@ -103,9 +104,9 @@ void Placed_Control::Show_Look() {
 }
 
 std::string_view Placed_Control::State() const {
-  if (back_color_ == Required_Color) return State_Words().required;
-  if (back_color_ == Locked_Color || Is_Locked()) return State_Words().locked;
-  if (back_color_ == Active_List_Color) return State_Words().to_click_next;
+  if (back_color_ == Required_Color) return Form_Texts().required;
+  if (back_color_ == Locked_Color || Is_Locked()) return Form_Texts().locked;
+  if (back_color_ == Active_List_Color) return Form_Texts().to_click_next;
   return {};
 }
 
@@ -145,8 +146,8 @@ void Lockable_Control::Set_Locked(bool locked) {
   Show_Look();
 }
 
-Words_Of_State& State_Words() {
-  static Words_Of_State words;
+Texts_Of_Forms& Form_Texts() {
+  static Texts_Of_Forms words;
   return words;
 }
 

@@ -8,6 +8,7 @@
 #include "platform/forms/Command_Button.h"
 #include "platform/forms/Control.h"
 #include "platform/forms/Control_Array.h"
+#include "platform/forms/Form_Texts.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/Frame.h"
 #include "platform/forms/Label.h"

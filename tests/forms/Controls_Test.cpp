@@ -208,9 +208,9 @@ TEST_F(Controls_Test, A_tool_tip_is_plain_text_with_the_state_below_it) {
   };
   form.Name_Text.Set_Tool_Tip("A <b>name</b> & more\rof   it");
   form.Name_Text.Set_Locked(true);
-  EXPECT_EQ(shown(), "A <b>name</b> & more\nof   it\n" + Forms::State_Words().locked);
+  EXPECT_EQ(shown(), "A <b>name</b> & more\nof   it\n" + Forms::Form_Texts().locked);
   form.Name_Text.Set_Tool_Tip("");
-  EXPECT_EQ(shown(), Forms::State_Words().locked);
+  EXPECT_EQ(shown(), Forms::Form_Texts().locked);
 }
 
 TEST_F(Controls_Test, Colours_are_exact_and_tell_their_state_in_words_too) {
@@ -222,7 +222,7 @@ TEST_F(Controls_Test, Colours_are_exact_and_tell_their_state_in_words_too) {
   const QColor of_the_theme = colour_of("Name_Text");
   form.Name_Text.Set_BackColor(Forms::Required_Color);
   EXPECT_EQ(colour_of("Name_Text"), QColor(255, 128, 128));
-  EXPECT_EQ(Find("Name_Text").accessibleDescription().toStdString(), Forms::State_Words().required);
+  EXPECT_EQ(Find("Name_Text").accessibleDescription().toStdString(), Forms::Form_Texts().required);
   form.Notes_Text.Set_BackColor(Forms::Locked_Color);
   EXPECT_EQ(colour_of("Notes_Text"), QColor(255, 192, 255));
   form.Taste_Check[0].Set_BackColor(Forms::Open_Check_Color);

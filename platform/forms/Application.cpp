@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QIcon>
-#include <QProxyStyle>
 #include <QResource>
 
+#include "platform/forms/Desktop_Style.h"
 #include "platform/forms/Focus.h"
 #include "platform/forms/Later.h"
 #include "platform/forms/Message_Box.h"
@@ -23,17 +23,6 @@ std::string& App_Path_For_Tests() {
   static std::string path;
   return path;
 }
-
-/// The desktop's own style, with one thing settled: a combo box opens below itself and scrolls, and
-/// does not cover the screen with all its entries.
-class Desktop_Style : public QProxyStyle {
- public:
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                QStyleHintReturn* data) const override {
-    if (hint == SH_ComboBox_Popup) return 0;
-    return QProxyStyle::styleHint(hint, option, widget, data);
-  }
-};
 
 // Each file of the folder is the icon in one size. A drawing would be rendered at every start.
 QIcon Icon_Of_The_Program() {

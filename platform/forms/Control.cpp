@@ -1,5 +1,6 @@
 #include "platform/forms/Control.h"
 
+#include <QAbstractScrollArea>
 #include <QLayout>
 #include <QTextDocument>
 #include <QWidget>
@@ -57,6 +58,9 @@ void Placed_Control::Set_Widget(QWidget* widget) {
   widget_->setObjectName(To_Qt(Name()));
   widget_->hide();
   Focus_Watch::The().Enter(widget_, *this);
+  // The style knows the widget for a field from here on, and gives its frame the room of one.
+  if (auto* area = qobject_cast<QAbstractScrollArea*>(widget_))
+    area->setFrameStyle(area->frameStyle());
   QObject::connect(widget_, &QObject::destroyed, [this] {
     Focus_Watch::The().Remove(widget_, *this);
     Forget_Later(this);
@@ -99,7 +103,7 @@ void Placed_Control::Set_Tool_Tip(std::string_view text) {
 }
 
 void Placed_Control::Show_Look() {
-  Show_Later(this, [this] { Dress(widget_, back_color_, fore_color_); });
+  Show_Later(this, [this] { Dress(*this); });
   Show_State();
 }
 

@@ -11,6 +11,7 @@
 #include <QTextDocumentFragment>
 #include <QWidget>
 
+#include "platform/forms/Contrast.h"
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Guard.h"
 #include "tests/support/Drive.h"
@@ -37,7 +38,7 @@ class Controls_Form : public Forms::Form {
          Forms::One_Place(
              {Forms::Group(Wine_Taste_Frame, Forms::Grid(2, {Taste_Check[0], Taste_Check[1]})),
               Forms::Place(Message_Label).Centred()}),
-         Forms::Place(Region_Image).High(5)}));
+         Country_Combo, Forms::Place(Region_Image).High(5)}));
   }
 
   static inline Log log;
@@ -50,6 +51,7 @@ class Controls_Form : public Forms::Form {
   Forms::Text_Box Name_Text{*this, "Name_Text"};
   Forms::Label Notes_Label{*this, "Notes_Label", "Notes"};
   Forms::Text_Box Notes_Text{*this, "Notes_Text", Forms::Text_Box::Lines::Many};
+  Forms::Combo_Box Country_Combo{*this, "Country_Combo"};
   Forms::Frame Wine_Taste_Frame{*this, "Wine_Taste_Frame", "Taste"};
   Forms::Control_Array<Forms::Check_Box> Taste_Check{*this, "Taste_Check", 0, 1, "Fruity"};
   Forms::Label Message_Label{*this, "Message_Label", "No taste is known"};
@@ -213,23 +215,68 @@ TEST_F(Controls_Test, A_tool_tip_is_plain_text_with_the_state_below_it) {
   EXPECT_EQ(shown(), Forms::Form_Texts().locked);
 }
 
-TEST_F(Controls_Test, Colours_are_exact_and_tell_their_state_in_words_too) {
-  const auto colour_of = [](const char* name) {
+QPalette Dark() {
+  QPalette dark(QColor(60, 60, 60), QColor(45, 45, 45));
+  dark.setColor(QPalette::Base, QColor(30, 30, 30));
+  for (const auto role : {QPalette::Text, QPalette::WindowText}) dark.setColor(role, Qt::white);
+  return dark;
+}
+
+// Pixels of a field that has a text: its outline, the ground inside, the most striking one of the
+// text, and the leading edge.
+struct Pixels {
+  explicit Pixels(const char* name) {
     Settle_Events();
     QWidget& widget = Find(name);
-    return widget.grab().toImage().pixelColor(widget.width() - 12, widget.height() / 2);
-  };
-  const QColor of_the_theme = colour_of("Name_Text");
+    const QImage image = widget.grab().toImage();
+    const int middle = image.height() / 2;
+    outline = image.pixelColor(0, middle);
+    edge = image.pixelColor(3, middle);
+    ground = text = image.pixelColor(widget.width() - 18, 5);
+    for (int x = 10; x < image.width() / 2; ++x) {
+      for (int y = 4; y < image.height() - 4; ++y) {
+        const QColor pixel = image.pixelColor(x, y);
+        if (Forms::Contrast(pixel, ground) > Forms::Contrast(text, ground)) text = pixel;
+      }
+    }
+  }
+  QColor outline, edge, ground, text;
+};
+
+TEST_F(Controls_Test, Colours_tell_their_state_and_can_be_read_on_light_and_dark) {
+  const QPalette light = QApplication::palette();
+  for (const QPalette& theme : {light, Dark()}) {
+    QApplication::setPalette(theme);
+    const QColor base = theme.color(QPalette::Base);
+    form.Name_Text.Set_Text("Hill");
+    form.Country_Combo.AddItem("Hill");
+    form.Country_Combo.Set_ListIndex(0);
+    form.Notes_Text.Set_Text("Hill");
+    const std::array<Forms::Placed_Control*, 3> fields{&form.Name_Text, &form.Country_Combo,
+                                                       &form.Notes_Text};
+    for (Forms::Placed_Control* field : fields) {
+      for (const Forms::Color back : {Forms::Required_Color, Forms::Active_List_Color,
+                                      Forms::Locked_Color, Forms::Window_Color}) {
+        SCOPED_TRACE(field->Name());
+        field->Set_BackColor(back);
+        const Pixels seen(field->Name().c_str());
+        const QColor exact(back.red, back.green, back.blue);
+        const bool locked = back == Forms::Locked_Color;
+        const QColor shown = back.of_the_theme ? base : exact;
+        EXPECT_EQ(seen.edge, shown);
+        EXPECT_EQ(seen.ground, locked ? Forms::Mixed(base, exact, 0.12) : shown);
+        EXPECT_GE(Forms::Contrast(seen.outline, seen.ground), 3);
+        EXPECT_GE(Forms::Contrast(seen.text, seen.ground), 7);
+      }
+    }
+  }
+  QApplication::setPalette(light);
   form.Name_Text.Set_BackColor(Forms::Required_Color);
-  EXPECT_EQ(colour_of("Name_Text"), QColor(255, 128, 128));
   EXPECT_EQ(Find("Name_Text").accessibleDescription().toStdString(), Forms::Form_Texts().required);
-  form.Notes_Text.Set_BackColor(Forms::Locked_Color);
-  EXPECT_EQ(colour_of("Notes_Text"), QColor(255, 192, 255));
   form.Taste_Check[0].Set_BackColor(Forms::Open_Check_Color);
-  EXPECT_EQ(colour_of("Taste_Check_0"), QColor(255, 255, 192));
+  EXPECT_EQ(Pixels("Taste_Check_0").edge, QColor(255, 255, 192));
   form.Name_Text.Set_BackColor(Forms::Window_Color);
   EXPECT_EQ(Find("Name_Text").accessibleDescription(), "");
-  EXPECT_EQ(colour_of("Name_Text"), of_the_theme);
 }
 
 TEST_F(Controls_Test, Every_control_has_an_accessible_name_and_labels_lead_to_their_fields) {

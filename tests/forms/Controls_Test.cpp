@@ -16,6 +16,7 @@
 #include "platform/run_time/Guard.h"
 #include "tests/support/Drive.h"
 #include "tests/support/Expect_Failure.h"
+#include "tests/support/Pixels.h"
 
 namespace {
 
@@ -222,26 +223,12 @@ QPalette Dark() {
   return dark;
 }
 
-// Pixels of a field that has a text: its outline, the ground inside, the most striking one of the
-// text, and the leading edge.
-struct Pixels {
-  explicit Pixels(const char* name) {
-    Settle_Events();
-    QWidget& widget = Find(name);
-    const QImage image = widget.grab().toImage();
-    const int middle = image.height() / 2;
-    outline = image.pixelColor(0, middle);
-    edge = image.pixelColor(3, middle);
-    ground = text = image.pixelColor(widget.width() - 18, 5);
-    for (int x = 10; x < image.width() / 2; ++x) {
-      for (int y = 4; y < image.height() - 4; ++y) {
-        const QColor pixel = image.pixelColor(x, y);
-        if (Forms::Contrast(pixel, ground) > Forms::Contrast(text, ground)) text = pixel;
-      }
-    }
-  }
-  QColor outline, edge, ground, text;
-};
+Pixels Pixels_Of(const char* name) {
+  Settle_Events();
+  QWidget& widget = Find(name);
+  const QImage image = widget.grab().toImage();
+  return {image, image.rect(), image.rect().adjusted(9, 5, -20, -5)};
+}
 
 TEST_F(Controls_Test, Colours_tell_their_state_and_can_be_read_on_light_and_dark) {
   const QPalette light = QApplication::palette();
@@ -259,14 +246,14 @@ TEST_F(Controls_Test, Colours_tell_their_state_and_can_be_read_on_light_and_dark
                                       Forms::Locked_Color, Forms::Window_Color}) {
         SCOPED_TRACE(field->Name());
         field->Set_BackColor(back);
-        const Pixels seen(field->Name().c_str());
+        const Pixels seen = Pixels_Of(field->Name().c_str());
         const QColor exact(back.red, back.green, back.blue);
         const bool locked = back == Forms::Locked_Color;
         const QColor shown = back.of_the_theme ? base : exact;
         EXPECT_EQ(seen.edge, shown);
         EXPECT_EQ(seen.ground, locked ? Forms::Mixed(base, exact, 0.12) : shown);
-        EXPECT_GE(Forms::Contrast(seen.outline, seen.ground), 3);
-        EXPECT_GE(Forms::Contrast(seen.text, seen.ground), 7);
+        EXPECT_GE(seen.Contrast_Of_Outline(), 3);
+        EXPECT_GE(seen.Contrast_Of_Content(), 7);
       }
     }
   }
@@ -274,7 +261,7 @@ TEST_F(Controls_Test, Colours_tell_their_state_and_can_be_read_on_light_and_dark
   form.Name_Text.Set_BackColor(Forms::Required_Color);
   EXPECT_EQ(Find("Name_Text").accessibleDescription().toStdString(), Forms::Form_Texts().required);
   form.Taste_Check[0].Set_BackColor(Forms::Open_Check_Color);
-  EXPECT_EQ(Pixels("Taste_Check_0").edge, QColor(255, 255, 192));
+  EXPECT_EQ(Pixels_Of("Taste_Check_0").edge, QColor(255, 255, 192));
   form.Name_Text.Set_BackColor(Forms::Window_Color);
   EXPECT_EQ(Find("Name_Text").accessibleDescription(), "");
 }

@@ -1,10 +1,12 @@
 #include "platform/forms/Control.h"
 
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QLayout>
 #include <QTextDocument>
 #include <QWidget>
 
+#include "platform/forms/Empty_Text.h"
 #include "platform/forms/Focus.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/Form_Data.h"
@@ -75,7 +77,10 @@ void Placed_Control::Set_Placed() {
   Show_Visible();
 }
 
-void Placed_Control::Show_Caption() { Show_Accessible_Name(); }
+void Placed_Control::Show_Caption() {
+  Show_Accessible_Name();
+  Show_Word();
+}
 
 void Placed_Control::Show_Enabled() { widget_->setEnabled(Enabled()); }
 
@@ -114,15 +119,27 @@ std::string_view Placed_Control::State() const {
   return {};
 }
 
+void Placed_Control::Show_Word() {
+  if (!Form_Texts().words_of_captions.empty()) Show_State();
+}
+
 // The toolkit takes a tip that looks like marked-up text for such a one.
 void Placed_Control::Show_State() {
   QStringList lines;
-  for (const std::string_view part : {std::string_view(tool_tip_), State()}) {
+  const std::string_view word = Word_Of_Caption(Caption().empty() ? label_caption_ : Caption());
+  for (const std::string_view part : {std::string_view(tool_tip_), word, State()}) {
     if (!part.empty()) lines.append(To_Show(part));
   }
   const QString text = lines.join('\n');
-  widget_->setAccessibleDescription(text);
   widget_->setToolTip(Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
+  const auto* list = qobject_cast<const QAbstractItemView*>(widget_);
+  if (list != nullptr) lines.append(Empty_Text_Of(*list));
+  lines.removeAll({});
+  widget_->setAccessibleDescription(lines.join('\n'));
+}
+
+void Placed_Control::Set_Empty_Text(std::string_view text) {
+  Forms::Set_Empty_Text(static_cast<QAbstractItemView&>(*widget_), text, [this] { Show_State(); });
 }
 
 void Placed_Control::Set_Accessible_Name(std::string_view name) {
@@ -133,6 +150,7 @@ void Placed_Control::Set_Accessible_Name(std::string_view name) {
 void Placed_Control::Set_Label_Caption(std::string_view caption) {
   label_caption_ = caption;
   Show_Accessible_Name();
+  Show_Word();
 }
 
 void Placed_Control::Show_Accessible_Name() {
@@ -153,6 +171,12 @@ void Lockable_Control::Set_Locked(bool locked) {
 Texts_Of_Forms& Form_Texts() {
   static Texts_Of_Forms words;
   return words;
+}
+
+std::string_view Word_Of_Caption(std::string_view caption) {
+  const auto& words = Form_Texts().words_of_captions;
+  const auto found = words.find(caption);
+  return found == words.end() ? std::string_view() : found->second;
 }
 
 }  // namespace Forms

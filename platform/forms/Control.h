@@ -76,8 +76,8 @@ class Placed_Control : public Control {
   Color ForeColor() const { return fore_color_; }
   void Set_ForeColor(Color color);
 
-  /// What the program has to say about the control, as plain text. The words of its state, if any,
-  /// stand below it.
+  /// What the program has to say about the control, as plain text. The word for its caption, or
+  /// its label's, and the words of its state, if any, stand below it (Form_Texts.h).
   void Set_Tool_Tip(std::string_view text);
 
   /// The width of its place, in pixels of an unscaled desktop; without one the layout decides.
@@ -106,6 +106,8 @@ class Placed_Control : public Control {
   /// Called once by each kind of control with the widget it made; owned by the form's window.
   void Set_Widget(QWidget* widget);
   void Destroy_Widget();
+  /// Of a list: what it says in its middle, and to assistive programs, while it has no rows.
+  void Set_Empty_Text(std::string_view text);
   /// The widget that form children are made under.
   QWidget* Widget_Parent() const;
   /// Shows the colours and the state anew.
@@ -117,6 +119,7 @@ class Placed_Control : public Control {
 
  private:
   void Show_Accessible_Name();
+  void Show_Word();
   std::string_view State() const;
   void Show_State();
 

@@ -52,6 +52,11 @@ void List_Box::EnsureVisible(int index) {
   view->scrollTo(view->model()->index(index, 0));
 }
 
+void List_Box::Set_Bold(int index, bool bold) {
+  if (index < 0 || index >= ListCount()) Fail(Failure::Invalid_Property_Array_Index);
+  Entries().Set_Bold(index, bold);
+}
+
 void List_Box::Set_Arrow_Keys_Pick(bool pick) {
   static_cast<List_Widget*>(Widget())->Set_Arrow_Keys_Pick(pick);
 }

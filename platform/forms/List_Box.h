@@ -17,6 +17,10 @@ class List_Box : public Item_List {
   List_Box(Form& form, std::string_view name);
   ~List_Box() override;
 
+  using Placed_Control::Set_Empty_Text;
+  /// Shows the entry in bold until the list is cleared; assistive programs are told. 381 outside
+  /// the list.
+  void Set_Bold(int index, bool bold);
   /// Scrolls the list so that the entry is seen. 381 outside the list.
   void EnsureVisible(int index);
   /// False where a pick asks a question or leaves the screen: the arrow keys and typing only move
@@ -38,6 +42,7 @@ class Check_List : public Item_List {
   Check_List(Form& form, std::string_view name);
   ~Check_List() override;
 
+  using Placed_Control::Set_Empty_Text;
   /// Whether the entry is ticked. 381 outside the list.
   bool Selected(int index) const;
   /// Raises ItemCheck where that is a change.

@@ -82,6 +82,7 @@ class List_View : public Placed_Control {
   void Clear();
   /// 35600 outside 1 .. Count.
   void Remove(int index);
+  using Placed_Control::Set_Empty_Text;
   int Count() const;
   /// By place, counted from 1 in the order shown. 35600 outside 1 .. Count.
   List_Item ListItems(int index);

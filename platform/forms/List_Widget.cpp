@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "platform/forms/Empty_Text.h"
 #include "platform/forms/Handlers.h"
 #include "platform/forms/List_Common.h"
 #include "platform/forms/Plain_List.h"
@@ -136,6 +137,11 @@ void List_Widget::Step(QKeyEvent& event) {
   const bool unchosen = Stands_On_Unchosen();
   if (!unchosen || !Is_Step(event)) QListView::keyPressEvent(&event);
   if (unchosen && (Is_Step(event) || Is_Leap(event))) setCurrentIndex(currentIndex());
+}
+
+void List_Widget::paintEvent(QPaintEvent* event) {
+  QListView::paintEvent(event);
+  Paint_Empty_Text(*this);
 }
 
 void List_Widget::inputMethodEvent(QInputMethodEvent* event) {

@@ -34,6 +34,7 @@ class List_Widget : public QListView {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void Clicked(int clicks);

@@ -53,6 +53,13 @@ void Menu_Item::Show_Caption() {
   Assign_Mnemonics_Of(Place_Of_Action());
 }
 
+void Menu_Item::Set_Tool_Tip(std::string_view text) {
+  const QString tip = To_Show(text);
+  action_->setToolTip(tip);
+  action_->setStatusTip(tip);
+  action_->setWhatsThis(tip);
+}
+
 void Menu_Item::Show_Enabled() { action_->setEnabled(Enabled()); }
 
 void Menu_Item::Show_Visible() { action_->setVisible(Visible()); }
@@ -72,6 +79,7 @@ Menu::~Menu() = default;
 void Menu::Make() {
   sheet_ = new QMenu(Place_Of_Action());
   sheet_->setObjectName(To_Qt(Name()));
+  sheet_->setToolTipsVisible(true);
   Place_Of_Action()->addAction(sheet_->menuAction());
   Set_Action(sheet_->menuAction());
 }

@@ -19,6 +19,9 @@ class Menu_Item : public Control {
  public:
   ~Menu_Item() override;
 
+  /// What the menu says of the item when the pointer rests on it, one that is not enabled too.
+  void Set_Tool_Tip(std::string_view text);
+
   /// For this room and the tests.
   QAction* Action() const { return action_; }
 

@@ -24,13 +24,17 @@ class Plain_List : public QAbstractListModel {
 
   bool Ticked(int row) const { return ticks_[static_cast<std::size_t>(row)]; }
   void Set_Ticked(int row, bool ticked);
+  void Set_Bold(int row, bool bold);
 
   /// Set by a list whose entries can be ticked: the user wants this tick.
   std::function<void(int row, bool ticked)> user_ticks;
 
  private:
+  QVariant Emphasis(int row, int role) const;
+
   std::vector<std::string> texts_;
   std::vector<bool> ticks_;
+  std::vector<bool> bold_;
 };
 
 }  // namespace Forms

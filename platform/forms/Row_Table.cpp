@@ -5,6 +5,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include "platform/forms/Empty_Text.h"
+#include "platform/forms/Form_Texts.h"
 #include "platform/forms/List_Common.h"
 #include "platform/forms/List_Rows.h"
 #include "platform/forms/Qt_Text.h"
@@ -49,6 +51,7 @@ QVariant Row_Model::data(const QModelIndex& index, int role) const {
 QVariant Row_Model::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal) return {};
   if (role == Qt::TextAlignmentRole) return Alignment(Column_Of(section));
+  if (role == Qt::ToolTipRole) return To_Qt(Word_Of_Caption(Column_Of(section).text));
   return role == Qt::DisplayRole ? QVariant(To_Qt(Column_Of(section).text)) : QVariant();
 }
 
@@ -173,6 +176,11 @@ void Row_View::mouseReleaseEvent(QMouseEvent* event) {
   const int place = std::exchange(pressed_, -1);
   if (event->button() != Qt::LeftButton || place < 0) return;
   second_click_ ? list_.Picked_Twice(place) : list_.Picked(place, false);
+}
+
+void Row_View::paintEvent(QPaintEvent* event) {
+  QTreeView::paintEvent(event);
+  Paint_Empty_Text(*this);
 }
 
 void Row_View::contextMenuEvent(QContextMenuEvent* event) {

@@ -63,6 +63,7 @@ class Row_View : public QTreeView {
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   QItemSelection Ranges_Of(const std::vector<int>& places) const;

@@ -1,13 +1,17 @@
 // Combo boxes, lists and check lists: what raises an event, and what does not.
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QScreen>
 #include <QScrollBar>
 #include <QWidget>
+#include <algorithm>
+#include <map>
 
+#include "platform/forms/Contrast.h"
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Guard.h"
 #include "tests/forms/Row_Clicks.h"
@@ -352,6 +356,59 @@ TEST_F(Lists_Test, Ticks_raise_item_check_by_the_user_and_by_code_that_changes_o
   Click_Tick("Variety_Combo", 1);
   EXPECT_FALSE(checks.Selected(1));
   EXPECT_EQ(Taken(), Log({"ItemCheck 1", "ItemCheck 1", "Checks France"}));
+}
+
+// How the strongest pixel stands out from the ground, which is the colour of most.
+double Contrast_In(const QWidget& widget) {
+  const QRect inside = widget.rect().adjusted(12, 4, -12, -4);
+  const QImage image = const_cast<QWidget&>(widget).grab(inside).toImage();
+  std::map<QRgb, int> pixels;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) ++pixels[image.pixel(x, y)];
+  const auto more = [](const auto& one, const auto& other) { return one.second < other.second; };
+  const QRgb ground = std::ranges::max_element(pixels, more)->first;
+  double contrast = 1;
+  for (const auto& [pixel, count] : pixels) {
+    contrast = std::max(contrast, Forms::Contrast(pixel, ground));
+  }
+  return contrast;
+}
+
+TEST_F(Lists_Test, An_empty_list_says_what_it_waits_for) {
+  list.Set_Empty_Text("Nothing chosen yet. Enter or a double click adds an entry.");
+  const auto& view = static_cast<const QAbstractItemView&>(*list.Widget());
+  EXPECT_EQ(view.accessibleDescription(), "");
+  const QPalette theme = QApplication::palette();
+  for (const QColor& ground : {theme.color(QPalette::Window), QColor(40, 40, 48)}) {
+    QApplication::setPalette(QPalette(ground));
+    for (const Forms::Color color : {Forms::Window_Color, Forms::Locked_Color,
+                                     Forms::Required_Color, Forms::Active_List_Color}) {
+      list.Clear();
+      list.Set_BackColor(color);
+      Settle_Events();
+      EXPECT_GE(Contrast_In(*view.viewport()), 4.5) << color.red << " on " << ground.red();
+      EXPECT_TRUE(view.accessibleDescription().contains("Nothing chosen yet."));
+      EXPECT_EQ(view.toolTip().indexOf("Nothing"), -1);
+      list.AddItem("");
+      Settle_Events();
+      EXPECT_LT(Contrast_In(*view.viewport()), 1.5);
+      EXPECT_EQ(view.accessibleDescription().indexOf("Nothing"), -1);
+    }
+  }
+  QApplication::setPalette(theme);
+}
+
+TEST_F(Lists_Test, An_entry_in_bold_stays_the_same_one) {
+  list.Set_Bold(2, true);
+  list.AddItem("Argentina", 0);
+  list.RemoveItem(1);
+  const auto& entries = *static_cast<const QAbstractItemView&>(*list.Widget()).model();
+  for (int row = 0; row < entries.rowCount(); ++row) {
+    const bool bold = list.List(row) == "Greece";
+    EXPECT_EQ(entries.index(row, 0).data(Qt::FontRole).isValid(), bold) << row;
+    EXPECT_EQ(entries.index(row, 0).data(Qt::AccessibleDescriptionRole).isValid(), bold) << row;
+  }
+  EXPECT_FAILURE(381, list.Set_Bold(4, true));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The life of the screen, its modes, and the ways to other screens and back.
 #include "cellar/Wine_Form.h"
 
+#include "core/Common_Words.h"
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
 #include "core/MultiLanguage_Processes.h"
@@ -72,8 +73,18 @@ void Wine_Form::Form_Load() {
   if (Command_Is("WineDel")) Load_for_Del();
   if (Command_Is("WineOtherAdd")) Load_for_General_List("Add New Wine to the General List");
   if (Command_Is("WineOtherMod")) Load_for_General_List("MODIFY Wine Information");
+  Tell_What_Empty_Lists_Wait_for();
   Wineries = winery;
   Ignore_Events = false;
+}
+
+void Wine_Form::Tell_What_Empty_Lists_Wait_for() {
+  Wine_Cellar_ListView.Set_Empty_Text(
+      Command_Is("WineAdd") ? Hint_Text(Screen_Words::First_Wine)
+                            : Hint_To_Menu(Screen_Words::No_Wines_Yet, "Wine_Main", "Wine_Add"));
+  if (!Command_Is("WineAdd")) return;
+  Pairing_List.Set_Empty_Text(
+      Hint_Text(Screen_Words::No_Pairings_of_Wine, {Pairings_Add_Command.Caption()}));
 }
 
 void Wine_Form::Load_for_Add() {

@@ -1,10 +1,12 @@
 #include "core/Cellar_Menu.h"
 
+#include "core/Common_Words.h"
 #include "core/Globals.h"
 #include "core/Languages.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "platform/forms/Menu.h"
 #include "platform/forms/Screens.h"
 #include "platform/run_time/Conversions.h"
 
@@ -20,8 +22,12 @@ void Show_Entries(bool visible, std::initializer_list<const char*> names) {
 
 // What needs a cellar to speak of.
 void Enable_Cellar_Services(bool enabled) {
+  const Text reason =
+      enabled ? Text()
+              : Hint_To_Menu(Screen_Words::Name_Cellars_First, "Cellar_Main", "Cellar_Add");
   for (const char* name : {"Wines_Cellar", "Pairing_Search_Cellar", "Cheeses_Pairing_Cellar"}) {
     Entry(name).Set_Enabled(enabled);
+    Forms::Screen("Wine_Cellar_Form").Get<Forms::Menu_Item>(name).Set_Tool_Tip(reason);
   }
 }
 

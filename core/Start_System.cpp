@@ -1,5 +1,6 @@
 // Start-up: finds the program's folder, opens the data file and fills the lists.
 #include "core/Cellar_Menu.h"
+#include "core/Common_Words.h"
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
 #include "core/tables/Catalogue.h"
@@ -57,6 +58,7 @@ void Start_System() {
   Wine_Cellar_DB_Path = Own_Data_File();
   Set_Database_Paths();
   Open_Databases();
+  Read_Common_Words();
   Set_Cellar_Menu();
   First_Run = true;
   const bool not_set_up = Wine_System.Wine_Cellar_as_Option && !Wine_System.System_Initialized;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/Common_Words.h"
 #include "core/Gereral_Processes.h"
 #include "core/Languages.h"
 #include "core/tables/Catalogue.h"
@@ -60,6 +61,10 @@ void Cate_Add_Form::Lay_Out() {
 
 void Cate_Add_Form::Form_Load() {
   Cate_Add_Form_Language_Initialize();
+  Maridages_ListView.Set_Empty_Text(
+      Command_Is("MaridageAdd")
+          ? Hint_Text(Screen_Words::First_Pairing)
+          : Hint_To_Menu(Screen_Words::No_Pairings_Yet, "Pairings_Main", "Pairing_Add"));
   Load_Current_Maridages();
   Define_Other_Language();
   Cat_Add_Now.Set_Enabled(false);

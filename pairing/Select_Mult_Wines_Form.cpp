@@ -30,6 +30,7 @@ void Add_Test(Text& condition, const Text& test) {
 
 Select_Mult_Wines_Form::Select_Mult_Wines_Form()
     : Picker_Form("Select_Mult_Wines_Form", "Select Multiple Wines", "Exit_Command") {
+  Mobile_Wines_ListView.Set_Empty_Text(Hint_Text(Screen_Words::No_Wines_Fit));
   Lay_Out();
   Set_Up_Handlers();
 }

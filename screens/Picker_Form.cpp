@@ -27,6 +27,7 @@ Picker_Form::Picker_Form(std::string_view name, std::string_view caption,
   for (Forms::Command_Button* button : {&Add_Command, &Remove_Command, &MultSelect}) {
     button->Set_Enabled(false);
   }
+  SelectList.Set_Empty_Text(Hint_Text(Screen_Words::Nothing_Chosen));
   Add_Command.Click = [this] { Add_Command_Click(); };
   Remove_Command.Click = [this] { Remove_Command_Click(); };
   MultSelect.Click = [this] { MultSelect_Click(); };

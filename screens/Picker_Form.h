@@ -10,6 +10,7 @@
 #include <optional>
 #include <string_view>
 
+#include "core/Common_Words.h"
 #include "links/Varieties_Processes.h"
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Values.h"
@@ -69,10 +70,8 @@ class Picker_Form : public Command_Form {
   Forms::Command_Button Remove_Command{*this, "Remove_Command", "Remove"};
   Forms::Label Selected_Number{*this, "Selected_Number"};
   Keyed_List_Box SelectList{*this, "SelectList", "SelectIndexList"};
-  Forms::Label Keys_Label{
-      *this, "Keys_Label",
-      "Type to find an entry. Enter or a double click adds it, Delete takes it out.",
-      Forms::Label::Kind::Paragraph};
+  Forms::Label Keys_Label{*this, "Keys_Label", Hint_Text(Screen_Words::Picker_Keys),
+                          Forms::Label::Kind::Paragraph};
   Forms::Command_Button MultSelect{*this, "MultSelect", "PROCEED"};
   Forms::Command_Button MultCancel;
 

@@ -11,6 +11,9 @@
 
 Search_General_Pairings_Form::Search_General_Pairings_Form()
     : List_Picker_Form("Search_General_Pairings_Form", "General Pairings") {
+  for (Row_List* list : {&Variety_Name_ListView, &Regions_ListView}) {
+    list->Set_Empty_Text(Hint_Text(Screen_Words::Pairings_First, {MultSelect.Caption()}));
+  }
   Lay_Out();
   Variety_Name_ListView.ItemClick = [this](const Forms::List_Item& item) {
     Variety_Name_ListView_ItemClick(item);

@@ -22,6 +22,7 @@ Select_Maridages_for_Wines_Form::Select_Maridages_for_Wines_Form()
     : List_Picker_Form("Select_Maridages_for_Wines_Form", "Parings for Wines") {
   Display_Command.Set_Enabled(false);
   Wine_Name_Text.Set_Locked(true);
+  Cat_List.Set_Empty_Text(Hint_Text(Screen_Words::No_Suggestions));
   Lay_Out();
   Selection_Option_List.Click = [this] { Selection_Option_List_Click(); };
 }

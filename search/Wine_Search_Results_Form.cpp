@@ -1,5 +1,6 @@
 #include "search/Wine_Search_Results_Form.h"
 
+#include "core/Common_Words.h"
 #include "core/Globals.h"
 #include "core/tables/Catalogue.h"
 #include "links/Link_Search.h"
@@ -42,6 +43,8 @@ void Wine_Search_Results_Form::Lay_Out() {
 
 void Wine_Search_Results_Form::Form_Load() {
   Initialize_Form_Data();
+  Wine_Cellar_ListView.Set_Empty_Text(
+      Hint_Text(Screen_Words::No_Wines_Found, {Exit_Command.Caption()}));
   if (!Command_Is("WineSearch")) return;
   Lock_Top_Window();
   Checks_Locked = true;
@@ -71,6 +74,14 @@ void Wine_Search_Results_Form::Load_Requested_Pairings() {
   Requested_Pairings_List.Clear();
   for (int pairing = 1; pairing <= Selected_Count; ++pairing) {
     Requested_Pairings_List.AddItem(Selected_Names[pairing]);
+    requested_.insert(Selected_IDs[pairing]);
+  }
+}
+
+// Among the pairings of the wine that is shown.
+void Wine_Search_Results_Form::Show_Requested_in_Bold() {
+  for (int pairing = 0; pairing < Pairing_List.ListCount(); ++pairing) {
+    Pairing_List.Set_Bold(pairing, requested_.contains(Pairing_List.Key(pairing)));
   }
 }
 
@@ -98,11 +109,11 @@ void Wine_Search_Results_Form::Get_WineResults_Records() {
 void Wine_Search_Results_Form::Tell_What_Is_Missing(int removed, bool cut) {
   const Text listed = To_Text(Wine_Cellar_ListView.Count());
   Text message;
-  if (cut) message = "The first " + listed + " are shown.";
+  if (cut) message = Hint_Text(Screen_Words::First_Shown, {listed});
   if (removed > 0) {
     if (cut) message += " ";
-    message +=
-        To_Text(removed) + " of the wines found " + (removed == 1 ? "was" : "were") + " removed.";
+    message += Hint_Text(removed == 1 ? Screen_Words::One_Removed : Screen_Words::Several_Removed,
+                         {To_Text(removed)});
   }
   Wines_Number.Set_Caption(listed + (cut ? "+" : ""));
   Message_Label.Set_Caption(message);
@@ -117,6 +128,7 @@ void Wine_Search_Results_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item i
   Seek_Wine();
   Find_By_Key(Wineries_Table, Wines.Winery_ID);
   Memory_to_Form_Unique();
+  Show_Requested_in_Bold();
   item.Set_Selected(true);
   Close_Table(Wines_Recordset);
   Wine_Cellar_ListView.SetFocus();

@@ -6,6 +6,8 @@
 // list says what it lacks: wines behind the first 99, and wines that are no longer in the cellar.
 #pragma once
 
+#include <set>
+
 #include "screens/Cellar_Wine_Screen.h"
 
 class Wine_Search_Results_Form : public Cellar_Wine_Screen {
@@ -20,12 +22,16 @@ class Wine_Search_Results_Form : public Cellar_Wine_Screen {
   void Lay_Out();
   void Initialize_Form_Data();
   void Load_Requested_Pairings();
+  void Show_Requested_in_Bold();
   void Get_WineResults_Records();
   void Tell_What_Is_Missing(int removed, bool cut);
   void Wine_Cellar_ListView_ItemClick(Forms::List_Item item);
   void Variety_Combo_ItemCheck(int item);
   void Multi_Functional_Command_Click();
   void Exit_Command_Click();
+
+  /// The keys of the requested pairings: the selection changes with each click on a wine.
+  std::set<Text> requested_;
 
   Forms::Label Wines_Number{*this, "Wines_Number"};
   Forms::Label Requested_Pairings_Label{*this, "Requested_Pairings_Label", "Requested Pairings"};

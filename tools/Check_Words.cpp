@@ -3,7 +3,10 @@
 #include <set>
 #include <span>
 
+#include "core/Languages.h"
 #include "core/words/Cate_Add_Form_Words.h"
+#include "core/words/Form_Texts_Words.h"
+#include "core/words/Hints_Words.h"
 #include "core/words/Select_Mult_Cat_Words.h"
 #include "core/words/Select_Mult_Varieties_Words.h"
 #include "core/words/Wine_Cellar_Form_Words.h"
@@ -16,6 +19,7 @@ namespace {
 
 constexpr std::size_t Texts_Of_A_Form = 150;
 constexpr std::string_view Main_Form = "Wine_Cellar_Form";
+constexpr std::string_view Caption_Tips = "Caption_Tips";
 
 /// A key under which a screen asks for its texts, and how many it reads; 0 where it does not say.
 /// A screen that takes them by position has a table of its rows instead.
@@ -24,7 +28,7 @@ struct Form {
   std::size_t rows;
   std::span<const Screen_Words::Row> table{};
 };
-constexpr std::array<Form, 8> Forms = {
+constexpr std::array<Form, 11> Forms = {
     {{Main_Form, 0, Screen_Words::Wine_Cellar_Form},
      {"Wine_Form", 0},
      {"Mobile_Wine_Form", 88},
@@ -32,7 +36,10 @@ constexpr std::array<Form, 8> Forms = {
      {"Find_File_Form", 34},
      {"Select_Mult_Varieties", 0, Screen_Words::Select_Mult_Varieties},
      {"Select_Mult_Cat", 0, Screen_Words::Select_Mult_Cat},
-     {"Initialize_Form", 0}}};
+     {"Initialize_Form", 0},
+     {"Form_Texts", 0, Screen_Words::Form_Texts_Rows},
+     {"Hints", 0, Screen_Words::Hints_Rows},
+     {Caption_Tips, 0}}};
 
 /// Behind its "Frm" row the main window reads colours, types of cheese, milks, and words of its
 /// own.
@@ -145,6 +152,47 @@ void Check_Blanks(const Library& library, Problems& problems) {
         problems.Report(library.Where(row), "stray blank in '" + *text + "'");
 }
 
+/// What the program says where the data is silent must be what the data says in English.
+void Check_English(const Library& library, std::string_view form,
+                   const std::vector<std::string_view>& english, Problems& problems) {
+  const Rows rows = Rows_Of_Form(library, form);
+  if (rows.size() == english.size()) Check_Run(library, rows, english, problems);
+}
+
+void Check_Program_Texts(const Library& library, Problems& problems) {
+  std::vector<std::string_view> english;
+  const Forms::Texts_Of_Forms texts;
+  for (const auto& row : Screen_Words::Form_Texts) english.emplace_back(texts.*row.text);
+  Check_English(library, "Form_Texts", english, problems);
+  english.clear();
+  for (const auto& row : Screen_Words::Hints) english.emplace_back(row.English);
+  Check_English(library, "Hints", english, problems);
+}
+
+/// %1 and the like stand for something in every language, or in none.
+Text Fillings_Of(const Text& text) {
+  Text fillings;
+  for (const char digit : {'1', '2', '3'})
+    if (text.find({'%', digit}) != Text::npos) fillings += digit;
+  return fillings;
+}
+
+void Check_Fillings(const Library& library, Problems& problems) {
+  for (const Words_Record& row : library.Of<Words_Record>())
+    for (const auto member : Language_Members<Words_Record>())
+      if (Fillings_Of(row.*member) != Fillings_Of(row.English))
+        problems.Report(library.Where(row),
+                        "other %-signs than in English in '" + row.*member + "'");
+}
+
+/// A tip is found by the English caption.
+void Check_Caption_Tips(const Library& library, Problems& problems) {
+  std::set<Text> seen;
+  for (const Words_Record* row : Rows_Of_Form(library, Caption_Tips))
+    if (!seen.insert(row->English).second)
+      problems.Report(library.Where(*row), "'" + row->English + "' stands twice");
+}
+
 /// The first row that holds the word wins.
 void Check_Replace_Keys(const Library& library, Problems& problems) {
   std::set<Text> seen;
@@ -159,6 +207,9 @@ void Check_Words(const Library& library, Problems& problems) {
   Check_Forms(library, problems);
   Check_Lists(library, problems);
   Check_Blanks(library, problems);
+  Check_Program_Texts(library, problems);
+  Check_Fillings(library, problems);
+  Check_Caption_Tips(library, problems);
   Check_Replace_Keys(library, problems);
 }
 

@@ -1,6 +1,7 @@
 // What the screen shows and allows in each of its modes: from its opening over the choice or the
 // pick to the button, to other screens and back.
 
+#include <QAbstractItemView>
 #include <functional>
 
 #include "links/Varieties_Processes.h"
@@ -243,6 +244,27 @@ TEST_F(Modes, Chosen_pairings_are_taken_over_once) {
     EXPECT_EQ(Shown_Rows("Pairing_Index_List").size(), keys) << entry;
     Click("Exit_Command");
   }
+}
+
+// The captions stay English: their tips tell them in the language, whatever they become.
+TEST_F(Modes, In_another_language_each_caption_has_its_word_for_a_tip) {
+  Set_Language(german);
+  Start_With("Wine_Uncork");
+  EXPECT_EQ(Find(list).accessibleDescription(),
+            "Hier sind noch keine Weine. Mit „Weine“, „In den Keller legen“ tragen Sie einen ein.");
+  Stop();
+  const Long wine = Put_Wine(Sample_Wine());
+  Start_With("Wine_Uncork");
+  EXPECT_EQ(Find(list).accessibleDescription(), "");
+  EXPECT_EQ(Find("Winery_Label").toolTip(), "Weingut");
+  EXPECT_EQ(Find("Winery_Combo").toolTip().section('\n', 0, 0), "Weingut");
+  EXPECT_EQ(Find("Taste_Check_0").toolTip().section('\n', 0, 0), "Süß");
+  EXPECT_EQ(Find("Exit_Command").accessibleDescription(), "SCHLIESSEN");
+  EXPECT_EQ(Find("Message_Label").toolTip(), "Bitte wählen Sie zuerst einen Wein aus dem Keller");
+  const auto& rows = static_cast<const QAbstractItemView&>(Find(list));
+  EXPECT_EQ(rows.model()->headerData(8, Qt::Horizontal, Qt::ToolTipRole), "Bestand");
+  Click_Line(list, To_Text(wine), 9);
+  EXPECT_EQ(Find(button).toolTip(), "ENTKORKEN");
 }
 
 }  // namespace

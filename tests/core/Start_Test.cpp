@@ -6,8 +6,12 @@
 #include <filesystem>
 #include <fstream>
 
+#include "core/Common_Words.h"
 #include "core/Gereral_Processes.h"
+#include "core/Languages.h"
 #include "core/MultiLanguage_Processes.h"
+#include "core/words/Form_Texts_Words.h"
+#include "platform/forms/Form_Texts.h"
 #include "tests/support/Program_Folder.h"
 
 namespace {
@@ -184,6 +188,41 @@ TEST_F(Words, That_name_no_control_or_have_no_text_fail_and_so_does_a_quote_in_a
   Remove_Rows("Words");
   Add_Rows(1, "Told_Label", "Cap", false);
   EXPECT_FAILURE(94, Read_Language_Words("Small_Form", form));
+}
+
+// Every text that is found by name is the data's, in each language; a file of an earlier time lacks
+// them, and has the English ones back whatever the language was before.
+TEST_F(Words, That_no_screen_has_to_itself_are_of_the_language_or_english) {
+  const auto word = [this](Integer language, const char* key, std::string_view variable) {
+    return One("SELECT " + Text(Languages.at(Language_Place(language))) +
+               " FROM Words WHERE Program='" + key + "' AND Variable='" + Text(variable) + "'");
+  };
+  for (Integer language = 3; language <= 9; ++language) {
+    Set_Language(language);
+    Start();
+    for (const auto& row : Screen_Words::Form_Texts) {
+      EXPECT_EQ(Forms::Form_Texts().*row.text, word(language, "Form_Texts", row.Variable));
+    }
+    for (const Screen_Words::Hint& hint : Screen_Words::Hints) {
+      EXPECT_EQ(Hint_Text(hint, {"%1", "%2"}), word(language, "Hints", hint.Variable));
+      EXPECT_EQ(Hint_Text(hint) == hint.English, language == english) << hint.Variable;
+    }
+    EXPECT_EQ(Forms::Word_Of_Caption("Winery"),
+              language == english ? "" : word(language, "Caption_Tips", "Winery_Label"));
+  }
+  EXPECT_EQ(Hint_Text(Screen_Words::Name_Cellars_First, {"%2", "b"}),
+            "Dê primeiro nome às suas garrafeiras: «%2», «b».");
+  Stop();
+  Remove_Rows("Words", [](const Record_Store::Recordset& rows) {
+    return rows.Fields("Program").As_Text() != "Wine_Cellar_Form";
+  });
+  Start();
+  const Forms::Texts_Of_Forms design;
+  for (const auto& row : Screen_Words::Form_Texts) {
+    EXPECT_EQ(Forms::Form_Texts().*row.text, design.*row.text);
+  }
+  EXPECT_EQ(Hint_Text(Screen_Words::First_Pairing), Screen_Words::First_Pairing.English);
+  EXPECT_EQ(Forms::Word_Of_Caption("Winery"), "");
 }
 
 TEST_F(Words, Languages_are_known_by_name_in_any_case_and_by_number) {

@@ -1,6 +1,9 @@
 // The entries of the main window: what they open, and whether the main window stays.
 #include <QAction>
+#include <QApplication>
+#include <QHelpEvent>
 #include <QMenu>
+#include <QToolTip>
 #include <QWidget>
 #include <set>
 
@@ -72,6 +75,33 @@ TEST_F(Menu, The_comments_entry_tells_where_to_write) {
   EXPECT_THAT(Told_By([] { Pick("Help_Comments"); }),
               ElementsAre(testing::AllOf(StartsWith("Comments and Suggestions: "),
                                          testing::HasSubstr("@"))));
+}
+
+class Unnamed_Cellars : public Program_Folder {};
+
+TEST_F(Unnamed_Cellars, What_cannot_be_chosen_yet_says_what_to_do_first) {
+  Set_Language(german);
+  Start();
+  const QString reason =
+      "Benennen Sie zuerst Ihre Weinkeller: „Mein Weinkeller“, „Weinkeller benennen“.";
+  auto& wines = *Find("Wine_Cellar_Form").findChild<QMenu*>("Wine_Main");
+  wines.popup({});
+  for (QAction* action : wines.actions()) {
+    const QPoint place = wines.actionGeometry(action).center();
+    QHelpEvent rest(QEvent::ToolTip, place, wines.mapToGlobal(place));
+    QApplication::sendEvent(&wines, &rest);
+    const bool waits = action->objectName() == "Wines_Cellar";
+    EXPECT_TRUE(Wait_Until([&] { return QToolTip::text() == (waits ? reason : ""); }))
+        << action->text().toStdString();
+  }
+  wines.hide();
+  const auto* search = Find("Wine_Cellar_Form").findChild<QAction*>("Pairing_Search_Cellar");
+  EXPECT_EQ(search->whatsThis(), reason);
+  Stop();
+  Name_Cellars_In_File();
+  Start();
+  search = Find("Wine_Cellar_Form").findChild<QAction*>("Pairing_Search_Cellar");
+  EXPECT_EQ(search->whatsThis(), "");
 }
 
 }  // namespace

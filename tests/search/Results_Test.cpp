@@ -1,6 +1,7 @@
 // The wines that a search found: their list, the wine that was clicked, and the bottle uncorked.
 
-#include <QWidget>
+#include <QAbstractItemView>
+#include <QFont>
 
 #include "tests/search/Search_Program.h"
 
@@ -130,6 +131,11 @@ TEST_F(Search_Results, A_click_shows_the_whole_wine_and_nothing_of_it_can_be_cha
         << when;
     EXPECT_THAT(Ticked_Boxes(), ElementsAre("Taste_Check_2", "Aroma_Check_7")) << when;
     EXPECT_THAT(Lines("Pairing_List"), ElementsAre(in_spanish, other)) << when;
+    const auto& pairings = *static_cast<const QAbstractItemView&>(Find("Pairing_List")).model();
+    for (const int row : {0, 1}) {
+      const bool asked_for = row == 0;
+      EXPECT_EQ(pairings.index(row, 0).data(Qt::FontRole).value<QFont>().bold(), asked_for) << when;
+    }
   };
   Pick_Wine(key);
   expect_shown(" after the click");
@@ -152,6 +158,8 @@ TEST_F(Search_Results, A_click_shows_the_whole_wine_and_nothing_of_it_can_be_cha
   EXPECT_EQ(Shown_Text("Last_Date_Uncorked_Text"), " ");
   EXPECT_THAT(Ticked_Boxes(), IsEmpty());
   EXPECT_THAT(Lines("Pairing_List"), ElementsAre(in_spanish));
+  Pick_Wine(key);
+  expect_shown(" after another wine");
 }
 
 // ---- uncorking ----

@@ -204,4 +204,21 @@ TEST(Delivered_Data, Is_Counted_On_Its_Page) {
       << "run scripts/summary";
 }
 
+// A word for a caption that no screen shows would never be seen.
+TEST(Delivered_Data, Each_Word_For_A_Caption_Is_For_One_That_A_Screen_Has) {
+  std::string screens;
+  for (const char* room : {"cellar", "main_window", "pairing", "screens", "search"})
+    for (const auto& file : fs::directory_iterator(DATA_FOLDER "/../" + std::string(room)))
+      screens += Contents(file.path());
+  Problems problems;
+  const Library library = Compile_Library(DATA_FOLDER, "English", problems);
+  int words = 0;
+  for (const Words_Record& row : library.Of<Words_Record>()) {
+    if (row.Program != "Caption_Tips") continue;
+    ++words;
+    EXPECT_NE(screens.find('"' + row.English + '"'), std::string::npos) << row.English;
+  }
+  EXPECT_GT(words, 0);
+}
+
 }  // namespace

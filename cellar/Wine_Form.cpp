@@ -101,6 +101,7 @@ void Wine_Form::Load_for_Mod() {
   Display_Current_Cellar();
   Set_Caption("MODIFY Wine Information");
   Pairings_Add_Command.Set_Caption("Modify Pairing");
+  Wine_Cellar_ListView.Set_Arrow_Keys_Pick(false);  // a pick throws away what was changed
   Wait_for_Pick();
 }
 

@@ -123,6 +123,7 @@ void Cate_Add_Form::Load_for_Mod() {
   CAT_Other_Language_Text.Set_Text("");
   Cat_Add_Now.Set_Enabled(false);
   Open_Table(Maridages_Recordset, "Maridages");
+  Maridages_ListView.Set_Arrow_Keys_Pick(false);  // a pick throws away what was typed
   Maridages_ListView.SetFocus();
 }
 

@@ -21,7 +21,10 @@ Cellar_Wine_Screen::Cellar_Wine_Screen(std::string_view name, std::string_view c
                    {"Peak", widths[7], false, true},
                    {"Stock", widths[8], false, true},
                    {"ID", 8, false, true}},
-                  std::move(words)) {}
+                  std::move(words)) {
+  constexpr int winery = 1;
+  Wine_Cellar_ListView.Set_Search_Column(winery);
+}
 
 Forms::Place Cellar_Wine_Screen::Fields_Place(const Beside& beside,
                                               const Forms::Places& over_aromas) {

@@ -2,6 +2,7 @@
 
 #include "platform/forms/Focus.h"
 #include "platform/forms/Handlers.h"
+#include "platform/forms/Later.h"
 #include "platform/forms/List_Common.h"
 #include "platform/forms/List_Widget.h"
 #include "platform/forms/Plain_List.h"
@@ -68,7 +69,7 @@ Check_List::Check_List(Form& form, std::string_view name) : Item_List(form, name
   Set_Widget(new List_Widget(Widget_Parent(), *this, Entries()));
 }
 
-Check_List::~Check_List() = default;
+Check_List::~Check_List() { Forget_Later(&Entries()); }
 
 void Check_List::Show_List_Index() { static_cast<List_Widget*>(Widget())->Show_Index(ListIndex()); }
 
@@ -80,7 +81,17 @@ bool Check_List::Selected(int index) const {
 void Check_List::Set_Selected(int index, bool selected) {
   if (Selected(index) == selected) return;
   Entries().Set_Ticked(index, selected);
+  if (selected) Show_Later(&Entries(), [this] { Show_First_Tick(); });
   if (ItemCheck) ItemCheck(index);
+}
+
+// Who is in the list would lose the place where they are.
+void Check_List::Show_First_Tick() {
+  int row = 0;
+  while (row < ListCount() && !Entries().Ticked(row)) ++row;
+  if (row == ListCount() || Focus_Watch::The().Owner() == this) return;
+  auto* view = static_cast<List_Widget*>(Widget());
+  Bring_To_Middle(*view, view->model()->index(row, 0));
 }
 
 int Check_List::SelCount() const {

@@ -7,8 +7,9 @@ namespace Forms {
 
 /// The user's choice raises Click: a click of the mouse, also on the chosen entry, a move by the
 /// arrow keys, and typing, which goes to the next entry that begins so or, where none does, has a
-/// word that begins so. Where nothing is chosen, the first arrow key chooses the entry that the
-/// focus stands on; after the chosen entry was removed that is the one that took its place.
+/// word that begins so; F3 goes on to the next such entry. Where nothing is chosen, the first arrow
+/// key chooses the entry that the focus stands on; after the chosen entry was removed that is the
+/// one that took its place.
 ///
 /// A double click raises Click once and then DblClick, if the entry is still there and the chosen
 /// one. A handler may add and remove entries, clear the list and unload the form.
@@ -37,6 +38,8 @@ class List_Box : public Item_List {
 };
 
 /// A list of entries that can be ticked, each for itself. ListIndex is the entry with the focus.
+/// After code ticked some while the user was elsewhere, the first of all that are ticked is in
+/// sight.
 class Check_List : public Item_List {
  public:
   Check_List(Form& form, std::string_view name);
@@ -58,6 +61,7 @@ class Check_List : public Item_List {
 
  private:
   void Ticked_By_User(int index, bool ticked);
+  void Show_First_Tick();
 };
 
 }  // namespace Forms

@@ -14,6 +14,13 @@ inline void Go_To_Top_After_Clear(const QAbstractItemView& view) {
                    &QAbstractItemView::scrollToTop);
 }
 
+/// A row of which nothing can be seen, or not all, comes to the middle, with what stands around it.
+inline void Bring_To_Middle(QAbstractItemView& view, const QModelIndex& index) {
+  const QRect place = view.visualRect(index);
+  const bool seen = place.top() >= 0 && place.bottom() < view.viewport()->height();
+  if (!seen) view.scrollTo(index, QAbstractItemView::PositionAtCenter);
+}
+
 inline bool Is_Enter(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }

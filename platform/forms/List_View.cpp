@@ -212,6 +212,11 @@ void List_View::Set_SortOrder(int order) {
   Changed(true);
 }
 
+void List_View::Set_Search_Column(int column) {
+  Check_Column(column);
+  search_column_ = column;
+}
+
 int List_View::Column_Count() const { return rows_->Columns(); }
 
 const std::string& List_View::Header_Text(int column) const {

@@ -122,14 +122,20 @@ class List_View : public Placed_Control {
   /// Several rows can be selected: a click with Ctrl, or Ctrl+Space, takes a row in and out again.
   /// Typing, and the arrow keys with Ctrl, only move the focus then: the selection stays.
   void Set_MultiSelect(bool several);
-  /// False where a pick asks a question or leaves the screen: the arrow keys and typing only move
-  /// then, the selection too, and Enter or Space picks.
+  /// False where a pick asks a question, leaves the screen or throws entries away: the arrow keys
+  /// and typing only move then, the selection too, and Enter or Space picks.
   void Set_Arrow_Keys_Pick(bool pick) { arrow_keys_pick_ = pick; }
+
+  /// Where typing looks for the word while the list is not sorted: 0 for the item's text, which it
+  /// is at first, 1 and above for a sub-item. In a sorted list it looks where that is sorted by.
+  /// 380 outside the list's columns.
+  void Set_Search_Column(int column);
+  int Search_Column() const { return sorted_ ? sort_key_ : search_column_; }
 
   /// The user picked a row: by mouse (the selected one too), Enter, Space, the arrow keys, or
   /// typing, which goes to the next row whose text begins so or, where none does, has a word that
-  /// begins so. Comes too where Ctrl takes the row out of several selected ones. Enter or Space
-  /// held down picks once.
+  /// begins so; F3 goes on to the next one. Comes too where Ctrl takes the row out of several
+  /// selected ones. Enter or Space held down picks once.
   std::function<void(List_Item item)> ItemClick;
   /// The user wants what the row is for: a double click on it, or Enter. Comes after the ItemClick
   /// of the same click or key, and only if that left the row in the list and the form in use. Space
@@ -178,6 +184,7 @@ class List_View : public Placed_Control {
   mutable bool order_is_old_ = false;
   int sort_key_ = 0;
   int sort_order_ = 0;
+  int search_column_ = 0;
   bool arrow_keys_pick_ = true;
 };
 

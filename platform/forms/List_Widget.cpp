@@ -114,8 +114,8 @@ void List_Widget::Tell_If_Moved() {
 }
 
 void List_Widget::keyPressEvent(QKeyEvent* event) {
-  if (search_.Hear(*event, *model())) {
-    keyboardSearch(" ");
+  if (const auto row = search_.Hear(*event, Searched())) {
+    Go_To_Hit(*row);
   } else if (Pick_By_Key(*event)) {
     return;
   } else {
@@ -150,8 +150,22 @@ void List_Widget::inputMethodEvent(QInputMethodEvent* event) {
 }
 
 void List_Widget::keyboardSearch(const QString& typed) {
-  const int row = search_.Find(typed, *model(), currentIndex().row(), Stands_On_Unchosen());
-  if (row >= 0) setCurrentIndex(model()->index(row, 0));
+  Go_To_Hit(search_.Find(typed, Searched()));
+}
+
+Typed_Search::Place List_Widget::Searched() const {
+  const QModelIndex current = currentIndex();
+  return {.entries = *model(),
+          .here = current.row(),
+          .here_too = Stands_On_Unchosen(),
+          .blank_acts = !model()->flags(current).testFlag(Qt::ItemIsUserCheckable)};
+}
+
+void List_Widget::Go_To_Hit(int row) {
+  if (row < 0) return;
+  const QModelIndex index = model()->index(row, 0);
+  Bring_To_Middle(*this, index);
+  setCurrentIndex(index);
 }
 
 }  // namespace Forms

@@ -42,13 +42,15 @@ class List_Widget : public QListView {
   bool Pick_By_Key(const QKeyEvent& event);
   void Step(QKeyEvent& event);
   void Tell_If_Moved();
+  Typed_Search::Place Searched() const;
+  void Go_To_Hit(int row);
   bool Stands_On_Unchosen() const;
   bool Is_Shown_Chosen(const QModelIndex& index) const;
 
   Item_List& list_;
   QPersistentModelIndex pressed_;
   QPersistentModelIndex chosen_;  ///< the entry chosen last
-  Typed_Search search_;
+  Typed_Search search_{*this};
   int clicks_ = 0;  ///< how many the button's release ends
   bool arrow_keys_pick_ = true;
 };

@@ -153,6 +153,7 @@ void Row_View::mousePressEvent(QMouseEvent* event) {
   pressed_ = -1;
   pressed_row_ = {};
   second_click_ = false;
+  search_.End();
   if (event->button() != Qt::LeftButton) return;
   QTreeView::mousePressEvent(event);
   pressed_ = indexAt(event->position().toPoint()).row();
@@ -207,8 +208,8 @@ bool Row_View::Is_Menu_Key(const QKeyEvent& event) {
 
 void Row_View::keyPressEvent(QKeyEvent* event) {
   const int before = currentIndex().row();
-  if (search_.Hear(*event, *model())) {
-    keyboardSearch(" ");
+  if (const auto place = search_.Hear(*event, Searched())) {
+    Go_To_Hit(*place);
     Tell_If_Moved(before);
   } else if (Is_Menu_Key(*event)) {
     Offer_Columns(Below_Header());
@@ -243,13 +244,22 @@ bool Row_View::Step_Onto_Current(const QKeyEvent& event) {
   return true;
 }
 
-void Row_View::keyboardSearch(const QString& typed) {
-  const bool picked = list_.Was_Picked_From();
-  const int place = search_.Find(typed, *model(), currentIndex().row(), !picked);
+void Row_View::keyboardSearch(const QString& typed) { Go_To_Hit(search_.Find(typed, Searched())); }
+
+Typed_Search::Place Row_View::Searched() const {
+  return {.entries = *model(),
+          .column = list_.Search_Column(),
+          .here = currentIndex().row(),
+          .here_too = !list_.Was_Picked_From(),
+          .blank_acts = true};
+}
+
+void Row_View::Go_To_Hit(int place) {
   if (place < 0) return;
-  found_ = !picked;
+  found_ = !list_.Was_Picked_From();
   only_moves_ = Takes_Several();
   const QModelIndex found = model()->index(place, 0);
+  Bring_To_Middle(*this, found);
   only_moves_ ? selectionModel()->setCurrentIndex(found, QItemSelectionModel::NoUpdate)
               : setCurrentIndex(found);
 }

@@ -74,10 +74,12 @@ class Row_View : public QTreeView {
   QItemSelectionModel::SelectionFlag Command_Of(const QKeyEvent& event) const;
   bool Step_Onto_Current(const QKeyEvent& event);
   void Tell_If_Moved(int before);
+  Typed_Search::Place Searched() const;
+  void Go_To_Hit(int place);
   bool Takes_Several() const { return selectionMode() == ExtendedSelection; }
 
   List_View& list_;
-  Typed_Search search_;
+  Typed_Search search_{*this};
   bool found_ = false;  ///< typing led to the row on which the focus stood, which nobody picked yet
   bool only_moves_ = false;  ///< in a list of several: the key leaves the selection as it is
   int pressed_ = -1;

@@ -4,12 +4,22 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QTextBoundaryFinder>
+#include <QWidget>
 #include <algorithm>
 #include <array>
+#include <vector>
+
+#include "platform/forms/Form_Texts.h"
+#include "platform/forms/Qt_Text.h"
+#include "platform/forms/Word_Tip.h"
+#include "platform/run_time/Guard.h"
 
 namespace Forms {
 
 namespace {
+
+// The desktop's own interval parts letters that are meant as one word when one looks for the keys.
+int Pause_After_Word() { return QApplication::keyboardInputInterval() * 5 / 2; }
 
 QString Folded(const QString& text) {
   return text.normalized(QString::NormalizationForm_C).toCaseFolded();
@@ -21,12 +31,6 @@ QString Without_Accents(const QString& text) {
     if (letter.category() != QChar::Mark_NonSpacing) letters.append(letter);
   }
   return letters;
-}
-
-// Most texts begin with a plain letter, which decides at once.
-bool Begins_With(const QString& text, const QString& word) {
-  if (text.isEmpty() || (text.front() < QChar(0x80) && text.front() != word.front())) return false;
-  return text.startsWith(word) || Without_Accents(text).startsWith(word);
 }
 
 // The Unicode rules know where words begin in scripts without blanks, but take "d'Or" for one word.
@@ -44,24 +48,56 @@ bool Has_Word_As_Written(const QString& text, const QString& word) {
   return false;
 }
 
-bool Has_Word(const QString& text, const QString& word) {
-  return Has_Word_As_Written(text, word) || Has_Word_As_Written(Without_Accents(text), word);
+// From the best match to the weakest.
+enum class Match { Whole, Beginning, Later_Word, None };
+
+Match Match_As_Written(const QString& text, const QString& word) {
+  if (text.startsWith(word)) return text.size() == word.size() ? Match::Whole : Match::Beginning;
+  return Has_Word_As_Written(text, word) ? Match::Later_Word : Match::None;
 }
 
-using Matches = bool (*)(const QString& folded_text, const QString& folded_word);
+bool May_Have_Accents(const QString& text) {
+  return std::ranges::any_of(text, [](QChar letter) { return letter >= QChar(0x80); });
+}
 
-// From the best match to the weakest.
-constexpr std::array<Matches, 2> all_matches{Begins_With, Has_Word};
+// Both folded.
+Match Match_Of(const QString& text, const QString& word) {
+  const Match written = Match_As_Written(text, word);
+  if (written == Match::Whole || !May_Have_Accents(text)) return written;
+  return std::min(written, Match_As_Written(Without_Accents(text), word));
+}
 
-// The first row from `from` on, and around.
-int Search(const QAbstractItemModel& entries, const QString& word, int from, Matches matches) {
-  const int count = entries.rowCount();
+struct Hit {
+  int row;
+  Match match;
+};
+using Hits = std::vector<Hit>;
+
+Hits Hits_Of(const QString& word, const Typed_Search::Place& place) {
+  Hits hits;
   const QString wanted = Folded(word);
-  for (int i = 0; i < count; ++i) {
-    const int row = (from + i) % count;
-    if (matches(Folded(entries.index(row, 0).data().toString()), wanted)) return row;
+  for (int row = 0; !wanted.isEmpty() && row < place.entries.rowCount(); ++row) {
+    const QString text = place.entries.index(row, place.column).data().toString();
+    const Match match = Match_Of(Folded(text), wanted);
+    if (match != Match::None) hits.push_back({row, match});
   }
-  return -1;
+  std::ranges::stable_partition(hits, [](Hit hit) { return hit.match != Match::Later_Word; });
+  return hits;
+}
+
+Match Best_Of(const Hits& hits) {
+  const auto best = std::ranges::min_element(hits, {}, &Hit::match);
+  return best == hits.end() ? Match::None : best->match;
+}
+
+// Of the best hits the first from row `from` on, and around. An entry of a single letter is not
+// better than the others: the same letter again is to go round all of them.
+std::size_t Best_From(const Hits& hits, int from, bool single_letter) {
+  const Match enough = std::max(Best_Of(hits), single_letter ? Match::Beginning : Match::Whole);
+  const auto good = [enough](Hit hit) { return hit.match <= enough; };
+  auto found = std::ranges::find_if(hits, [&](Hit hit) { return good(hit) && hit.row >= from; });
+  if (found == hits.end()) found = std::ranges::find_if(hits, good);
+  return static_cast<std::size_t>(found - hits.begin());
 }
 
 bool Is_Letter_Again(const QString& word) {
@@ -69,50 +105,134 @@ bool Is_Letter_Again(const QString& word) {
          std::ranges::all_of(word, [&word](QChar letter) { return letter == word.front(); });
 }
 
-// `next` is where the search for another entry than the present one starts.
-int Search_Best(const QAbstractItemModel& entries, const QString& word, int from, int next) {
-  for (const Matches matches : all_matches) {
-    int found = Search(entries, word, from, matches);
-    if (found < 0 && Is_Letter_Again(word)) found = Search(entries, word.left(1), next, matches);
-    if (found >= 0) return found;
-  }
-  return -1;
+bool Is_Command(const QKeyEvent& key) {
+  return (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+}
+
+// Keys like Delete have a text that nobody can see.
+bool Is_Seen(const QString& text) {
+  return !text.isEmpty() && text.back().category() != QChar::Other_Control;
+}
+
+bool Acts_Or_Moves(const QKeyEvent& key) {
+  constexpr std::array keys{Qt::Key_Return, Qt::Key_Enter,   Qt::Key_Delete, Qt::Key_Space,
+                            Qt::Key_Up,     Qt::Key_Down,    Qt::Key_Home,   Qt::Key_End,
+                            Qt::Key_PageUp, Qt::Key_PageDown};
+  return std::ranges::find(keys, key.key()) != keys.end();
 }
 
 }  // namespace
 
-bool Typed_Search::Hear(const QKeyEvent& key, const QAbstractItemModel& entries) {
-  constexpr std::array ends{Qt::Key_Return, Qt::Key_Enter,   Qt::Key_Delete, Qt::Key_Space,
-                            Qt::Key_Up,     Qt::Key_Down,    Qt::Key_Home,   Qt::Key_End,
-                            Qt::Key_PageUp, Qt::Key_PageDown};
-  if (Is_Blank_In_Word(key, entries)) return true;
-  if (std::ranges::find(ends, key.key()) != ends.end()) End();
-  return false;
+Typed_Search::Typed_Search(QWidget& list) : list_(list) { list.installEventFilter(this); }
+
+Typed_Search::~Typed_Search() { Word_Tip::Hide(list_); }
+
+void Typed_Search::End() {
+  word_.clear();
+  pause_.stop();
+  Word_Tip::Hide(list_);
 }
 
-bool Typed_Search::Is_Blank_In_Word(const QKeyEvent& key, const QAbstractItemModel& entries) const {
-  const bool blank = key.key() == Qt::Key_Space && key.modifiers() == Qt::NoModifier;
-  if (!blank || !Is_In_A_Word()) return false;
-  return Search_Best(entries, word_ + ' ', 0, 0) >= 0;
+bool Typed_Search::Is_Being_Typed() const {
+  return Has_Word() && !since_.hasExpired(Pause_After_Word());
 }
 
-bool Typed_Search::Is_In_A_Word() const {
-  return !word_.isEmpty() && since_.isValid() &&
-         !since_.hasExpired(QApplication::keyboardInputInterval());
+std::optional<int> Typed_Search::Hear(const QKeyEvent& key, const Place& place) {
+  if (!Is_Command(key)) {
+    if (const int steps = Steps(key, place)) return Go_On(steps, place);
+    if (Is_Of_Word(key, place)) return Find(key.text(), place);
+    if (Is_Being_Typed() && key.key() == Qt::Key_Backspace) return Take_Back(place);
+    if (Is_Being_Typed() && key.key() == Qt::Key_Escape) {
+      End();
+      return -1;
+    }
+  }
+  if (Acts_Or_Moves(key)) End();
+  return {};
 }
 
-int Typed_Search::Find(const QString& typed, const QAbstractItemModel& entries, int here,
-                       bool here_too) {
-  const bool goes_on = Is_In_A_Word();
-  since_.start();
+bool Typed_Search::Is_Of_Word(const QKeyEvent& key, const Place& place) const {
+  return key.key() == Qt::Key_Space ? Is_Blank_Of_Word(place) : Is_Seen(key.text());
+}
+
+bool Typed_Search::Is_Blank_Of_Word(const Place& place) const {
+  if (!Is_Being_Typed()) return false;
+  return !place.blank_acts || !found_ || !Hits_Of(word_ + ' ', place).empty();
+}
+
+// Where there is nowhere to go, the arrow keys are the list's.
+int Typed_Search::Steps(const QKeyEvent& key, const Place& place) const {
+  const bool back = key.modifiers().testFlag(Qt::ShiftModifier);
+  if (key.key() == Qt::Key_F3) return sought_.isEmpty() ? 0 : back ? -1 : 1;
+  const bool arrow = key.key() == Qt::Key_Down || key.key() == Qt::Key_Up;
+  if (!arrow || back || !Is_Being_Typed() || Hits_Of(sought_, place).size() < 2) return 0;
+  return key.key() == Qt::Key_Down ? 1 : -1;
+}
+
+int Typed_Search::Go_On(int steps, const Place& place) {
+  const Hits hits = Hits_Of(sought_, place);
+  const int count = static_cast<int>(hits.size());
+  const auto here = std::ranges::find(hits, place.here, &Hit::row);
+  const int at = static_cast<int>(here - hits.begin());
+  const int next = here == hits.end() ? 0 : (at + steps + count) % count;
+  word_ = sought_;
+  Tell(static_cast<std::size_t>(next), hits.size());
+  return hits.empty() ? -1 : hits[static_cast<std::size_t>(next)].row;
+}
+
+int Typed_Search::Take_Back(const Place& place) {
+  word_.chop(1);
+  return Find({}, place);
+}
+
+int Typed_Search::Find(const QString& typed, const Place& place) {
+  const bool goes_on = Is_Being_Typed();
   word_ = goes_on ? word_ + typed : typed;
-  // A blank alone is a key of its own, and keys like Delete have a text that nobody can see.
-  const bool seen = typed.isEmpty() || typed.back().category() != QChar::Other_Control;
-  if (word_.trimmed().isEmpty() || !seen) word_.clear();
-  if (word_.isEmpty()) return -1;
-  const int first = std::max(here, 0);
-  const int next = here_too || here < 0 ? first : first + 1;
-  return Search_Best(entries, word_, goes_on ? first : next, next);
+  if (word_.trimmed().isEmpty() || !Is_Seen(word_)) {
+    End();
+    return -1;
+  }
+  const int first = std::max(place.here, 0);
+  const int next = place.here_too || place.here < 0 ? first : first + 1;
+  int from = goes_on ? first : next;
+  sought_ = word_;
+  Hits hits = Hits_Of(word_, place);
+  // A blank that no entry has here may be meant to go on, or to end the word.
+  if (hits.empty() && word_.endsWith(' ')) hits = Hits_Of(sought_ = word_.trimmed(), place);
+  if (Is_Letter_Again(word_)) {
+    Hits of_letter = Hits_Of(word_.left(1), place);
+    if (std::max(Best_Of(of_letter), Match::Beginning) < Best_Of(hits)) {
+      hits = std::move(of_letter);
+      sought_ = word_.left(1);
+      from = next;
+    }
+  }
+  const std::size_t hit = Best_From(hits, from, sought_.size() == 1);
+  Tell(hit, hits.size());
+  return hits.empty() ? -1 : hits[hit].row;
+}
+
+void Typed_Search::Tell(std::size_t hit, std::size_t hits) {
+  found_ = hits > 0;
+  since_.start();
+  pause_.start(Pause_After_Word(), this);
+  constexpr int longest = 40;
+  const QString text = To_Qt(found_ ? Form_Texts().found : Form_Texts().not_found);
+  const QString word = (found_ ? sought_ : word_).right(longest);
+  Word_Tip::Show(list_, found_ ? text.arg(word, QString::number(hit + 1), QString::number(hits))
+                               : text.arg(word));
+}
+
+void Typed_Search::timerEvent(QTimerEvent*) {
+  pause_.stop();
+  Word_Tip::Hide(list_);
+  if (paused) paused();
+}
+
+// A handler that is told of the hit may take the focus for a moment and give it back.
+bool Typed_Search::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::FocusOut && !Inside_Handler()) End();
+  return false;
 }
 
 }  // namespace Forms

@@ -27,8 +27,8 @@ int Combo_Typing::Here() const {
 }
 
 bool Combo_Typing::Hear(const QKeyEvent& key) {
-  if (waits_ && Is_Enter(key)) {
-    Finish();
+  if (waits_ && (Is_Enter(key) || key.key() == Qt::Key_Escape)) {
+    Is_Enter(key) ? Finish() : Give_Up();
     return true;
   }
   const auto row = search_.Hear(key, {.entries = *box_.model(), .here = Here()});

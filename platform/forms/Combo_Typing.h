@@ -20,6 +20,7 @@ class Combo_Typing {
   bool Hear(const QKeyEvent& key);
   /// Whether a word was begun and has not ended.
   bool Has_Word() const { return search_.Has_Word(); }
+  bool Found_Nothing() const { return Has_Word() && hit_ < 0; }
   /// The hit is the user's choice. Nothing where no word is waiting, or it has no hit.
   void Finish();
   /// The box shows the chosen entry again.

@@ -21,6 +21,11 @@ inline void Bring_To_Middle(QAbstractItemView& view, const QModelIndex& index) {
   if (!seen) view.scrollTo(index, QAbstractItemView::PositionAtCenter);
 }
 
+/// Whether the key is a command rather than for the list.
+inline bool Has_Command_Key(const QKeyEvent& event) {
+  return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+}
+
 inline bool Is_Enter(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }

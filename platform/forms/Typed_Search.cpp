@@ -3,14 +3,14 @@
 #include <QAbstractItemModel>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QTextBoundaryFinder>
 #include <QWidget>
 #include <algorithm>
 #include <array>
-#include <vector>
 
 #include "platform/forms/Form_Texts.h"
+#include "platform/forms/List_Common.h"
 #include "platform/forms/Qt_Text.h"
+#include "platform/forms/Word_Match.h"
 #include "platform/forms/Word_Tip.h"
 #include "platform/run_time/Guard.h"
 
@@ -21,92 +21,13 @@ namespace {
 // The desktop's own interval parts letters that are meant as one word when one looks for the keys.
 int Pause_After_Word() { return QApplication::keyboardInputInterval() * 5 / 2; }
 
-QString Folded(const QString& text) {
-  return text.normalized(QString::NormalizationForm_C).toCaseFolded();
-}
-
-QString Without_Accents(const QString& text) {
-  QString letters;
-  for (const QChar letter : text.normalized(QString::NormalizationForm_D)) {
-    if (letter.category() != QChar::Mark_NonSpacing) letters.append(letter);
-  }
-  return letters;
-}
-
-// The Unicode rules know where words begin in scripts without blanks, but take "d'Or" for one word.
-bool Is_Beginning_Of_Word(const QString& text, qsizetype at) {
-  if (at > 0 && (text[at - 1] == u'\'' || text[at - 1] == u'’')) return true;
-  QTextBoundaryFinder words(QTextBoundaryFinder::Word, text);
-  words.setPosition(at);
-  return words.isAtBoundary();
-}
-
-bool Has_Word_As_Written(const QString& text, const QString& word) {
-  for (auto at = text.indexOf(word); at >= 0; at = text.indexOf(word, at + 1)) {
-    if (Is_Beginning_Of_Word(text, at)) return true;
-  }
-  return false;
-}
-
-// From the best match to the weakest.
-enum class Match { Whole, Beginning, Later_Word, None };
-
-Match Match_As_Written(const QString& text, const QString& word) {
-  if (text.startsWith(word)) return text.size() == word.size() ? Match::Whole : Match::Beginning;
-  return Has_Word_As_Written(text, word) ? Match::Later_Word : Match::None;
-}
-
-bool May_Have_Accents(const QString& text) {
-  return std::ranges::any_of(text, [](QChar letter) { return letter >= QChar(0x80); });
-}
-
-// Both folded.
-Match Match_Of(const QString& text, const QString& word) {
-  const Match written = Match_As_Written(text, word);
-  if (written == Match::Whole || !May_Have_Accents(text)) return written;
-  return std::min(written, Match_As_Written(Without_Accents(text), word));
-}
-
-struct Hit {
-  int row;
-  Match match;
-};
-using Hits = std::vector<Hit>;
-
-Hits Hits_Of(const QString& word, const Typed_Search::Place& place) {
-  Hits hits;
-  const QString wanted = Folded(word);
-  for (int row = 0; !wanted.isEmpty() && row < place.entries.rowCount(); ++row) {
-    const QString text = place.entries.index(row, place.column).data().toString();
-    const Match match = Match_Of(Folded(text), wanted);
-    if (match != Match::None) hits.push_back({row, match});
-  }
-  std::ranges::stable_partition(hits, [](Hit hit) { return hit.match != Match::Later_Word; });
-  return hits;
-}
-
-Match Best_Of(const Hits& hits) {
-  const auto best = std::ranges::min_element(hits, {}, &Hit::match);
-  return best == hits.end() ? Match::None : best->match;
-}
-
-// Of the best hits the first from row `from` on, and around. An entry of a single letter is not
-// better than the others: the same letter again is to go round all of them.
-std::size_t Best_From(const Hits& hits, int from, bool single_letter) {
-  const Match enough = std::max(Best_Of(hits), single_letter ? Match::Beginning : Match::Whole);
-  const auto good = [enough](Hit hit) { return hit.match <= enough; };
-  auto found = std::ranges::find_if(hits, [&](Hit hit) { return good(hit) && hit.row >= from; });
-  if (found == hits.end()) found = std::ranges::find_if(hits, good);
-  return static_cast<std::size_t>(found - hits.begin());
-}
-
 bool Is_Letter_Again(const QString& word) {
   return word.size() > 1 &&
          std::ranges::all_of(word, [&word](QChar letter) { return letter == word.front(); });
 }
 
-bool Is_Command(const QKeyEvent& key) {
-  return (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+Hits Hits_Of(const QString& word, const Typed_Search::Place& place) {
+  return Forms::Hits_Of(word, place.entries, place.column);
 }
 
 // Keys like Delete have a text that nobody can see.
@@ -138,7 +59,7 @@ bool Typed_Search::Is_Being_Typed() const {
 }
 
 std::optional<int> Typed_Search::Hear(const QKeyEvent& key, const Place& place) {
-  if (!Is_Command(key)) {
+  if (!Has_Command_Key(key)) {
     if (const int steps = Steps(key, place)) return Go_On(steps, place);
     if (Is_Of_Word(key, place)) return Find(key.text(), place);
     if (Is_Being_Typed() && key.key() == Qt::Key_Backspace) return Take_Back(place);

@@ -132,6 +132,12 @@ TEST_F(Modes, Modifying) {
                                    {Wine(wines[1]), picked + "....P; "}});
   EXPECT_EQ(Shown_Text("Pairings_Add_Command"), "Modify Pairing");
   EXPECT_EQ(boxes.Texts(), Texts{"Wine information was Modified."});
+  Type_Into("Comments_Text", "changed");
+  screen.Get<Forms::List_View>(list).SetFocus();
+  Press("Up");
+  EXPECT_EQ(Shown_Text("Comments_Text"), "changed");
+  Press("Return");
+  EXPECT_NE(Shown_Text("Comments_Text"), "changed");
 }
 
 TEST_F(Modes, Looking) {
@@ -140,6 +146,9 @@ TEST_F(Modes, Looking) {
   const Long wines[] = {Put_Wine(Sample_Wine()), Put_Wine(Sample_Wine(1))};
   Start();
   Walk(caption, {{Entry("Cellar1_View"), look}, {Wine(wines[0]), look}, {Activate, look}});
+  screen.Get<Forms::List_View>(list).SetFocus();
+  Type(Sample(1).name);
+  EXPECT_EQ(Shown_Text("Winery_Combo"), Sample(1).name);
   Stand_In("Wineries_Form");
   Double_Click("Winery_Combo");
   EXPECT_EQ(Current_Command, "WineryList");

@@ -265,6 +265,15 @@ TEST_F(List_View_Test, Typing_goes_to_a_row_as_an_arrow_key_does) {
   EXPECT_EQ(typed("julien"), Log({"Saint Julien"}));
   Compose_Anew("Regions_ListView", "日本");
   EXPECT_EQ(Taken(), Log({"日本 一"}));
+  list.Set_Search_Column(1);
+  form.takes_focus = true;
+  EXPECT_EQ(typed("france"), Log({"alsace"}));
+  EXPECT_EQ(Shown_Text("Typed_Word"), "france – 1 of 3");
+  for (const char* key : {"F3", "Down", "Down", "Shift+F3"}) Press(key);
+  EXPECT_EQ(Taken(), Log({"Éclair", "Loire", "alsace", "Loire"}));
+  form.takes_focus = false;
+  list.Set_Sorted(true);
+  EXPECT_EQ(typed("rio"), Log({"Rioja"}));
   list.Set_Arrow_Keys_Pick(false);
   EXPECT_EQ(typed("saint"), Log());
   Press("Space");

@@ -72,6 +72,12 @@ TEST_F(Catalogue, A_change_begins_with_a_pick) {
   EXPECT_FALSE(Is_Usable("Cat_Add_Now"));
   Type("x");
   EXPECT_TRUE(Is_Usable("Cat_Add_Now"));
+  Click_Row(list, 1);
+  const Texts picked = Boxes();
+  Press("Up");
+  EXPECT_EQ(Boxes(), picked);
+  Press("Return");
+  EXPECT_EQ(Boxes()[0], Shown_Column(list, 0)[0]);
 }
 
 TEST_F(Catalogue, The_list_names_English_and_beside_it_the_language_in_force) {

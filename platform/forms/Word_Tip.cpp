@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QToolTip>
 #include <algorithm>
+#include <array>
 
 namespace Forms::Word_Tip {
 
@@ -29,22 +30,26 @@ QLabel* New_Label(QWidget& list) {
   return label;
 }
 
-// Whether the label would stand there outside its window, or behind the open list of a combo box.
+// Whether the label would stand outside its window there, or behind the open list of a combo box.
 bool Is_Out_Of_Sight(const QLabel& label, QPoint place) {
-  if (place.y() < 0) return true;
+  const QWidget& window = *label.parentWidget();
+  if (!window.rect().contains(QRect(place, label.size()))) return true;
   const QWidget* popup = QApplication::activePopupWidget();
-  const QRect seen(label.parentWidget()->mapToGlobal(place), label.size());
+  const QRect seen(window.mapToGlobal(place), label.size());
   return popup != nullptr && popup->geometry().intersects(seen);
 }
 
-// Above the list, where it hides none of the entries, at the end that captions leave free.
+// Above the list, where it hides none of the entries, at the end that captions leave free; or as
+// near as there is room.
 QPoint Place_Of(const QLabel& label, const QWidget& list) {
-  const QWidget& window = *list.window();
-  const QPoint top = list.mapTo(&window, QPoint(0, 0));
-  const int rightmost = std::min(top.x() + list.width(), window.width()) - label.width();
-  const QPoint above(std::max(rightmost, 0), top.y() - label.height());
-  if (!Is_Out_Of_Sight(label, above)) return above;
-  return {above.x(), std::min(top.y() + list.height(), window.height() - label.height())};
+  const QRect at(list.mapTo(list.window(), QPoint(0, 0)), list.size());
+  const int left = std::max(std::min(at.right(), list.window()->width()) - label.width(), 0);
+  const std::array places{QPoint(left, at.top() - label.height()), QPoint(left, at.bottom() + 1),
+                          QPoint(at.right() + 1, at.top()),
+                          QPoint(at.left() - label.width(), at.top())};
+  const auto seen = std::ranges::find_if(
+      places, [&label](QPoint place) { return !Is_Out_Of_Sight(label, place); });
+  return seen == places.end() ? QPoint(left, at.top()) : *seen;
 }
 
 }  // namespace

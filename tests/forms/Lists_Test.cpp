@@ -25,6 +25,8 @@ using Log = std::vector<std::string>;
 
 constexpr const char* tip = "Typed_Word";
 
+QRect Place_Of(const QWidget& widget) { return {widget.mapToGlobal(QPoint(0, 0)), widget.size()}; }
+
 class Lists_Form : public Forms::Form {
  public:
   Lists_Form() : Form("Lists_Form", "Lists") {
@@ -345,6 +347,9 @@ TEST_F(Lists_Test, A_word_finds_its_entry_in_every_kind_of_list_wherever_that_st
       if (open) Press("Alt+Down");
       Type(word);
       EXPECT_THAT(Shown_Text(tip), StartsWith(word));
+      if (open) {
+        EXPECT_FALSE(Place_Of(*QApplication::activePopupWidget()).intersects(Place_Of(Find(tip))));
+      }
       EXPECT_EQ(any->ListIndex() == i % count, is_box || i % count == i / count) << word;
       EXPECT_EQ(is_box ? Taken() : Log(), Log());
       if (is_box && !open) {

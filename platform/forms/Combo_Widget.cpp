@@ -82,6 +82,9 @@ void Combo_Widget::hidePopup() {
 
 // The first click of two opens the list, and the list gets the second one.
 bool Combo_Widget::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && object == view()) {
+    return Keeps_From_Toolkit(static_cast<QKeyEvent&>(*event));
+  }
   if (event->type() == QEvent::KeyPress && object == view()) {
     return Heard_By_List(static_cast<QKeyEvent&>(*event));
   }
@@ -159,6 +162,15 @@ void Combo_Widget::Step(QKeyEvent& event) {
   Make_List();
   QComboBox::keyPressEvent(&event);
   if (currentIndex() != combo_.ListIndex()) setCurrentIndex(combo_.ListIndex());
+}
+
+// The toolkit closes the list at some keys before they are pressed.
+bool Combo_Widget::Keeps_From_Toolkit(QKeyEvent& event) const {
+  const bool ends_word = event.key() == Qt::Key_Escape && typing_.Has_Word();
+  if (!ends_word && !Opens_Or_Closes(event) && !(Is_Enter(event) && typing_.Found_Nothing()))
+    return false;
+  event.accept();
+  return true;
 }
 
 // Before the toolkit, which would look for letters in its own way. A word without a hit is no

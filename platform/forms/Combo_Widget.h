@@ -35,6 +35,7 @@ class Combo_Widget : public QComboBox {
  private:
   void Choose_Shown(const QKeyEvent& event);
   void Step(QKeyEvent& event);
+  bool Keeps_From_Toolkit(QKeyEvent& event) const;
   bool Heard_By_List(const QKeyEvent& event);
   void Make_List();
   int Widest_Entry() const;

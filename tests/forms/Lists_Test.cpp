@@ -20,6 +20,8 @@
 
 namespace {
 
+using testing::Contains;
+using testing::Not;
 using testing::StartsWith;
 using Log = std::vector<std::string>;
 
@@ -73,7 +75,10 @@ class Lists_Form : public Forms::Form {
 
 class Lists_Test : public testing::Test {
  protected:
-  ~Lists_Test() override { Forms::Screens::Clear_For_Tests(); }
+  ~Lists_Test() override {
+    Forms::Screens::Clear_For_Tests();
+    Taken();
+  }
 
   static Log Taken() { return std::exchange(Lists_Form::log, {}); }
   static Lists_Form& Opened() {
@@ -426,6 +431,14 @@ TEST_F(Lists_Test, A_key_with_another_one_changes_no_combo_box_but_opens_it) {
     Press(*key == 'S' ? "Esc" : key);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << key;
   }
+  for (const char* key : {"Return", "Tab"}) {
+    combo.SetFocus();
+    Press("F4");
+    Type("nowhere");
+    Press(key);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << key;
+  }
+  EXPECT_EQ(Focused(), "Cat_List");
   EXPECT_EQ(Taken(), Log());
 }
 
@@ -456,8 +469,11 @@ TEST_F(Lists_Test, The_hits_of_a_word_are_gone_through_and_stand_in_the_middle) 
     Type("lamb 27");
     const int middle = view.visualRect(view.currentIndex()).center().y();
     EXPECT_NEAR(middle, view.viewport()->height() / 2, view.sizeHintForRow(0));
-    if (any == &combo) Press("Esc"), Press("Esc");
+    Press("Esc");
+    EXPECT_EQ(QApplication::activePopupWidget() != nullptr, any == &combo);
+    if (any == &combo) Press("Esc");
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_THAT(Taken(), Not(Contains("Exit")));
   }
 }
 

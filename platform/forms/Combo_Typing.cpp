@@ -56,8 +56,9 @@ void Combo_Typing::Finish() {
 
 // A choice takes the focus with it: it would be called back from where the user went meanwhile.
 void Combo_Typing::Paused() {
-  const bool still_here = box_.hasFocus() && Focus_Watch::The().Owner() == &combo_;
-  still_here&& combo_.Owner().Takes_Input() ? Finish() : Give_Up();
+  const bool still_here =
+      box_.hasFocus() && Focus_Watch::The().Owner() == &combo_ && combo_.Owner().Takes_Input();
+  still_here ? Finish() : Give_Up();
 }
 
 void Combo_Typing::Give_Up() {

@@ -303,7 +303,8 @@ void Type(std::string_view text) {
   for (const QChar letter : To_Qt(text)) {
     QWindow* window = QApplication::focusWindow();
     if (window == nullptr) return;
-    QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+    const Qt::Key key = letter == ' ' ? Qt::Key_Space : Qt::Key_unknown;
+    QTest::sendKeyEvent(QTest::Click, window, key, QString(letter), Qt::NoModifier);
   }
   Settle_Events();
 }

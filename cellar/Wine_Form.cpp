@@ -79,9 +79,11 @@ void Wine_Form::Form_Load() {
 }
 
 void Wine_Form::Tell_What_Empty_Lists_Wait_for() {
+  const bool cellars_named = Screen("Wine_Cellar_Form").Control("Wines_Cellar").Enabled();
   Wine_Cellar_ListView.Set_Empty_Text(
-      Command_Is("WineAdd") ? Hint_Text(Screen_Words::First_Wine)
-                            : Hint_To_Menu(Screen_Words::No_Wines_Yet, "Wine_Main", "Wine_Add"));
+      !cellars_named ? Hint_To_Menu(Screen_Words::Name_Cellars_First, "Cellar_Main", "Cellar_Add")
+      : Command_Is("WineAdd") ? Hint_Text(Screen_Words::First_Wine)
+                              : Hint_To_Menu(Screen_Words::No_Wines_Yet, "Wine_Main", "Wine_Add"));
   if (!Command_Is("WineAdd")) return;
   Pairing_List.Set_Empty_Text(
       Hint_Text(Screen_Words::No_Pairings_of_Wine, {Pairings_Add_Command.Caption()}));
@@ -114,6 +116,7 @@ void Wine_Form::Load_for_Display(const char* caption) {
   Lock_Top_Window();
   Checks_Locked = true;
   Pairings_Add_Command.Set_Visible(false);
+  Show_Stand_Ins(true);
   Wine_Cellar_ListView.SetFocus();
 }
 
@@ -171,6 +174,7 @@ void Wine_Form::Wait_for_Pick() {
   Multi_Functional_Command.Set_Enabled(false);
   Multi_Functional_Command.Set_Visible(false);
   Setup_for_Message(pick_first);
+  Show_Stand_Ins(true);
   Wine_Cellar_ListView.SetFocus();
 }
 

@@ -55,6 +55,9 @@ class Wine_Form : public Cellar_Wine_Screen {
   Controls Gate_Fields() override;
   void UnLock_for_Add();
   void Top_Window_Clean();
+  /// All in which something can be chosen but the pairings.
+  std::vector<Forms::Item_List*> Chosen_Lists();
+  void Show_Stand_Ins(bool stand_ins);
   void Hide_Add_Commands();
   void Hide_ADD_Buttons();
   void Disable_Add_Buttons();

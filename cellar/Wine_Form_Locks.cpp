@@ -23,13 +23,22 @@ void Wine_Form::UnLock_for_Add() {
   Checks_Locked = false;
 }
 
+std::vector<Forms::Item_List*> Wine_Form::Chosen_Lists() {
+  return {&Winery_Combo,  &Label_Combo,          &Region_Combo, &Country_Combo,
+          &Vintage_Combo, &Peak_Year_Combo,      &Merit_Combo,  &Bottle_Size_Combo,
+          &Color_Combo,   &Classification_Combo, &Variety_Combo};
+}
+
+// What stands in the lists before a wine is picked says nothing of any wine.
+void Wine_Form::Show_Stand_Ins(bool stand_ins) {
+  for (Forms::Item_List* list : Chosen_Lists()) list->Set_Stand_In(stand_ins);
+}
+
 // The winery first: back on its first entry it has everything else filled anew.
 void Wine_Form::Top_Window_Clean() {
   Winery_Combo.Set_ListIndex(0);
   const Ignoring_Events ignoring;
-  for (Forms::Item_List* list : std::initializer_list<Forms::Item_List*>{
-           &Label_Combo, &Region_Combo, &Country_Combo, &Vintage_Combo, &Peak_Year_Combo,
-           &Merit_Combo, &Bottle_Size_Combo, &Color_Combo, &Classification_Combo, &Variety_Combo}) {
+  for (Forms::Item_List* list : Chosen_Lists()) {
     if (list->ListCount() > 0) list->Set_ListIndex(0);
   }
   for (Forms::Text_Box* box : Text_Fields()) box->Set_Text("");

@@ -35,6 +35,7 @@ void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
     item.Set_Selected(false);
     return;
   }
+  Show_Stand_Ins(false);
   Checks_Locked = false;
   Selected_Wine_ID = To_Integer(Wine_Cellar_ListView.Key_of(item));
   Seek_Wine();

@@ -12,10 +12,11 @@ struct Form_Text {
   std::string Forms::Texts_Of_Forms::*text;  ///< English until the program fills it
 };
 
-inline constexpr std::array<Form_Text, 9> Form_Texts{
+inline constexpr std::array<Form_Text, 10> Form_Texts{
     {{"required", &Forms::Texts_Of_Forms::required},
      {"locked", &Forms::Texts_Of_Forms::locked},
      {"to_click_next", &Forms::Texts_Of_Forms::to_click_next},
+     {"stand_in", &Forms::Texts_Of_Forms::stand_in},
      {"ok", &Forms::Texts_Of_Forms::ok},
      {"yes", &Forms::Texts_Of_Forms::yes},
      {"no", &Forms::Texts_Of_Forms::no},

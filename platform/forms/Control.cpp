@@ -102,6 +102,12 @@ void Placed_Control::Set_ForeColor(Color color) {
   Show_Look();
 }
 
+void Placed_Control::Set_Stand_In(bool stand_in) {
+  if (stand_in == stand_in_) return;
+  stand_in_ = stand_in;
+  Show_Look();
+}
+
 void Placed_Control::Set_Tool_Tip(std::string_view text) {
   tool_tip_ = text;
   Show_State();
@@ -127,7 +133,8 @@ void Placed_Control::Show_Word() {
 void Placed_Control::Show_State() {
   QStringList lines;
   const std::string_view word = Word_Of_Caption(Caption().empty() ? label_caption_ : Caption());
-  for (const std::string_view part : {std::string_view(tool_tip_), word, State()}) {
+  const std::string_view stand_in = stand_in_ ? Form_Texts().stand_in : std::string_view();
+  for (const std::string_view part : {std::string_view(tool_tip_), word, stand_in, State()}) {
     if (!part.empty()) lines.append(To_Show(part));
   }
   const QString text = lines.join('\n');

@@ -76,6 +76,11 @@ class Placed_Control : public Control {
   Color ForeColor() const { return fore_color_; }
   void Set_ForeColor(Color color);
 
+  /// What stands in the control is there only until something is chosen: it is shown fainter, and
+  /// the tool tip and the accessible description say so.
+  bool Stand_In() const { return stand_in_; }
+  void Set_Stand_In(bool stand_in);
+
   /// What the program has to say about the control, as plain text. The word for its caption, or
   /// its label's, and the words of its state, if any, stand below it (Form_Texts.h).
   void Set_Tool_Tip(std::string_view text);
@@ -127,6 +132,7 @@ class Placed_Control : public Control {
   bool placed_ = false;
   Color back_color_ = Window_Color;
   Color fore_color_ = Window_Color;
+  bool stand_in_ = false;
   std::string tool_tip_;
   std::string accessible_name_;
   std::string label_caption_;

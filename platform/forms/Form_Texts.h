@@ -14,6 +14,7 @@ struct Texts_Of_Forms {
   std::string required = "A value must be given here.";
   std::string locked = "Locked: to be read, not changed.";
   std::string to_click_next = "Choose a line of this list next.";
+  std::string stand_in = "A placeholder: no line is chosen yet.";
 
   // The buttons of message boxes.
   std::string ok = "OK";

@@ -20,6 +20,7 @@ namespace Forms {
 namespace {
 
 constexpr double tint = 0.12;
+constexpr double placeholder = 0.7;
 constexpr double corner = 3;
 constexpr const char* lock_name = "Lock_Mark";
 
@@ -92,7 +93,7 @@ QPalette Palette_Of(const QWidget& widget, const Field_Look& look, bool full_gro
     palette.setColor(role, look.ink);
     palette.setColor(QPalette::Disabled, role, faded);
   }
-  palette.setColor(QPalette::PlaceholderText, Mixed(look.ground, look.ink, 0.7));
+  palette.setColor(QPalette::PlaceholderText, Mixed(look.ground, look.ink, placeholder));
   if (!full_ground) return palette;
   palette.setColor(QPalette::Base, look.ground);
   palette.setColor(QPalette::AlternateBase, Mixed(look.ground, look.ink, 0.04));
@@ -120,6 +121,7 @@ Field_Look Look_Of(const Placed_Control& control, const QPalette& theme) {
   look.ink = fore.of_the_theme ? Ink_On(look.ground, theme) : To_Color(fore);
   const QColor beside = quiet ? theme.color(QPalette::Window) : look.ground;
   look.outline = Outline_Of(look.ground, look.ink, beside);
+  if (control.Stand_In()) look.ink = Mixed(look.ground, look.ink, placeholder);
   look.ring = theme.color(QPalette::Highlight);
   return look;
 }

@@ -581,6 +581,22 @@ TEST_F(Lists_Test, An_empty_list_says_what_it_waits_for) {
   QApplication::setPalette(theme);
 }
 
+TEST_F(Lists_Test, A_stand_in_is_fainter_and_the_same_to_code) {
+  combo.Set_ListIndex(1);
+  Forms::Lockable_Control& field = combo;
+  field.Set_Locked(true);
+  field.Set_BackColor(Forms::Locked_Color);
+  Settle_Events();
+  const double before = Contrast_In(*combo.Widget());
+  combo.Set_Stand_In(true);
+  Settle_Events();
+  const double faint = Contrast_In(*combo.Widget());
+  EXPECT_LT(faint, before - 2);
+  EXPECT_GE(faint, 4.5);
+  EXPECT_EQ(combo.Text(), "France");
+  EXPECT_TRUE(combo.Widget()->accessibleDescription().startsWith("A placeholder"));
+}
+
 TEST_F(Lists_Test, An_entry_in_bold_stays_the_same_one) {
   list.Set_Bold(2, true);
   list.AddItem("Argentina", 0);

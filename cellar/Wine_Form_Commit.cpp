@@ -116,7 +116,7 @@ void Wine_Form::Remove_Varieties() {
 void Wine_Form::Remove_Wine() {
   Seek_Wine();
   const bool sure = Forms::Ask_Yes_No("Are you sure yo want to REMOVE this wine from Wine Cellar?",
-                                      "WINE DELETE WARNING");
+                                      "WINE DELETE WARNING", Forms::Answer::No);
   if (!sure) {
     Close_Table(Wines_Recordset);
     return;

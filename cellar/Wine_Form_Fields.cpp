@@ -50,7 +50,7 @@ Text Date_Fault(const Text& text) {
 // Tells the fault and keeps the user in the field. False where there is none.
 bool Is_Refused(Forms::Text_Box& field, const Text& fault, const char* title) {
   if (fault.empty()) return false;
-  Forms::Message_Box(fault, title);
+  Forms::Message_Box(fault, title, Forms::Sign::Warning);
   field.SetFocus();
   return true;
 }

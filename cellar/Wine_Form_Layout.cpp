@@ -19,5 +19,6 @@ void Wine_Form::Lay_Out() {
                   .Grow(),
               Buttons({Multi_Functional_Command, Exit_Command})}));
   Set_Exit(Exit_Command);
+  Set_Commit(Multi_Functional_Command);
   Set_Width(opening_width);
 }

@@ -29,6 +29,7 @@ void Apply_Language_Words(Forms::Form& form) {
     if (Word_Type[row] == "Frm") form.Set_Caption(Word_Text[row]);
     Words_Query.MoveNext();
   }
+  form.Choose_Mnemonics();
 }
 
 Text Next_Language_Word() {

@@ -69,7 +69,7 @@ void Run(const Owner_Search& search) {
     Compact_Found_IDs();
     return;
   }
-  Forms::Message_Box(search.text, search.title);
+  Forms::Message_Box(search.text, search.title, Forms::Sign::Warning);
   Close_Table(search.links.rows);
 }
 

@@ -28,6 +28,7 @@ void Cellar_Names_Form::Lay_Out() {
                       {Cellar2_Label, Forms::Place(Cellar2_Name_Text).Wide(name_width)}}),
        Forms::Stretch(), Forms::Buttons({General_Command, Exit_Command})}));
   Set_Exit(Exit_Command);
+  Set_Commit(General_Command, Enter_Key::Commits);
 }
 
 void Cellar_Names_Form::Form_Load() {

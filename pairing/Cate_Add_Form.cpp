@@ -29,11 +29,6 @@ Cate_Add_Form::Cate_Add_Form()
     : Command_Form("Cate_Add_Form", "Add New Categories or Menu Themes") {
   Lay_Out();
   CatText.Change = [this] { CatText_Change(); };
-  for (Forms::Text_Box* box : {&CatText, &CAT_Other_Language_Text}) {
-    box->Enter_Pressed = [this] {
-      if (Cat_Add_Now.Enabled()) Cat_Add_Now_Click();
-    };
-  }
   Maridages_ListView.ItemClick = [this](Forms::List_Item item) {
     Maridages_ListView_ItemClick(item);
   };
@@ -55,6 +50,7 @@ void Cate_Add_Form::Lay_Out() {
                               {Cat_Language2_Label, CAT_Other_Language_Text}}),
                       Buttons({Cat_Add_Now, Cat_Add_Cancel})}));
   Set_Exit(Cat_Add_Cancel);
+  Set_Commit(Cat_Add_Now, Enter_Key::Commits);
 }
 
 // ---- loading ----

@@ -101,5 +101,5 @@ void Select_Mult_Maridages_Form::Search_General_List() {
 // The search has said so already, in words of its own.
 void Select_Mult_Maridages_Form::Say_No_Wines() {
   Forms::Message_Box(Words.Of("No_Wines_Text", "Thera are NO wines matching any of your pairings."),
-                     Words.Of("No_Wines_Title", "NO WINES PAIRINGS"));
+                     Words.Of("No_Wines_Title", "NO WINES PAIRINGS"), Forms::Sign::Warning);
 }

@@ -24,6 +24,8 @@ Cellar_Wine_Screen::Cellar_Wine_Screen(std::string_view name, std::string_view c
                   std::move(words)) {
   constexpr int winery = 1;
   Wine_Cellar_ListView.Set_Search_Column(winery);
+
+  Multi_Functional_Command.Set_Other_Captions({"MODIFY", "UNCORK", "REMOVE"});
 }
 
 Forms::Place Cellar_Wine_Screen::Fields_Place(const Beside& beside,
@@ -110,7 +112,8 @@ void Cellar_Wine_Screen::Seek_Wine() const {
   Read_Row(Wines_Table, Selected_Wine_ID);
 }
 
-// Filling the list reads other wines into the memory record.
+// Filling the list reads other wines into the memory record. The button may have closed: the focus
+// is in the list then, not on the way out.
 void Cellar_Wine_Screen::Uncork_Wine() {
   Seek_Wine();
   Wines.Total_Bottles = To_Integer(static_cast<double>(Wines.Total_Bottles - 1));
@@ -128,5 +131,6 @@ void Cellar_Wine_Screen::Uncork_Wine() {
   Last_Date_Uncorked_Text.Set_Text(To_Text(Wines.Last_Date_Uncorked));
   Fill_Wine_List();
   Wine_Cellar_ListView.Select(To_Text(Selected_Wine_ID));
+  Wine_Cellar_ListView.SetFocus();
   Seek_Wine();
 }

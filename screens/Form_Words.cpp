@@ -18,6 +18,7 @@ void Form_Words::Caption(Forms::Form& form) const {
     if (row.types_variable == "Cap") form.Find_Control(row.Variable).Set_Caption(word);
     if (row.types_variable == "Frm") form.Set_Caption(word);
   }
+  form.Choose_Mnemonics();
 }
 
 Text Form_Words::At(int place, std::string_view without) const {

@@ -88,7 +88,7 @@ void Picker_Form::Add_Command_Click() {
   const std::optional<Entry> entry = Current_Entry();
   if (!entry || Is_Chosen(*entry)) return;
   if (SelectList.ListCount() > most_before_refusal) {
-    Forms::Message_Box("\r  100", "");
+    Forms::Message_Box("\r  100", "", Forms::Sign::Warning);
     return;
   }
   Choose(*entry);
@@ -164,6 +164,7 @@ Forms::Place Picker_Form::Moves_Place() {
 
 Forms::Place Picker_Form::Ways_Out_Place() {
   Set_Exit(MultCancel);
+  Set_Commit(MultSelect);
   return Forms::Column({Keys_Label, Forms::Buttons({MultSelect, MultCancel})});
 }
 

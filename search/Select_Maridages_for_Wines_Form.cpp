@@ -164,7 +164,8 @@ void Select_Maridages_for_Wines_Form::Proceed() {
 
 void Select_Maridages_for_Wines_Form::Search_Cellar() {
   if (Show_Found_Wines()) return;
-  Forms::Message_Box("Thera are NO wines matching any of your pairings.", "NO WINES PAIRINGS");
+  Forms::Message_Box("Thera are NO wines matching any of your pairings.", "NO WINES PAIRINGS",
+                     Forms::Sign::Warning);
 }
 
 void Select_Maridages_for_Wines_Form::MultCancel_Click() {

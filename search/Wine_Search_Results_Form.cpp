@@ -18,7 +18,7 @@ Wine_Search_Results_Form::Wine_Search_Results_Form()
     Wine_Cellar_ListView_ItemClick(item);
   };
   Variety_Combo.ItemCheck = [this](int item) { Variety_Combo_ItemCheck(item); };
-  Multi_Functional_Command.Click = [this] { Multi_Functional_Command_Click(); };
+  Multi_Functional_Command.Click = [this] { Uncork_Wine(); };
   Exit_Command.Click = [this] { Exit_Command_Click(); };
 }
 
@@ -36,6 +36,7 @@ void Wine_Search_Results_Form::Lay_Out() {
   Set_Content(Column({Above_Below(Row({found.Grow(), requested}).Grow(), Fields_Place({})).Grow(),
                       Buttons({Multi_Functional_Command, Exit_Command})}));
   Set_Exit(Exit_Command);
+  Set_Commit(Multi_Functional_Command);
   Set_Width(opening_width);
 }
 
@@ -142,12 +143,6 @@ void Wine_Search_Results_Form::Variety_Combo_ItemCheck(int item) {
   if (Ignore_Events) return;
   const Ignoring_Events ignoring;
   Variety_Combo.Set_Selected(item, !Variety_Combo.Selected(item));
-}
-
-// The button may have closed by it: the focus is in the list, not on the way out.
-void Wine_Search_Results_Form::Multi_Functional_Command_Click() {
-  Uncork_Wine();
-  Wine_Cellar_ListView.SetFocus();
 }
 
 void Wine_Search_Results_Form::Exit_Command_Click() {

@@ -27,7 +27,6 @@ class Wine_Search_Results_Form : public Cellar_Wine_Screen {
   void Tell_What_Is_Missing(int removed, bool cut);
   void Wine_Cellar_ListView_ItemClick(Forms::List_Item item);
   void Variety_Combo_ItemCheck(int item);
-  void Multi_Functional_Command_Click();
   void Exit_Command_Click();
 
   /// The keys of the requested pairings: the selection changes with each click on a wine.

@@ -7,6 +7,7 @@
 
 #include "platform/forms/Desktop_Style.h"
 #include "platform/forms/Focus.h"
+#include "platform/forms/Held_Keys.h"
 #include "platform/forms/Later.h"
 #include "platform/forms/Message_Box.h"
 #include "platform/forms/Only_Start.h"
@@ -62,6 +63,7 @@ Application::Application(int& argc, char** argv) : data_(std::make_unique<Data>(
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setStyle(data_->style);
   Focus_Watch::The().Begin();
+  Held_Keys::The().Begin();
   Hooks().show = Show_Failure;
   Hooks().settled = Settle;
 }

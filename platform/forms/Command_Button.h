@@ -3,6 +3,9 @@
 // left there is no Click, unless the button is the form's exit.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "platform/forms/Control.h"
 
 namespace Forms {
@@ -14,6 +17,10 @@ class Command_Button : public Placed_Control {
 
   std::function<void()> Click;
 
+  /// What the button says in other modes of its form: mnemonics are kept for these captions too.
+  void Set_Other_Captions(std::vector<std::string> captions) { others_ = std::move(captions); }
+  const std::vector<std::string>& Other_Captions() const { return others_; }
+
   bool Has_Mnemonic() const override { return true; }
   void Show_Mnemonic(const std::string& text) override;
 
@@ -22,6 +29,8 @@ class Command_Button : public Placed_Control {
 
  private:
   void Clicked();
+
+  std::vector<std::string> others_;
 };
 
 }  // namespace Forms

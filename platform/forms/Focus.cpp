@@ -8,6 +8,7 @@
 #include "platform/forms/Form_Data.h"
 #include "platform/forms/Handlers.h"
 #include "platform/forms/Message_Box.h"
+#include "platform/forms/Text_Box.h"
 #include "platform/run_time/Guard.h"
 
 // The toolkit's focus is not the program's. The toolkit takes it away for every message box, popup
@@ -83,6 +84,7 @@ void Focus_Watch::Raise_Lost_Focus(Placed_Control& loser, Placed_Control* target
   loser.Raise_Lost_Focus();
   if (refused_) {
     refused_for_ = target;
+    if (auto* box = dynamic_cast<Text_Box*>(&loser)) box->Select_All();
   } else if (Boxes_Shown() != boxes_before) {
     interrupted_ = target;
   }

@@ -1,7 +1,9 @@
 #include "platform/forms/Form.h"
 
+#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QShortcut>
 #include <algorithm>
 
 #include "platform/forms/Command_Button.h"
@@ -129,7 +131,26 @@ Control& Form::Find_Control(std::string_view name) const {
   return **found;
 }
 
-void Form::Set_Content(const Place& content) { Build_Layout(*data_, content); }
+// The letters of the design hold in every mode that the form is shown in.
+void Form::Set_Content(const Place& content) {
+  Build_Layout(*data_, content);
+  Assign_Mnemonics(*this);
+}
+
+void Form::Choose_Mnemonics() {
+  Forget_Mnemonics(*this);
+  Assign_Mnemonics(*this);
+}
+
+void Form::Set_Commit(Command_Button& button, Enter_Key enter) {
+  data_->commit_button = &button;
+  data_->enter_commits = enter == Enter_Key::Commits;
+  static_cast<QPushButton*>(button.Widget())->setDefault(data_->enter_commits);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    auto* shortcut = new QShortcut(Qt::CTRL | key, data_->window);
+    QObject::connect(shortcut, &QShortcut::activated, [this] { Commit(*this); });
+  }
+}
 
 void Form::Set_Exit(Command_Button& button, Exit exit) {
   data_->exit_button = &button;

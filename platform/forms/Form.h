@@ -43,6 +43,9 @@ class Form {
   /// The width in which the window opens, in pixels of an unscaled desktop, as far as the desktop
   /// has them; the user can change it.
   void Set_Width(int pixels);
+  /// All captions were set anew, as in another language: the mnemonics are chosen for these. A
+  /// single caption that changes moves the mnemonic of no other control.
+  void Choose_Mnemonics();
 
   /// Loads the form if that has not been, shows it, brings it to the front; then Form_Activate.
   void Show();
@@ -82,6 +85,11 @@ class Form {
   enum class Exit { Leaves, Ends_The_Run };
   void Set_Exit(Command_Button& button, Exit exit = Exit::Leaves);
   void Set_Exit(Menu_Entry& entry, Exit exit = Exit::Ends_The_Run);
+  /// The button that commits what was entered or chosen: Ctrl+Enter clicks it, wherever the focus
+  /// is; on a form of one page, where nothing is picked by Enter, so does Enter in a box of one
+  /// line.
+  enum class Enter_Key { Commits_With_Ctrl, Commits };
+  void Set_Commit(Command_Button& button, Enter_Key enter = Enter_Key::Commits_With_Ctrl);
 
  private:
   friend class Control;

@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,10 @@ struct Form_Data {
   std::vector<QPointer<QWidget>> reading_order;
   Command_Button* exit_button = nullptr;
   Menu_Entry* exit_entry = nullptr;
+  Command_Button* commit_button = nullptr;
+  bool enter_commits = false;
+  std::map<std::pair<const Control*, std::string>, QChar> letters;  ///< mnemonics, by caption
+  std::map<const Control*, QChar> former_letters;                   ///< of captions that went
   bool esc_leaves = true;
   Form* caller = nullptr;  ///< the form that waits for this one, while this one is shown
   int waiting_for = 0;     ///< how many forms this one waits for
@@ -56,6 +61,9 @@ struct Form_Data {
 Form* Form_Of(const QWidget* widget);
 /// Does what the form's exit does.
 void Leave(Form& form, bool by_key);
-/// Gives the captions of the form's controls their mnemonics.
+/// Presses the form's committing button, as a click does, where it can be clicked.
+void Commit(Form& form);
+/// Gives the captions of the form's controls their mnemonics: those that have none yet.
 void Assign_Mnemonics(Form& form);
+void Forget_Mnemonics(Form& form);
 }  // namespace Forms

@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -8,10 +9,19 @@
 #include "platform/forms/Form_Data.h"
 #include "platform/forms/Handlers.h"
 #include "platform/forms/Menu.h"
-#include "platform/forms/Mnemonics.h"
 #include "platform/forms/Screens_Inside.h"
 
 namespace Forms {
+
+namespace {
+
+void Open_Menu(QMenuBar& bar) {
+  for (QAction* action : bar.actions()) {
+    if (action->isVisible() && action->isEnabled()) return bar.setActiveAction(action);
+  }
+}
+
+}  // namespace
 
 Form* Form_Of(const QWidget* widget) {
   if (widget == nullptr) return nullptr;
@@ -31,28 +41,10 @@ void Leave(Form& form, bool by_key) {
   }
 }
 
-// Buttons choose first, then what the user reads first.
-void Assign_Mnemonics(Form& form) {
-  std::set<QChar> used;
-  for (const QAction* action : form.Data().window->menuBar()->actions()) {
-    const qsizetype place = action->text().replace("&&", "  ").indexOf('&');
-    if (place >= 0) used.insert(action->text()[place + 1].toUpper());
-  }
-  std::vector<Placed_Control*> bearers;
-  std::vector<std::string> captions;
-  for (const bool buttons : {true, false}) {
-    for (const auto& widget : form.Data().reading_order) {
-      Placed_Control* placed = Focus_Watch::The().Control_Of(widget);
-      if (placed == nullptr || !placed->Has_Mnemonic()) continue;
-      if (buttons != (dynamic_cast<Command_Button*>(placed) != nullptr)) continue;
-      bearers.push_back(placed);
-      captions.push_back(placed->Caption());
-    }
-  }
-  const std::vector<QString> texts = With_Mnemonics(captions, used);
-  for (std::size_t i = 0; i < bearers.size(); ++i) {
-    bearers[i]->Show_Mnemonic(texts[i].toStdString());
-  }
+void Commit(Form& form) {
+  const Command_Button* button = form.Data().commit_button;
+  if (button == nullptr || !button->Widget()->isVisible()) return;
+  static_cast<QAbstractButton*>(button->Widget())->click();
 }
 
 bool Form_Window::event(QEvent* event) {
@@ -71,6 +63,8 @@ void Form_Window::closeEvent(QCloseEvent* event) {
 void Form_Window::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {
     Leave(form_, true);
+  } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
+    Open_Menu(*menuBar());
   } else {
     QMainWindow::keyPressEvent(event);
   }

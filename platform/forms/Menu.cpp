@@ -5,31 +5,13 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "platform/forms/Form.h"
 #include "platform/forms/Form_Data.h"
 #include "platform/forms/Handlers.h"
 #include "platform/forms/Mnemonics.h"
 #include "platform/forms/Qt_Text.h"
 
 namespace Forms {
-
-namespace {
-
-// An action keeps its plain caption as its data: the text that is shown has a mnemonic in it.
-void Assign_Mnemonics_Of(const QWidget* place) {
-  std::vector<std::string> captions;
-  for (const QAction* action : place->actions()) {
-    captions.push_back(From_Qt(action->data().toString()));
-  }
-  std::set<QChar> used;
-  const std::vector<QString> texts = With_Mnemonics(captions, used);
-  for (qsizetype i = 0; i < place->actions().size(); ++i) {
-    if (!place->actions()[i]->isSeparator()) {
-      place->actions()[i]->setText(texts[static_cast<std::size_t>(i)]);
-    }
-  }
-}
-
-}  // namespace
 
 Menu_Item::Menu_Item(Form& form, Menu* menu, std::string_view name, std::string_view caption)
     : Control(form, name, caption), menu_(menu) {}
@@ -49,8 +31,15 @@ void Menu_Item::Set_Action(QAction* action) {
 }
 
 void Menu_Item::Show_Caption() {
-  action_->setData(To_Qt(Caption()));
-  Assign_Mnemonics_Of(Place_Of_Action());
+  Letters letters;
+  for (const QAction* other : Place_Of_Action()->actions()) {
+    if (other != action_) letters.Take(Letter_Of(other->text()));
+  }
+  const QChar own = Letter_Of(action_->text());
+  if (!own.isNull()) former_letter_ = own.unicode();
+  const bool keeps = !own.isNull() && Contains(Caption(), own);
+  action_->setText(keeps ? With_Letter(Caption(), own)
+                         : letters.Give(Caption(), Name(), QChar(former_letter_)));
 }
 
 void Menu_Item::Set_Tool_Tip(std::string_view text) {
@@ -59,6 +48,8 @@ void Menu_Item::Set_Tool_Tip(std::string_view text) {
   action_->setStatusTip(tip);
   action_->setWhatsThis(tip);
 }
+
+void Menu_Item::Forget_Mnemonic() { action_->setText(Escaped(Caption())); }
 
 void Menu_Item::Show_Enabled() { action_->setEnabled(Enabled()); }
 

@@ -13,8 +13,8 @@ namespace Forms {
 
 class Menu;
 
-/// What a menu bar or a menu consists of. Mnemonics are chosen anew within the menu whenever a
-/// caption changes.
+/// What a menu bar or a menu consists of. A caption that changes keeps its mnemonic where it
+/// contains it, and moves that of no other entry.
 class Menu_Item : public Control {
  public:
   ~Menu_Item() override;
@@ -24,18 +24,20 @@ class Menu_Item : public Control {
 
   /// For this room and the tests.
   QAction* Action() const { return action_; }
+  void Forget_Mnemonic();
+  void Show_Caption() override;
 
  protected:
   Menu_Item(Form& form, Menu* menu, std::string_view name, std::string_view caption);
   void Set_Action(QAction* action);
   QWidget* Place_Of_Action() const;  ///< the menu bar or menu it stands in
 
-  void Show_Caption() override;
   void Show_Enabled() override;
   void Show_Visible() override;
 
  private:
   Menu* menu_;
+  char16_t former_letter_ = 0;  ///< its last mnemonic
   QAction* action_ = nullptr;
 };
 
@@ -69,8 +71,6 @@ class Menu_Separator : public Menu_Item {
  public:
   explicit Menu_Separator(Menu& menu, std::string_view name = "Separator");
   ~Menu_Separator() override;
-
- protected:
   void Show_Caption() override {}
 };
 

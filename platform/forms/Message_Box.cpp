@@ -4,8 +4,12 @@
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSpacerItem>
 
+#include "platform/forms/Form_Texts.h"
+#include "platform/forms/Held_Keys.h"
+#include "platform/forms/Mnemonics.h"
 #include "platform/forms/Qt_Text.h"
 #include "platform/run_time/Guard.h"
 
@@ -33,30 +37,54 @@ void Make_Room_For_Title(QMessageBox& dialog) {
   grid->addItem(room, grid->rowCount(), 0, 1, grid->columnCount());
 }
 
+QMessageBox::Icon Icon_Of(Sign sign) {
+  switch (sign) {
+    case Sign::Warning:
+      return QMessageBox::Warning;
+    case Sign::Critical:
+      return QMessageBox::Critical;
+    case Sign::Question:
+      return QMessageBox::Question;
+    default:
+      return QMessageBox::Information;
+  }
+}
+
+void Add_Buttons(QMessageBox& dialog, const Box& box) {
+  const Texts_Of_Forms& texts = Form_Texts();
+  if (!box.asks) {
+    dialog.addButton(QMessageBox::Ok)->setText(Escaped(texts.ok));
+    return;
+  }
+  Letters letters;
+  const bool yes_by_enter = box.by_enter == Answer::Yes;
+  dialog.addButton(QMessageBox::Yes)->setText(letters.Give(texts.yes, "Yes"));
+  dialog.addButton(QMessageBox::No)->setText(letters.Give(texts.no, "No"));
+  dialog.setDefaultButton(yes_by_enter ? QMessageBox::Yes : QMessageBox::No);
+}
+
 bool Ask(const Box& box) {
-  QMessageBox dialog(QMessageBox::NoIcon, To_Qt(box.title), To_Show(box.text),
-                     QMessageBox::NoButton, QApplication::activeWindow());
+  QMessageBox dialog(Icon_Of(box.sign), To_Qt(box.title), To_Show(box.text), QMessageBox::NoButton,
+                     QApplication::activeWindow());
   dialog.setObjectName("Message_Box");
   dialog.setTextFormat(Qt::PlainText);
   dialog.setWindowModality(Qt::ApplicationModal);
-  if (box.asks) {
-    dialog.setIcon(QMessageBox::Question);
-    dialog.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    dialog.setDefaultButton(QMessageBox::Yes);
-    dialog.setEscapeButton(QMessageBox::No);
-  } else {
-    dialog.setIcon(QMessageBox::Information);
-    dialog.setStandardButtons(QMessageBox::Ok);
-    dialog.setEscapeButton(QMessageBox::Ok);
-  }
+  Add_Buttons(dialog, box);
+  dialog.setEscapeButton(box.asks ? QMessageBox::No : QMessageBox::Ok);
   Make_Room_For_Title(dialog);
   return dialog.exec() != QMessageBox::No;
 }
 
 bool Show(const Box& box) {
   struct Mark {
-    Mark() { ++boxes_up; }
-    ~Mark() { --boxes_up; }
+    Mark() {
+      ++boxes_up;
+      Held_Keys::The().Box_Comes_Up();
+    }
+    ~Mark() {
+      --boxes_up;
+      Held_Keys::The().Box_Has_Gone();
+    }
   } const mark;
   ++boxes_shown;
   if (The_Watcher()) {
@@ -67,19 +95,20 @@ bool Show(const Box& box) {
 
 }  // namespace
 
-void Message_Box(std::string_view text, std::string_view title) {
+void Message_Box(std::string_view text, std::string_view title, Sign sign) {
   Commit_Before_Showing();
-  Show({std::string(title), std::string(text), false});
+  Show({std::string(title), std::string(text), false, sign});
 }
 
-bool Ask_Yes_No(std::string_view text, std::string_view title) {
+bool Ask_Yes_No(std::string_view text, std::string_view title, Answer by_enter) {
   Commit_Before_Showing();
-  return Show({std::string(title), std::string(text), true});
+  return Show({std::string(title), std::string(text), true, Sign::Question, by_enter});
 }
 
 void Show_Failure(const Run_Time_Error& error) {
   Show({"Wine Cellar",
-        "Run-time error '" + std::to_string(error.Number()) + "':\n\n" + error.Text(), false});
+        "Run-time error '" + std::to_string(error.Number()) + "':\n\n" + error.Text(), false,
+        Sign::Critical});
 }
 
 void Watch_Boxes_For_Tests(Watcher watcher) { The_Watcher() = std::move(watcher); }

@@ -22,19 +22,15 @@ std::vector<int> Columns_To_Choose(const QTreeView& view, const List_View& list)
 }
 
 void Fill(QMenu& menu, List_View& list, const std::vector<int>& columns) {
-  std::vector<std::string> captions(columns.size());
-  std::ranges::transform(columns, captions.begin(),
-                         [&list](int column) { return list.Header_Text(column); });
-  std::set<QChar> used;
-  const std::vector<QString> texts = With_Mnemonics(captions, used);
+  Letters letters;
   auto* one_of_them = new QActionGroup(&menu);
   QObject::connect(one_of_them, &QActionGroup::triggered,
                    [&list](const QAction* entry) { list.Header_Clicked(entry->data().toInt()); });
-  for (std::size_t i = 0; i < columns.size(); ++i) {
-    QAction* entry = one_of_them->addAction(menu.addAction(texts[i]));
-    entry->setData(columns[i]);
+  for (const int column : columns) {
+    QAction* entry = one_of_them->addAction(menu.addAction(letters.Give(list.Header_Text(column))));
+    entry->setData(column);
     entry->setCheckable(list.Sorted());
-    entry->setChecked(list.Sorted() && list.SortKey() == columns[i] - 1);
+    entry->setChecked(list.Sorted() && list.SortKey() == column - 1);
   }
 }
 

@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 
 #include "platform/forms/Focus.h"
+#include "platform/forms/Form_Data.h"
 #include "platform/forms/Handlers.h"
 #include "platform/forms/Qt_Text.h"
 
@@ -17,7 +18,9 @@ Text_Box::Text_Box(Form& form, std::string_view name, Lines lines)
     line->setFixedHeight(line->sizeHint().height());
     QObject::connect(line, &QLineEdit::textChanged,
                      [this](const QString& text) { Take_Over(From_Qt(text)); });
-    QObject::connect(line, &QLineEdit::returnPressed, [this] { Raise(*this, Enter_Pressed); });
+    QObject::connect(line, &QLineEdit::returnPressed, [this] {
+      if (Owner().Data().enter_commits) Commit(Owner());
+    });
     Set_Widget(line);
     return;
   }

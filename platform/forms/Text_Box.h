@@ -22,8 +22,6 @@ class Text_Box : public Lockable_Control {
 
   /// On each change of the text, by the user or from code.
   std::function<void()> Change;
-  /// The user pressed Return or Enter in a box of one line.
-  std::function<void()> Enter_Pressed;
   /// When the focus goes to another control or form of the program. Never because a message box or
   /// another program came to the front, never from a form that is hidden, unloaded, disabled or
   /// waiting for a picker. A SetFocus back to this box, inside the handler, refuses the value: the

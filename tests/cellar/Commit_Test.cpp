@@ -1,6 +1,9 @@
 // What the button of the cellar's screen writes in each mode, seen in the stored rows, and the
 // failures that its writes are known to end with (docs/known-failures.md).
 
+#include <QApplication>
+#include <QWidget>
+
 #include "tests/support/Cellar_Program.h"
 
 namespace {
@@ -303,6 +306,24 @@ TEST_F(Cellar_Commit, Uncorking_takes_bottle_by_bottle_down_to_none) {
   }
 }
 
+TEST_F(Cellar_Commit, Enter_held_on_uncork_takes_one_bottle_and_ends_in_the_list) {
+  Put_Wine(Sample_Wine());
+  Start_With("Wine_Uncork");
+  Pick_Wine(1);
+  Find(button).setFocus();
+  Act_In_Next_Box([] {
+    Repeat("Return");
+    EXPECT_NE(QApplication::activeModalWidget(), nullptr);
+    Press("Return");
+    Repeat("Return");
+  });
+  Press("Return");
+  EXPECT_TRUE(Wait_Until([] { return Focused() == "Wine_Cellar_ListView"; }));
+  Repeat("Return");
+  EXPECT_EQ(Shown_Text("Total_Bottles_Text"), "2");
+  EXPECT_TRUE(Is_Seen(button));
+}
+
 TEST_F(Cellar_Commit, A_wine_is_removed_on_yes_alone_and_only_winery_and_region_count_it_out) {
   Wines_Record described = Sample_Wine();
   described.Description = Put_Text("Stays");
@@ -327,6 +348,7 @@ TEST_F(Cellar_Commit, A_wine_is_removed_on_yes_alone_and_only_winery_and_region_
   const Text warning =
       "WINE DELETE WARNING? Are you sure yo want to REMOVE this wine from Wine Cellar?";
   EXPECT_THAT(boxes.Said(), ElementsAre(warning));
+  EXPECT_EQ(boxes.Boxes()[0].by_enter, Forms::Answer::No);
   EXPECT_EQ(Wine_Rows(), before);
   EXPECT_EQ(Row_With("Wine_Cellar_ListView", "1", 9), 0);
   Click(button);

@@ -6,7 +6,10 @@
 #include <QAction>
 #include <QApplication>
 #include <QDropEvent>
+#include <QLineEdit>
 #include <QMimeData>
+#include <QTest>
+#include <array>
 #include <map>
 
 #include "platform/forms/Forms.h"
@@ -31,6 +34,7 @@ class Entry_Form : public Forms::Form {
       Unload();
     };
     Set_Exit(Exit_Command);
+    Set_Commit(General_Command, Enter_Key::Commits);
     Set_Content(Forms::Column({Forms::Fields({{Price_Label, Price_Text}, {Name_Label, Name_Text}}),
                                Dry_Check, Forms::Buttons({General_Command, Exit_Command})}));
   }
@@ -106,6 +110,10 @@ void Act_On(const char* name, const QString& action) {
   Seen_By_Assistive_Programs(name).actionInterface()->doAction(action);
 }
 
+void Commit_Or_Click(const char* key, const std::string& button) {
+  button == "General_Command" ? Press(key) : Click(button);
+}
+
 const std::string inactive = "mouse into an inactive window";
 
 /// How a user, or a program for the user, clicks.
@@ -119,6 +127,8 @@ const std::map<std::string, void (*)(const char* button)> ways_to_click = {
        EXPECT_TRUE(Wait_Until([widget] { return !widget->isDown(); }));
        Settle_Events();
      }},
+    {"Ctrl+Enter", [](const char* button) { Commit_Or_Click("Ctrl+Return", button); }},
+    {"Enter in the box", [](const char* button) { Commit_Or_Click("Return", button); }},
     {inactive,
      [](const char* button) {
        const Other_Program other;
@@ -149,6 +159,45 @@ const std::map<std::string, void (*)(const char* box, const char* text)> ways_to
      }},
 };
 
+TEST_F(Focus_Test, A_held_key_presses_ticks_and_chooses_once) {
+  for (const auto& [control, key, once] :
+       std::vector<std::array<std::string, 3>>{{"General_Command", "Return", "Click"},
+                                               {"General_Command", "Space", "Click"},
+                                               {"General_Command", "Alt+S", "Click"},
+                                               {"General_Command", "Ctrl+Return", "Click"},
+                                               {"Name_Text", "Return", "Click"},
+                                               {"Dry_Check", "Space", "Dry 1"},
+                                               {"Dry_Check", "Alt+D", "Dry 0"},
+                                               {"Dry_Check", "Alt+A", "Add"}}) {
+    SCOPED_TRACE(testing::Message() << key << " on " << control);
+    Find(control).setFocus();
+    Taken();
+    Press(key);
+    Repeat(key);
+    Log log = Taken();
+    std::erase(log, "Name LostFocus");
+    EXPECT_EQ(log, Log({once}));
+  }
+  Press("F10");
+  EXPECT_EQ(Focused(), "Dry_Check");  // there is no menu to open
+}
+
+TEST_F(Focus_Test, A_box_takes_no_key_before_the_one_that_brought_it_was_let_go) {
+  for (const char* key : {"Return", "Alt+S"}) {
+    Type_Into("Price_Text", "told");
+    Act_In_Next_Box([key] {
+      for (const char* held : {key, "Space", "O"}) Repeat(held);
+      QTest::keyPress(QApplication::focusWindow(), Qt::Key(QKeySequence(key)[0].key()));
+      Settle_Events();
+      EXPECT_NE(QApplication::activeModalWidget(), nullptr);
+      Press("Return");
+    });
+    Press(key);
+    Repeat(key);
+    EXPECT_EQ(Taken(), Log({"Price LostFocus", "Click"}));
+  }
+}
+
 // The text of the field says what its LostFocus does; see Price_Text_LostFocus.
 TEST_F(Focus_Test, A_field_is_left_before_any_click_and_a_refusal_drops_all_but_the_exit) {
   for (const auto& [entering, enter] : ways_to_enter) {
@@ -174,6 +223,8 @@ TEST_F(Focus_Test, A_field_is_left_before_any_click_and_a_refusal_drops_all_but_
           EXPECT_TRUE(Wait_Until(
               [&] { return Focused() == (refused ? "Price_Text" : "General_Command"); }));
           EXPECT_FALSE(dynamic_cast<QAbstractButton&>(Find("General_Command")).isDown());
+          EXPECT_EQ(dynamic_cast<QLineEdit&>(Find("Price_Text")).selectedText(),
+                    refused ? "bad" : "");
         }
         EXPECT_FALSE(Forms::Screen("Entry_Form").Is_Loaded());
       }

@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -33,7 +34,8 @@ QString To_Qt(std::string_view text) {
 }
 
 QString Without_Mnemonic(QString text) {
-  return text.replace("&&", QChar(1)).remove('&').replace(QChar(1), "&");
+  static const QRegularExpression behind(" ?\\(&.\\)$");
+  return text.remove(behind).replace("&&", QChar(1)).remove('&').replace(QChar(1), "&");
 }
 
 bool Is_In(const QWidget* widget, const QString& form) {
@@ -87,6 +89,16 @@ QWindow* Window_With_Keys() {
   if (QWindow* window = QApplication::focusWindow()) return window;
   const QWidget* active = QApplication::activeWindow();
   return active == nullptr ? nullptr : active->windowHandle();
+}
+
+// A key whose press has not come to its end yet: it may have brought up a box, which takes the
+// next.
+std::optional<QKeyCombination> key_down;
+
+void Let_Go() {
+  const std::optional<QKeyCombination> key = std::exchange(key_down, std::nullopt);
+  QWindow* window = Window_With_Keys();
+  if (key && window != nullptr) QTest::keyRelease(window, key->key(), key->keyboardModifiers());
 }
 
 QAbstractItemView& Find_List(std::string_view name) {
@@ -310,11 +322,26 @@ void Type(std::string_view text) {
 }
 
 void Press(std::string_view key) {
-  const QKeyCombination keys = QKeySequence(To_Qt(key))[0];
-  QWindow* window = Window_With_Keys();
-  if (window == nullptr) return;
-  QTest::keyClick(window, keys.key(), keys.keyboardModifiers());
+  Let_Go();
+  key_down = QKeySequence(To_Qt(key))[0];
+  if (QWindow* window = Window_With_Keys()) {
+    QTest::keyPress(window, key_down->key(), key_down->keyboardModifiers());
+  }
+  Let_Go();
   Settle_Events();
+}
+
+void Repeat(std::string_view key, int times) {
+  const QKeyCombination keys = QKeySequence(To_Qt(key))[0];
+  const QString text = keys.key() < Qt::Key_Escape ? QString(QChar(keys.key())) : QString();
+  for (int time = 0; time < times; ++time) {
+    for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+      QWindow* window = Window_With_Keys();
+      if (window == nullptr) return;
+      qt_handleKeyEvent(window, type, keys.key(), keys.keyboardModifiers(), text.toLower(), true);
+      Settle_Events();
+    }
+  }
 }
 
 void Pick(std::string_view entry) {

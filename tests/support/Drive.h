@@ -51,8 +51,11 @@ void Choose(std::string_view name, std::string_view entry);
 void Type_Into(std::string_view name, std::string_view text);
 /// Types into whatever has the focus.
 void Type(std::string_view text);
-/// Presses a key, named as in "Tab", "Shift+Tab", "Return", "Esc", "Alt+S", "Ctrl+C".
+/// Presses a key, named as in "Tab", "Shift+Tab", "Return", "Esc", "Alt+S", "Ctrl+C". One that is
+/// down still, because its press brought up a box, is let go first.
 void Press(std::string_view key);
+/// What the desktop sends while a key is held down: releases and presses that say so.
+void Repeat(std::string_view key, int times = 8);
 /// Chooses a menu entry with the mouse: opens the menus on the way to it.
 void Pick(std::string_view entry);
 /// Closes a form by its frame.

@@ -1,6 +1,7 @@
 #include "platform/forms/Text_Box.h"
 
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 
@@ -10,6 +11,40 @@
 #include "platform/forms/Qt_Text.h"
 
 namespace Forms {
+
+namespace {
+
+constexpr qsizetype longest_word = 500;
+
+bool Has_Endless_Word(const QString& text) {
+  qsizetype length = 0;
+  for (const QChar letter : text) {
+    length = letter.isSpace() ? 0 : length + 1;
+    if (length > longest_word) return true;
+  }
+  return false;
+}
+
+/// The toolkit looks for the end of a word anew for each line that the word fills: one of 100,000
+/// letters takes seconds at every layout. Where there is such a one, lines are broken anywhere.
+class Sheet : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+
+  /// To be told before the text is in the box.
+  void Prepare_For(const QString& text) {
+    setWordWrapMode(Has_Endless_Word(text) ? QTextOption::WrapAnywhere
+                                           : QTextOption::WrapAtWordBoundaryOrAnywhere);
+  }
+
+ protected:
+  void insertFromMimeData(const QMimeData* pasted) override {
+    if (Has_Endless_Word(pasted->text())) Prepare_For(pasted->text());
+    QPlainTextEdit::insertFromMimeData(pasted);
+  }
+};
+
+}  // namespace
 
 Text_Box::Text_Box(Form& form, std::string_view name, Lines lines)
     : Lockable_Control(form, name, {}), lines_(lines) {
@@ -24,7 +59,7 @@ Text_Box::Text_Box(Form& form, std::string_view name, Lines lines)
     Set_Widget(line);
     return;
   }
-  auto* sheet = new QPlainTextEdit(Widget_Parent());
+  auto* sheet = new Sheet(Widget_Parent());
   sheet->setTabChangesFocus(true);
   // The raw text: the plain one makes ordinary blanks of those that keep words together.
   QObject::connect(sheet, &QPlainTextEdit::textChanged, [this, sheet] {
@@ -60,7 +95,10 @@ void Text_Box::Show_Text() {
   if (lines_ == Lines::One) {
     static_cast<QLineEdit*>(Widget())->setText(To_Qt(text_));
   } else {
-    static_cast<QPlainTextEdit*>(Widget())->setPlainText(To_Qt(text_).replace("\r\n", "\n"));
+    auto* sheet = static_cast<Sheet*>(Widget());
+    const QString text = To_Qt(text_).replace("\r\n", "\n");
+    sheet->Prepare_For(text);
+    sheet->setPlainText(text);
   }
 }
 

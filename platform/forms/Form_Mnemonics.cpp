@@ -94,6 +94,8 @@ class Giving {
   QChar Letter_Behind(const Bearer& bearer) {
     if (Has_Letters_To_Type(bearer.caption) && !bearer.is_button) return {};
     if (const QChar own = Own_Letter(bearer); !own.isNull()) return own;
+    // The captions still to come have words, too, and of these letters few.
+    if (Has_Letters_To_Type(bearer.caption)) return letters_.Of("XQJZKV");
     return letters_.Behind(bearer.control->Name(), form_.former_letters[bearer.control]);
   }
 

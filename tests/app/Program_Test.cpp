@@ -40,13 +40,13 @@ class Program : public testing::Test {
 
   // From the main window, up to the button.
   void Enter_Wine() {
-    program.Press({"alt+w", "h", "a"});
+    program.Press({"alt+w", "c", "a"});
     ASSERT_TRUE(program.Sees_Window("Add New Wine to the Cellar"));
     program.Type("France");
     program.Press({"alt+w"});
     program.Type("Bollinger");
     program.Press({"alt+l", "Down", "alt+g", "Down", "space", "alt+o", "Down", "alt+b", "Down"});
-    program.Press({"alt+t", "6", "alt+f", "Down"});
+    program.Press({"Tab", "6", "alt+f", "Down"});
   }
 
   Real_Window::Display display;
@@ -82,7 +82,7 @@ TEST_F(Program, A_wine_is_entered_by_keyboard_and_can_be_uncorked_after_a_restar
   EXPECT_THAT(Stored("Wines", "Total_Bottles"), ElementsAre("6"));
   program.Start();
   ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
-  program.Press({"alt+w", "h", "u"});
+  program.Press({"alt+w", "c", "u"});
   ASSERT_TRUE(program.Sees_Window("Select Wine to Uncork"));
   program.Press({"space", "alt+u"});
   ASSERT_TRUE(program.Sees_Window("WINE UNCORKED"));

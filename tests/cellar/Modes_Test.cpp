@@ -2,7 +2,11 @@
 // pick to the button, to other screens and back.
 
 #include <QAbstractItemView>
+#include <QRegularExpression>
+#include <algorithm>
 #include <functional>
+#include <map>
+#include <set>
 
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Guard.h"
@@ -84,6 +88,30 @@ class Modes : public Cellar_Program {
     Settle_Events();
   }
 };
+
+TEST_F(Modes, Mnemonics_are_the_same_in_each_and_no_two_alike) {
+  Put_Wine(Sample_Wine());
+  std::map<QString, QString> kept;
+  const QRegularExpression mnemonic("&([^&])");
+  for (const char* entry : {"Wine_Add", "Wine_Mod", "Wine_Uncork", "Wine_Del"}) {
+    Start_With(entry);
+    if (entry != std::string("Wine_Add")) Pick_Wine(1);
+    std::set<QString> letters;
+    for (const QWidget* bearer : Find("Wine_Form").findChildren<QWidget*>()) {
+      const QString text = bearer->property("text").toString();
+      const auto match = mnemonic.match(text);
+      if (!match.hasMatch() || bearer->objectName().isEmpty()) continue;
+      EXPECT_TRUE(letters.insert(match.captured(1).toUpper()).second) << text.toStdString();
+      const QString caption = bearer->objectName() + " " + QString(text).remove('&');
+      EXPECT_EQ(kept.try_emplace(caption, text).first->second, text);
+    }
+  }
+  for (const char* add : {"Winery Add", "Label Add", "Variety Add", "Classification Add"}) {
+    EXPECT_TRUE(std::ranges::any_of(kept, [add](const auto& one) {
+      return QString(one.first).replace('_', ' ').remove("Command ").startsWith(add);
+    })) << add;
+  }
+}
 
 TEST_F(Modes, Adding) {
   const Text no_country = "SAVE disabled; Country; Country; locked locked locked; W...p; ";

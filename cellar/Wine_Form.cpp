@@ -19,7 +19,7 @@ constexpr const char* pick_first = "Please Select a Wine from the Cellar first";
 }  // namespace
 
 Wine_Form::Wine_Form()
-    : Cellar_Wine_Screen("Wine_Form", "Wine Information", {8, 30, 28, 20, 38, 10, 7, 7, 7},
+    : Cellar_Wine_Screen("Wine_Form", "Wine Information", {7, 20, 20, 16, 22, 9, 5, 5, 5},
                          {"Vintage", "Winery", "Label", "Wine Region", "Grape Variety", "Color",
                           "Merit", "Peak", "Stock"}) {
   for (Forms::Placed_Control* field : Gate_Fields()) field->Set_Tag("0");

@@ -23,10 +23,12 @@ Cellar_Names_Form::Cellar_Names_Form()
 
 void Cellar_Names_Form::Lay_Out() {
   constexpr int name_width = 32;
-  Set_Content(Forms::Column(
-      {Forms::Fields({{Cellar1_Name_Label, Forms::Place(Cellar1_Name_Text).Wide(name_width)},
-                      {Cellar2_Label, Forms::Place(Cellar2_Name_Text).Wide(name_width)}}),
-       Forms::Stretch(), Forms::Buttons({General_Command, Exit_Command})}));
+  Set_Content(
+      Forms::Column(
+          {Forms::Fields({{Cellar1_Name_Label, Forms::Place(Cellar1_Name_Text).Wide(name_width)},
+                          {Cellar2_Label, Forms::Place(Cellar2_Name_Text).Wide(name_width)}}),
+           Forms::Stretch()}),
+      Forms::Buttons({General_Command, Exit_Command}));
   Set_Exit(Exit_Command);
   Set_Commit(General_Command, Enter_Key::Commits);
 }

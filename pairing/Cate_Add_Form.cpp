@@ -47,8 +47,8 @@ void Cate_Add_Form::Lay_Out() {
   Set_Content(Column({Current_Maridages_Label,
                       Place(Maridages_ListView).Wide(list_width).High(list_height).Grow(), CatLabel,
                       Fields({{Cat_Language1_Label, Place(CatText).Wide(text_width)},
-                              {Cat_Language2_Label, CAT_Other_Language_Text}}),
-                      Buttons({Cat_Add_Now, Cat_Add_Cancel})}));
+                              {Cat_Language2_Label, CAT_Other_Language_Text}})}),
+              Buttons({Cat_Add_Now, Cat_Add_Cancel}));
   Set_Exit(Cat_Add_Cancel);
   Set_Commit(Cat_Add_Now, Enter_Key::Commits);
 }

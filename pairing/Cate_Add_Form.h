@@ -39,7 +39,9 @@ class Cate_Add_Form : public Command_Form {
                                        "Current Available Pairings"};
   Row_List Maridages_ListView{*this,
                               "Maridages_ListView",
-                              {{"English", 40}, {"Spanish", 40}, {"Maridage_ID", 8, true, true}}};
+                              {{"English", 40, false, false, 1},
+                               {"Spanish", 40, false, false, 1},
+                               {"Maridage_ID", 8, true, true}}};
   Forms::Label CatLabel{*this, "CatLabel", "Please type the new Category"};
   Forms::Label Cat_Language1_Label{*this, "Cat_Language1_Label", "Category in English:"};
   Forms::Text_Box CatText{*this, "CatText"};

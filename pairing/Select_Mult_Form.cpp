@@ -8,12 +8,12 @@ Select_Mult_Form::Select_Mult_Form(std::string_view name, std::string_view capti
     : List_Picker_Form(name, caption), Words(words) {
   using namespace Forms;
   constexpr int list_width = 54;
-  Set_Content(Column(
-      {Row({MSelectLab3, Recipe_Name, MSelectLab2, Stretch()}),
-       Row({Under_Heading(MSelectLab1, Cat_Number, Cat_List, list_width).Grow(), Moves_Place(),
-            Under_Heading(Label1, Selected_Number, SelectList, list_width).Grow()})
-           .Grow(),
-       Ways_Out_Place()}));
+  Set_Content(Column({Row({MSelectLab3, Recipe_Name, MSelectLab2, Stretch()}),
+                      Row({Under_Heading(MSelectLab1, Cat_Number, Cat_List, list_width).Grow(),
+                           Moves_Place(),
+                           Under_Heading(Label1, Selected_Number, SelectList, list_width).Grow()})
+                          .Grow()}),
+              Ways_Out_Place());
 }
 
 void Select_Mult_Form::Initialize_Language() {

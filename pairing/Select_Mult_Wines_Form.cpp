@@ -40,14 +40,16 @@ Select_Mult_Wines_Form::Select_Mult_Wines_Form()
 void Select_Mult_Wines_Form::Lay_Out() {
   using namespace Forms;
   constexpr int wines_width = 92;
-  Set_Content(Column(
-      {Row({Below(Country_Label, Place(Country_Combo).Wide(24)),
-            Below(Wine_Color_Label, Place(Wine_Color_Combo).Wide(14)),
-            Below(Grape_Variety_Label, Place(Grape_Variety_Combo).Wide(24)), Stretch()}),
-       Row({Under_Heading(Wines_Label, Wines_Number, Mobile_Wines_ListView, wines_width).Grow(2),
-            Moves_Place(), Under_Heading(Selected_Label, Selected_Number, SelectList).Grow()})
-           .Grow(),
-       Ways_Out_Place()}));
+  Set_Content(
+      Column(
+          {Row({Below(Country_Label, Place(Country_Combo).Wide(24)),
+                Below(Wine_Color_Label, Place(Wine_Color_Combo).Wide(14)),
+                Below(Grape_Variety_Label, Place(Grape_Variety_Combo).Wide(24)), Stretch()}),
+           Row({Under_Heading(Wines_Label, Wines_Number, Mobile_Wines_ListView, wines_width)
+                    .Grow(2),
+                Moves_Place(), Under_Heading(Selected_Label, Selected_Number, SelectList).Grow()})
+               .Grow()}),
+      Ways_Out_Place());
 }
 
 void Select_Mult_Wines_Form::Set_Up_Handlers() {

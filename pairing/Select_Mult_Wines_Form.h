@@ -49,9 +49,12 @@ class Select_Mult_Wines_Form : public Picker_Form {
   Forms::Text_Box Search_Text{*this, "Search_Text"};
   Forms::Label Wines_Label{*this, "Wines_Label", "Wines"};
   Forms::Label Wines_Number{*this, "Wines_Number"};
-  Row_List Mobile_Wines_ListView{
-      *this,
-      "Mobile_Wines_ListView",
-      {{"Wine Name", 30}, {"Country", 9}, {"Type", 12}, {"GRAPE", 20}, {"ID", 8, true, true}}};
+  Row_List Mobile_Wines_ListView{*this,
+                                 "Mobile_Wines_ListView",
+                                 {{"Wine Name", 30, false, false, 2},
+                                  {"Country", 9},
+                                  {"Type", 12},
+                                  {"GRAPE", 20, false, false, 1},
+                                  {"ID", 8, true, true}}};
   Forms::Label Selected_Label{*this, "Selected_Label", "Selected Wines"};
 };

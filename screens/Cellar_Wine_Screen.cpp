@@ -12,15 +12,15 @@ Cellar_Wine_Screen::Cellar_Wine_Screen(std::string_view name, std::string_view c
                                        const Widths& widths, std::vector<std::string> words)
     : Wine_Screen(name, caption, Wine_List::Cellar,
                   {{"Vintage", widths[0]},
-                   {"Winery", widths[1]},
-                   {"Label", widths[2]},
-                   {"Wine Region", widths[3]},
-                   {"Grape Variety", widths[4]},
+                   {"Winery", widths[1], false, false, 3},
+                   {"Label", widths[2], false, false, 3},
+                   {"Wine Region", widths[3], false, false, 1},
+                   {"Grape Variety", widths[4], false, false, 3},
                    {"Color", widths[5]},
                    {"Merit", widths[6], false, true},
                    {"Peak", widths[7], false, true},
                    {"Stock", widths[8], false, true},
-                   {"ID", 8, false, true}},
+                   {"ID", 6, false, true}},
                   std::move(words)) {
   constexpr int winery = 1;
   Wine_Cellar_ListView.Set_Search_Column(winery);
@@ -31,20 +31,24 @@ Cellar_Wine_Screen::Cellar_Wine_Screen(std::string_view name, std::string_view c
 Forms::Place Cellar_Wine_Screen::Fields_Place(const Beside& beside,
                                               const Forms::Places& over_aromas) {
   using namespace Forms;
-  constexpr int name_width = 20;
-  constexpr int number_width = 9;
-  constexpr int text_width = 22;
+  constexpr int name_width = 24;
+  constexpr int number_width = 10;
+  constexpr int text_width = 24;
+  constexpr int date_width = 20;
   const auto with_button = [&beside](Placed_Control& field, const Place& place) {
     const auto button = beside.find(&field);
     return button == beside.end() ? place : Row({place, button->second});
   };
-  const Place origin = Fields(
-      {{Winery_Label, with_button(Winery_Combo, Place(Winery_Combo).Grow().Wide(name_width))},
-       {LabelLabel, with_button(Label_Combo, Place(Label_Combo).Grow().Wide(name_width))},
-       {Variety_Label,
-        with_button(Variety_Combo, Place(Variety_Combo).Grow().Wide(name_width).High(6)).Grow()},
-       {Region_Label, Region_Combo},
-       {Country_Label, Country_Combo}});
+  const auto name = [&](Placed_Control& field) {
+    return with_button(field, Place(field).Grow().Wide(name_width));
+  };
+  const Place grapes = Place(Variety_Combo).Grow().Wide(name_width).High(7);
+  const Place origin = Fields({{Country_Label, Country_Combo},
+                               {Region_Label, Region_Combo},
+                               {Winery_Label, name(Winery_Combo)},
+                               {LabelLabel, name(Label_Combo)},
+                               {Variety_Label, with_button(Variety_Combo, grapes).Grow()},
+                               {Classification_Label, name(Classification_Combo)}});
   const Place bottle = Fields({{Vintage_Label, Place(Vintage_Combo).Wide(number_width)},
                                {Color_Label, Color_Combo},
                                {Merit_Label, Merit_Combo},
@@ -53,18 +57,20 @@ Forms::Place Cellar_Wine_Screen::Fields_Place(const Beside& beside,
                                {Alcohol_Label, Alcohol_Text},
                                {Price_Label, Price_Text},
                                {Peak_Year_Label, Peak_Year_Combo}});
-  const Place list = Place(Pairing_List).High(2).Grow();
-  const auto pairing_button = beside.find(&Pairing_List);
-  const Place pairings =
-      pairing_button == beside.end() ? list : Column({list, pairing_button->second});
+  Places pairing_heading{Pairing_Label, Stretch()};
+  if (const auto button = beside.find(&Pairing_List); button != beside.end()) {
+    pairing_heading.push_back(button->second);
+  }
+  Pairing_Label.Set_Buddy(Pairing_List);
+  const auto text = [](Forms::Text_Box& box) {
+    return Place(box).Wide(text_width).High(3, 1).Grow();
+  };
   const Place notes =
-      Fields({{Description_Label, Place(Description_Text).Wide(text_width).High(2).Grow()},
-              {Pairing_Label, pairings.Grow()},
-              {Classification_Label,
-               with_button(Classification_Combo, Place(Classification_Combo).Grow())},
-              {Comments_Label, Place(Comments_Text).High(2).Grow()},
-              {Last_Day_Uncorked_Label, Last_Date_Uncorked_Text},
-              {Date_Added_Label, Date_Added_Text}});
+      Column({Below(Description_Label, text(Description_Text)).Grow(3), Row(pairing_heading),
+              Place(Pairing_List).Wide(text_width).High(5, 5).Grow(5),
+              Below(Comments_Label, text(Comments_Text)).Grow(3),
+              Below(Last_Day_Uncorked_Label, Place(Last_Date_Uncorked_Text).Wide(date_width)),
+              Below(Date_Added_Label, Place(Date_Added_Text).Wide(date_width))});
   Places aromas = over_aromas;
   aromas.insert(aromas.begin(), Boxes.Aroma_Place());
   const Place marks = Row({Boxes.Taste_Place(), One_Place(aromas)});

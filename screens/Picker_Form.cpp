@@ -152,7 +152,6 @@ bool Picker_Form::Show_Found_Wines() {
 
 Forms::Place Picker_Form::Under_Heading(Forms::Label& heading, Forms::Label& number,
                                         Forms::Placed_Control& list, int characters) {
-  constexpr int list_height = 22;
   heading.Set_Buddy(list);
   return Forms::Column({Forms::Row({heading, Forms::Stretch(), number}),
                         Forms::Place(list).Wide(characters).High(list_height).Grow()});

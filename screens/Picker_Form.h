@@ -58,6 +58,7 @@ class Picker_Form : public Command_Form {
 
   // ---- places ----
 
+  static constexpr int list_height = 22;
   /// A list below its heading, with the number of its entries at the right.
   static Forms::Place Under_Heading(Forms::Label& heading, Forms::Label& number,
                                     Forms::Placed_Control& list, int characters = 44);

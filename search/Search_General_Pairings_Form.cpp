@@ -22,20 +22,19 @@ Search_General_Pairings_Form::Search_General_Pairings_Form()
 
 void Search_General_Pairings_Form::Lay_Out() {
   using namespace Forms;
-  constexpr int list_height = 10;
   Variety_Name_List_Label.Set_Buddy(Variety_Name_ListView);
   Regions_List_Label.Set_Buddy(Regions_ListView);
-  Set_Content(Column(
-      {Row({Under_Heading(MSelectLab1, Cat_Number, Cat_List).Grow(), Moves_Place(),
-            Under_Heading(Label1, Selected_Number, SelectList).Grow()})
-           .Grow(),
-       Row({Column({Variety_Name_List_Label, Place(Variety_Name_ListView).High(list_height).Grow()})
-                .Grow(),
-            Column({Row({Regions_List_Label, Stretch(), Recipe_Name}),
-                    Place(Regions_ListView).High(list_height).Grow()})
-                .Grow()})
-           .Grow(),
-       Ways_Out_Place()}));
+  Set_Content(
+      Column({Row({Under_Heading(MSelectLab1, Cat_Number, Cat_List).Grow(), Moves_Place(),
+                   Under_Heading(Label1, Selected_Number, SelectList).Grow()})
+                  .Grow(),
+              Row({Column({Variety_Name_List_Label, Place(Variety_Name_ListView).High(10).Grow()})
+                       .Grow(),
+                   Column({Row({Regions_List_Label, Stretch(), Recipe_Name}),
+                           Place(Regions_ListView).High(10).Grow()})
+                       .Grow()})
+                  .Grow()}),
+      Ways_Out_Place());
 }
 
 void Search_General_Pairings_Form::Form_Load() {

@@ -31,10 +31,12 @@ class Search_General_Pairings_Form : public List_Picker_Form {
   Row_List Variety_Name_ListView{
       *this,
       "Variety_Name_ListView",
-      {{"Grape Variety Name", 26}, {"Color", 10}, {"Vaiety_ID", 8, true, true}}};
+      {{"Grape Variety Name", 26, false, false, 1}, {"Color", 10}, {"Vaiety_ID", 8, true, true}}};
   Forms::Label Recipe_Name{*this, "Recipe_Name"};
   Forms::Label Regions_List_Label{*this, "Regions_List_Label",
                                   "Regions producing the Variety Grape"};
   Row_List Regions_ListView{
-      *this, "Regions_ListView", {{"Region", 26}, {"Country", 9}, {"Region_ID", 8, true, true}}};
+      *this,
+      "Regions_ListView",
+      {{"Region", 26, false, false, 1}, {"Country", 9}, {"Region_ID", 8, true, true}}};
 };

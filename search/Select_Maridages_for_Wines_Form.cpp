@@ -34,14 +34,14 @@ void Select_Maridages_for_Wines_Form::Lay_Out() {
   constexpr int name_width = 60;
   Selection_Label.Set_Buddy(Selection_Option_List);
   Wine_Name_Label.Set_Buddy(Wine_Name_Text);
-  const Place options =
-      Column({Selection_Label, Place(Selection_Option_List).Wide(options_width).Grow()});
-  Set_Content(Column(
-      {Row({Wine_Name_Label, Place(Wine_Name_Text).Wide(name_width).Grow()}),
-       Row({options, Under_Heading(Pairings_Label, Cat_Number, Cat_List).Grow(), Moves_Place(),
-            Under_Heading(Selected_Label, Selected_Number, SelectList).Grow()})
-           .Grow(),
-       Ways_Out_Place()}));
+  const Place options = Column(
+      {Selection_Label, Place(Selection_Option_List).Wide(options_width).High(list_height).Grow()});
+  Set_Content(Column({Row({Wine_Name_Label, Place(Wine_Name_Text).Wide(name_width).Grow()}),
+                      Row({options, Under_Heading(Pairings_Label, Cat_Number, Cat_List).Grow(),
+                           Moves_Place(),
+                           Under_Heading(Selected_Label, Selected_Number, SelectList).Grow()})
+                          .Grow()}),
+              Ways_Out_Place());
 }
 
 // ---- loading ----

@@ -11,7 +11,7 @@
 // and keep the column.
 Wine_Search_Results_Form::Wine_Search_Results_Form()
     : Cellar_Wine_Screen(
-          "Wine_Search_Results_Form", "Wine Information", {8, 22, 18, 14, 20, 9, 7, 7, 7},
+          "Wine_Search_Results_Form", "Wine Information", {7, 16, 14, 12, 16, 9, 5, 5, 5},
           {"Vintage", "Winery", "Label", "Region", "Variety", "Color", "Merit", "Peak", "Stock"}) {
   Lay_Out();
   Wine_Cellar_ListView.ItemClick = [this](Forms::List_Item item) {
@@ -24,20 +24,18 @@ Wine_Search_Results_Form::Wine_Search_Results_Form()
 
 void Wine_Search_Results_Form::Lay_Out() {
   using namespace Forms;
-  constexpr int opening_width = 1264;
-  constexpr int list_height = 14;
   constexpr int requested_width = 22;
   Requested_Pairings_Label.Set_Buddy(Requested_Pairings_List);
   const Place found =
       Column({Row({Current_Cellar_Label, One_Place({Message_Label}).Grow(), Wines_Number}),
-              Place(Wine_Cellar_ListView).High(list_height).Grow()});
-  const Place requested = Column(
-      {Requested_Pairings_Label, Place(Requested_Pairings_List).Wide(requested_width).Grow()});
-  Set_Content(Column({Above_Below(Row({found.Grow(), requested}).Grow(), Fields_Place({})).Grow(),
-                      Buttons({Multi_Functional_Command, Exit_Command})}));
+              Place(Wine_Cellar_ListView).High(12, 4).Grow()});
+  const Place requested =
+      Column({Requested_Pairings_Label,
+              Place(Requested_Pairings_List).Wide(requested_width).High(12, 4).Grow()});
+  Set_Content(Above_Below(Row({found.Grow(), requested}).Grow(), Fields_Place({})),
+              Buttons({Multi_Functional_Command, Exit_Command}));
   Set_Exit(Exit_Command);
   Set_Commit(Multi_Functional_Command);
-  Set_Width(opening_width);
 }
 
 // ---- loading ----

@@ -1,9 +1,9 @@
 #include "platform/forms/Form.h"
 
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "platform/forms/Command_Button.h"
@@ -15,6 +15,7 @@
 #include "platform/forms/Message_Box.h"
 #include "platform/forms/Qt_Text.h"
 #include "platform/forms/Screens_Inside.h"
+#include "platform/forms/Window_Place.h"
 #include "platform/run_time/Guard.h"
 
 namespace Forms {
@@ -25,6 +26,24 @@ bool Same_Name(std::string_view a, std::string_view b) {
   return To_Qt(a).compare(To_Qt(b), Qt::CaseInsensitive) == 0;
 }
 
+// A form never needs more room than the desktop has: what does not fit can be scrolled to.
+void Make_Parts(Form_Data& form) {
+  auto* parts = new QWidget(form.window);
+  auto* area = new QScrollArea(parts);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidgetResizable(true);
+  area->setFocusPolicy(Qt::NoFocus);
+  form.content = new QWidget(area);
+  area->setWidget(form.content);
+  form.below = new QWidget(parts);
+  auto* column = new QVBoxLayout(parts);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(area, 1);
+  column->addWidget(form.below);
+  form.window->setCentralWidget(parts);
+}
+
 }  // namespace
 
 Form::Form(std::string_view name, std::string_view caption) : data_(std::make_unique<Form_Data>()) {
@@ -32,14 +51,7 @@ Form::Form(std::string_view name, std::string_view caption) : data_(std::make_un
   data_->window = new Form_Window(*this);
   data_->window->setObjectName(To_Qt(name));
   Set_Caption(caption);
-  // A form never needs more room than the desktop has: what does not fit can be scrolled to.
-  auto* area = new QScrollArea(data_->window);
-  area->setFrameShape(QFrame::NoFrame);
-  area->setWidgetResizable(true);
-  area->setFocusPolicy(Qt::NoFocus);
-  data_->content = new QWidget(area);
-  area->setWidget(data_->content);
-  data_->window->setCentralWidget(area);
+  Make_Parts(*data_);
 }
 
 Form::~Form() {
@@ -67,7 +79,7 @@ void Form::Set_Enabled(bool enabled) {
 
 void Form::Set_Width(int pixels) {
   data_->opening_width = pixels;
-  if (data_->was_shown) Fit_To_Desktop(*data_->window, pixels);
+  if (data_->was_shown) Fit_To_Desktop(*data_);
 }
 
 bool Form::Is_Live() const { return data_->loaded && !data_->unloaded && !Process_Has_Ended(); }
@@ -93,12 +105,12 @@ void Form::Show() {
   if (first_time) {
     Assign_Mnemonics(*this);
     Show_Now();  // what changes on a window in sight is laid out and painted twice
-    Fit_To_Desktop(*data_->window, data_->opening_width);
+    Fit_To_Desktop(*data_);
     Focus_First(*data_);
   }
   data_->window->show();
   // How high a label is in another script shows only now.
-  if (first_time) Fit_To_Desktop(*data_->window, data_->opening_width);
+  if (first_time) Fit_To_Desktop(*data_);
   data_->window->raise();
   data_->window->activateWindow();
   Focus_Watch::The().Shown(*this);
@@ -132,8 +144,8 @@ Control& Form::Find_Control(std::string_view name) const {
 }
 
 // The letters of the design hold in every mode that the form is shown in.
-void Form::Set_Content(const Place& content) {
-  Build_Layout(*data_, content);
+void Form::Set_Content(const Place& content, const Place& below) {
+  Build_Layout(*data_, content, below);
   Assign_Mnemonics(*this);
 }
 

@@ -40,8 +40,8 @@ class Form {
   bool Visible() const;
   /// A form that is not enabled takes no input. No control of it raises LostFocus by that.
   void Set_Enabled(bool enabled);
-  /// The width in which the window opens, in pixels of an unscaled desktop, as far as the desktop
-  /// has them; the user can change it.
+  /// The width in which the window opens, in pixels of an unscaled desktop: more where the content
+  /// needs more, less where the desktop has less. The user can change it.
   void Set_Width(int pixels);
   /// All captions were set anew, as in another language: the mnemonics are chosen for these. A
   /// single caption that changes moves the mnemonic of no other control.
@@ -78,8 +78,10 @@ class Form {
   bool Takes_Input() const;
 
  protected:
-  /// The layout of everything that is seen. Called once, at the end of the constructor.
-  void Set_Content(const Place& content);
+  /// The layout of everything that is seen. Called once, at the end of the constructor. What does
+  /// not fit the desktop can be scrolled to, but for what stands `below`, which stays in sight: the
+  /// buttons that commit and leave.
+  void Set_Content(const Place& content, const Place& below = Row({}));
   /// The way out: the window's close button does what this button or entry does, and so does Esc,
   /// unless that ends the run.
   enum class Exit { Leaves, Ends_The_Run };

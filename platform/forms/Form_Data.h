@@ -36,7 +36,9 @@ struct Form_Data {
   std::string caption;
   std::string tag;
   Form_Window* window = nullptr;
-  QWidget* content = nullptr;      ///< what the layout fills; parent of the controls' widgets
+  QWidget* content = nullptr;  ///< what scrolls if the desktop is too small for it; parent of the
+                               ///< controls' widgets
+  QWidget* below = nullptr;    ///< what always stays in sight
   std::vector<Control*> controls;  ///< in the order of their making
   std::vector<QPointer<QWidget>> reading_order;
   Command_Button* exit_button = nullptr;
@@ -55,6 +57,7 @@ struct Form_Data {
   bool hidden_while_loading = false;  // the Show that made it load leaves it hidden
   bool was_shown = false;
   int opening_width = 0;  // 0: as wide as the layout asks for
+  bool has_growing_list = false;
 };
 
 /// The form whose window, or a popup of whose window, `widget` belongs to; nullptr for others.

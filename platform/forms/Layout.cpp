@@ -33,8 +33,11 @@ Place Place::Wide(int characters) const {
   return Changed([&](Place_Data& data) { data.characters = characters; });
 }
 
-Place Place::High(int lines) const {
-  return Changed([&](Place_Data& data) { data.lines = lines; });
+Place Place::High(int lines, int at_least) const {
+  return Changed([&](Place_Data& data) {
+    data.lines = lines;
+    data.least_lines = at_least;
+  });
 }
 
 Place Place::Centred() const {

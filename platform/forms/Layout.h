@@ -23,10 +23,12 @@ class Place {
 
   /// Takes `share` parts of the room that is left over.
   Place Grow(int share = 1) const;
-  /// At least so many characters wide, in the desktop's font; a button exactly so wide.
+  /// So many characters wide, in the desktop's font; where the desktop is too small for all that a
+  /// form asks for, fields and lists get narrower. A button is exactly so wide, or as its caption.
   Place Wide(int characters) const;
-  /// So many lines of text high; at least so many where the place grows.
-  Place High(int lines) const;
+  /// So many lines of text high. Where the place grows it asks for them, and has at least
+  /// `at_least` of them on a small desktop.
+  Place High(int lines, int at_least = 3) const;
   /// In the middle of its room, or at its right end, instead of filling it.
   Place Centred() const;
   Place At_Right() const;
@@ -54,7 +56,7 @@ Place Fields(const std::vector<Field_Line>& lines);
 Place Below(Label& label, const Place& field);
 /// Places side by side in `columns` equal columns, line by line.
 Place Grid(int columns, const Places& places);
-/// Buttons of equal width at the right end of their row.
+/// Buttons at the right end of their row, equally wide unless a caption needs more.
 Place Buttons(const Places& buttons);
 /// What a frame holds. The frame hides and shows it.
 Place Group(Frame& frame, const Place& content);

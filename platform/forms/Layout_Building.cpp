@@ -1,20 +1,16 @@
 #include "platform/forms/Layout_Building.h"
 
+#include <QAbstractItemView>
 #include <QBoxLayout>
-#include <QFontMetrics>
 #include <QGridLayout>
 #include <QLabel>
-#include <QMainWindow>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QScreen>
-#include <QScrollArea>
 #include <QSplitter>
 #include <algorithm>
 #include <utility>
 
 #include "platform/forms/Form_Data.h"
 #include "platform/forms/Place_Data.h"
+#include "platform/forms/Place_Sizes.h"
 
 namespace Forms {
 
@@ -22,16 +18,10 @@ namespace {
 
 constexpr int block_distance = 18;
 constexpr int frame_margin = 8;
-constexpr QSize window_frame(16, 48);  // generous: the window manager draws it
+constexpr int button_characters = 12;
 constexpr int label_distance = 10;
 constexpr int part_distance = 6;
-
-/// A part of a splitter that takes no more room at first than it needs.
-class Least_Part : public QWidget {
- public:
-  using QWidget::QWidget;
-  QSize sizeHint() const override { return minimumSizeHint(); }
-};
+constexpr int above_first_line = 4;  ///< in a list or a box of several lines
 
 /// Builds one form's layout, reading the places in order.
 class Builder {
@@ -100,8 +90,9 @@ class Builder {
       box.addStretch(data.share);
     } else if (data.kind == Place_Kind::Space) {
       box.addSpacing(parent->fontMetrics().height());
-    } else if (QWidget* widget = Widget_Of(place, parent)) {
-      box.addWidget(widget, data.share, data.alignment);
+    } else if (QLayoutItem* item = Item_At(place, parent)) {
+      box.addItem(item);
+      box.setStretch(box.count() - 1, data.share);
     } else {
       box.addLayout(Layout_Of(place, parent), data.share);
     }
@@ -109,12 +100,22 @@ class Builder {
 
   void Add(QGridLayout& grid, const Place& place, QWidget* parent, int row, int column) {
     const Place_Data& data = *place.Data();
-    if (QWidget* widget = Widget_Of(place, parent)) {
-      grid.addWidget(widget, row, column, data.alignment);
+    if (QLayoutItem* item = Item_At(place, parent)) {
+      grid.addItem(item, row, column, 1, 1, data.alignment);
     } else {
       grid.addLayout(Layout_Of(place, parent), row, column);
     }
     if (data.share > 0) grid.setRowStretch(row, data.share);
+  }
+
+  // What stands in a layout for a widget that takes a place of itself; nullptr where it takes a
+  // layout.
+  QLayoutItem* Item_At(const Place& place, QWidget* parent) {
+    QWidget* widget = Widget_Of(place, parent);
+    if (widget == nullptr) return nullptr;
+    QLayoutItem* item = Item_Of(*place.Data(), *widget);
+    item->setAlignment(place.Data()->alignment);
+    return item;
   }
 
   // The widget that takes a place of itself; nullptr where it takes a layout.
@@ -143,16 +144,6 @@ class Builder {
   QWidget* Settle(const Place_Data& data, QWidget* parent) {
     QWidget* widget = data.control->Widget();
     if (widget->parentWidget() != parent) widget->setParent(parent);
-    const QFontMetrics metrics = widget->fontMetrics();
-    if (data.characters > 0) {
-      const int width = (data.characters + 2) * metrics.averageCharWidth();
-      widget->setMinimumWidth(width);
-      if (qobject_cast<const QPushButton*>(widget) != nullptr) widget->setMaximumWidth(width);
-    }
-    if (data.lines > 0) {
-      const int height = (data.lines * (metrics.lineSpacing() + 1)) + 8;
-      data.share > 0 ? widget->setMinimumHeight(height) : widget->setFixedHeight(height);
-    }
     if (shares_its_place_) {
       QSizePolicy policy = widget->sizePolicy();
       policy.setRetainSizeWhenHidden(true);
@@ -163,6 +154,9 @@ class Builder {
       widget->raise();
     }
     data.control->Set_Placed();
+    if (data.share > 0 && qobject_cast<const QAbstractItemView*>(widget) != nullptr) {
+      form_.has_growing_list = true;
+    }
     form_.reading_order.emplace_back(widget);
     return widget;
   }
@@ -171,12 +165,9 @@ class Builder {
     auto* splitter = new QSplitter(orientation, parent);
     splitter->setChildrenCollapsible(false);
     for (const Place& place : places) {
-      QWidget* part = Widget_Of(place, splitter);
-      if (part == nullptr) {
-        part = place.Data()->share > 0 ? new QWidget(splitter) : new Least_Part(splitter);
-        part->setLayout(Layout_Of(place, part));
-        part->layout()->setContentsMargins(0, 0, 0, 0);
-      }
+      auto* part = new QWidget(splitter);
+      part->setLayout(Layout_Of(place, part));
+      part->layout()->setContentsMargins(0, 0, 0, 0);
       splitter->addWidget(part);
       splitter->setStretchFactor(splitter->count() - 1, place.Data()->share);
     }
@@ -190,6 +181,7 @@ class Builder {
       const int row = static_cast<int>(i / 2);
       QWidget* label = Widget_Of(places[i], parent);
       const bool high = places[i + 1].Data()->lines > 1 || places[i + 1].Data()->share > 0;
+      if (high) label->setContentsMargins(0, above_first_line, 0, 0);
       grid->addWidget(label, row, 0, high ? Qt::AlignTop : Qt::AlignVCenter);
       Add(*grid, places[i + 1], parent, row, 1);
       Join(places[i], places[i + 1]);
@@ -239,11 +231,7 @@ class Builder {
     auto* row = new QHBoxLayout;
     row->setSpacing(part_distance);
     row->addStretch(1);
-    for (const Place& place : places) {
-      Add(*row, place, parent);
-      QWidget* button = place.Data()->control->Widget();
-      button->setMinimumWidth(14 * button->fontMetrics().averageCharWidth());
-    }
+    for (const Place& place : places) Add(*row, place.Wide(button_characters), parent);
     return row;
   }
 
@@ -251,33 +239,24 @@ class Builder {
   bool shares_its_place_ = false;  ///< what is settled now keeps its room while it is hidden
 };
 
+void Fill(QWidget& part, QLayout* layout, QMargins margins) {
+  layout->setContentsMargins(margins);
+  part.setLayout(layout);
+}
+
 }  // namespace
 
-void Build_Layout(Form_Data& form, const Place& content) {
-  QLayout* layout = Builder(form).Layout_Of(content, form.content);
-  layout->setContentsMargins(16, 12, 16, 12);
-  form.content->setLayout(layout);
+void Build_Layout(Form_Data& form, const Place& content, const Place& below) {
+  Builder builder(form);
+  Fill(*form.content, builder.Layout_Of(content, form.content), {16, 12, 16, 12});
+  Fill(*form.below, builder.Layout_Of(below, form.below), {16, 0, 16, 12});
+  form.below->setVisible(!below.Data()->places.empty());
   QWidget* before = nullptr;
   for (const auto& widget : form.reading_order) {
     if (widget->focusPolicy() == Qt::NoFocus) continue;
     if (before != nullptr) QWidget::setTabOrder(before, widget);
     before = widget;
   }
-}
-
-void Fit_To_Desktop(QMainWindow& window, int width) {
-  const auto* area = static_cast<QScrollArea*>(window.centralWidget());
-  const QWidget& content = *area->widget();
-  QSize wanted =
-      content.sizeHint().expandedTo(content.minimumSize()).expandedTo(content.minimumSizeHint());
-  if (!window.menuBar()->actions().isEmpty()) {
-    const QSize bar = window.menuBar()->sizeHint();
-    wanted = QSize(qMax(wanted.width(), bar.width()), wanted.height() + bar.height());
-  }
-  if (width > 0) wanted.setWidth(width);
-  const QRect desktop = window.screen()->availableGeometry();
-  window.resize(wanted.boundedTo(desktop.size() - window_frame));
-  window.move(desktop.center() - QPoint(window.width() / 2, window.height() / 2));
 }
 
 void Focus_First(Form_Data& form) {

@@ -53,13 +53,16 @@ class List_Item {
   int row_;
 };
 
-/// A column of the design. Its width counts characters; the column of the key is hidden; one of
-/// numbers stands at the right, with its header. It sorts as text like every other.
+/// A column of the design. Its width counts characters, and is never less than its header needs;
+/// the column of the key is hidden; one of numbers stands at the right, with its header. It sorts
+/// as text like every other. The width that the list has to spare, or lacks, goes to the columns
+/// with a share, in these parts; where there are none, the last one takes what is spare.
 struct List_Column {
   std::string text;
   int characters = 12;
   bool hidden = false;
   bool number = false;
+  int share = 0;
 };
 
 /// What ColumnClick tells: the header's place, counted from 1, and its text.

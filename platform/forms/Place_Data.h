@@ -30,6 +30,7 @@ struct Place_Data {
   int share = 0;
   int characters = 0;
   int lines = 0;
+  int least_lines = 0;
   int columns = 1;
   Qt::Alignment alignment;
 };

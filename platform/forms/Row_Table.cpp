@@ -4,17 +4,23 @@
 #include <QFont>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <algorithm>
+#include <numeric>
 
 #include "platform/forms/Empty_Text.h"
 #include "platform/forms/Form_Texts.h"
 #include "platform/forms/List_Common.h"
 #include "platform/forms/List_Rows.h"
+#include "platform/forms/Place_Sizes.h"
 #include "platform/forms/Qt_Text.h"
 #include "platform/forms/Sort_Menu.h"
 
 namespace Forms {
 
 namespace {
+
+constexpr int beside_cell = 2;    ///< characters' width that a cell's margins take
+constexpr int least_column = 10;  ///< characters of a column that has to give way
 
 QVariant Alignment(const List_Column& column) {
   if (!column.number) return {};
@@ -101,11 +107,35 @@ Row_View::Row_View(QWidget* parent, List_View& list, Row_Model& model)
 }
 
 void Row_View::Show_Columns(const std::vector<List_Column>& columns) {
-  const int character = fontMetrics().averageCharWidth();
+  shares_.clear();
   for (std::size_t i = 0; i < columns.size(); ++i) {
     const int section = static_cast<int>(i);
-    header()->resizeSection(section, (columns[i].characters + 3) * character);
+    const int wide = Width_Of_Characters(*this, columns[i].characters + beside_cell);
+    header()->resizeSection(section, std::max(wide, header()->sectionSizeHint(section)));
     setColumnHidden(section, columns[i].hidden);
+    shares_.push_back(columns[i].hidden ? 0 : columns[i].share);
+  }
+  header()->setStretchLastSection(std::ranges::count(shares_, 0) == std::ssize(shares_));
+}
+
+void Row_View::resizeEvent(QResizeEvent* event) {
+  QTreeView::resizeEvent(event);
+  Fill_Width();
+}
+
+// What the one column cannot take, because it would get too narrow, is left to the next ones.
+void Row_View::Fill_Width() {
+  const int least = Width_Of_Characters(*this, least_column);
+  int spare = viewport()->width() - header()->length();
+  int parts = std::accumulate(shares_.begin(), shares_.end(), 0);
+  for (int section = 0; parts > 0 && section < header()->count(); ++section) {
+    const int share = shares_[static_cast<std::size_t>(section)];
+    if (share == 0) continue;
+    const int before = header()->sectionSize(section);
+    const int now = std::max(before + (spare * share / parts), std::min(before, least));
+    header()->resizeSection(section, now);
+    spare -= now - before;
+    parts -= share;
   }
 }
 

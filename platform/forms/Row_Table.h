@@ -43,6 +43,7 @@ class Row_View : public QTreeView {
  public:
   Row_View(QWidget* parent, List_View& list, Row_Model& model);
 
+  /// Gives the columns their first widths.
   void Show_Columns(const std::vector<List_Column>& columns);
   /// Selects the rows at these places, in rising order, and no others, as code does: nobody is
   /// told.
@@ -64,8 +65,10 @@ class Row_View : public QTreeView {
   void inputMethodEvent(QInputMethodEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void Fill_Width();
   QItemSelection Ranges_Of(const std::vector<int>& places) const;
   static bool Is_Menu_Key(const QKeyEvent& event);
   QPoint Below_Header() const;
@@ -86,6 +89,7 @@ class Row_View : public QTreeView {
   List_View::Identity pressed_row_;
   bool second_click_ = false;  ///< letting go of the button that is down ends a double click
   bool selecting_ = false;
+  std::vector<int> shares_;  ///< by column, of the width that is spare
 };
 
 }  // namespace Forms

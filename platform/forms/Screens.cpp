@@ -186,6 +186,14 @@ void Register(std::string_view name, Factory factory) {
 
 void Set_Main(std::string_view name) { The_Registry().main = name; }
 
+std::vector<std::string> Names_For_Tests() {
+  std::vector<std::string> names;
+  for (const auto& [name, entry] : The_Registry().entries) {
+    if (entry.factory) names.push_back(name);
+  }
+  return names;
+}
+
 void Clear_For_Tests() {
   Registry& registry = The_Registry();
   registry.buried.clear();

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "platform/forms/Form.h"
 
@@ -72,6 +73,9 @@ void Register(std::string_view name) {
 
 /// The screen that is shown when a handler ends with no window visible.
 void Set_Main(std::string_view name);
+
+/// For tests: the names of all screens that are registered.
+std::vector<std::string> Names_For_Tests();
 
 /// For tests: unloads every screen without running Form_Unload, and forgets tags. The registered
 /// factories stay.

@@ -1,0 +1,96 @@
+// What holds on every screen, in every language, whatever the desktop's font.
+#include "platform/forms/Form_Data.h"
+#include "tests/support/Every_Screen.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+
+namespace {
+
+constexpr const char* japanese_font = "Noto Sans CJK JP";
+constexpr QSize desktop(1280, 720);
+constexpr QSize window_frame(16, 48);
+
+std::string Name_of(const QWidget* widget) { return widget->objectName().toStdString(); }
+
+std::string As_Text(QSize size) {
+  return std::to_string(size.width()) + " x " + std::to_string(size.height());
+}
+
+template <class Kind>
+std::vector<Kind*> Seen_in(Forms::Form& form) {
+  std::vector<Kind*> seen;
+  for (Kind* widget : form.Window()->findChildren<Kind*>()) {
+    if (widget->isVisible()) seen.push_back(widget);
+  }
+  return seen;
+}
+
+void Expect_Window_Fits(Forms::Form& form) {
+  const QSize size = form.Window()->size();
+  EXPECT_EQ(size, size.boundedTo(desktop - window_frame)) << As_Text(size);
+}
+
+void Expect_Only_Lists_Scroll(Forms::Form& form) {
+  for (const QScrollBar* bar : Seen_in<QScrollBar>(form)) {
+    bool of_a_list = false;
+    for (const QWidget* part = bar; part != nullptr; part = part->parentWidget()) {
+      of_a_list = of_a_list || qobject_cast<const QAbstractItemView*>(part) != nullptr ||
+                  qobject_cast<const QPlainTextEdit*>(part) != nullptr;
+    }
+    EXPECT_TRUE(of_a_list) << "the form scrolls by " << bar->maximum();
+  }
+}
+
+void Expect_Whole(const QWidget* widget, QSize needed) {
+  EXPECT_EQ(widget->size(), widget->size().expandedTo(needed))
+      << Name_of(widget) << " has " << As_Text(widget->size()) << " and needs " << As_Text(needed);
+}
+
+void Expect_Captions_Are_Whole(Forms::Form& form) {
+  for (const QLabel* label : Seen_in<QLabel>(form)) {
+    if (label->text().isEmpty()) continue;
+    Expect_Whole(label, label->wordWrap() ? QSize(0, label->heightForWidth(label->width()))
+                                          : label->minimumSizeHint());
+  }
+  for (const QAbstractButton* button : Seen_in<QAbstractButton>(form)) {
+    if (!button->text().isEmpty()) Expect_Whole(button, button->minimumSizeHint());
+  }
+}
+
+void Expect_Controls_Are_Named_And_In_Sight(Forms::Form& form) {
+  const QRect window = form.Window()->rect();
+  for (const Forms::Control* control : form.Data().controls) {
+    const auto* placed = dynamic_cast<const Forms::Placed_Control*>(control);
+    if (placed == nullptr || !placed->Widget()->isVisible()) continue;
+    const QWidget* widget = placed->Widget();
+    EXPECT_FALSE(widget->accessibleName().isEmpty()) << Name_of(widget);
+    const QRect place(widget->mapTo(form.Window(), QPoint(0, 0)), widget->size());
+    EXPECT_TRUE(window.contains(place)) << Name_of(widget) << " is out of sight";
+  }
+}
+
+void Expect_Fits(Forms::Form& form) {
+  Expect_Window_Fits(form);
+  Expect_Only_Lists_Scroll(form);
+  Expect_Captions_Are_Whole(form);
+  Expect_Controls_Are_Named_And_In_Sight(form);
+}
+
+class Screens_in : public Every_Screen, public testing::WithParamInterface<Integer> {};
+
+TEST_P(Screens_in, every_font_fit_the_smallest_desktop) {
+  Each_Screen(GetParam(), japanese_font, 11, Expect_Fits);
+  Each_Screen(GetParam(), "", 12, Expect_Fits);
+  if (GetParam() != english) return;
+  for (const int points : {9, 10, 11}) Each_Screen(english, "", points, Expect_Fits);
+}
+
+INSTANTIATE_TEST_SUITE_P(Language, Screens_in, testing::Range<Integer>(3, 10),
+                         testing::PrintToStringParamName());
+
+}  // namespace

@@ -268,6 +268,7 @@ void Measure(const std::set<std::string>& parts, const char* self, const std::st
 }  // namespace
 
 int main(int argc, char** argv) {
+  qputenv("XDG_CONFIG_HOME", "/tmp/wine_cellar_bench_settings");  // never the user's
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" SCREEN_FILE);
   // What the offscreen platform cannot do is told at every window.
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});

@@ -171,6 +171,7 @@ bool Print(const char* what, double ours, double items, double limit) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  qputenv("XDG_CONFIG_HOME", "/tmp/wine_cellar_bench_settings");  // never the user's
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const Forms::Application application(argc, argv);
   const Rows rows = Wines();

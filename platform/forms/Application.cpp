@@ -66,11 +66,13 @@ Application::Application(int& argc, char** argv) : data_(std::make_unique<Data>(
   Held_Keys::The().Begin();
   Hooks().show = Show_Failure;
   Hooks().settled = Settle;
+  Hooks().ending = Remember_Windows;
 }
 
 Application::~Application() {
   Hooks().show = [](const Run_Time_Error&) {};
   Hooks().settled = [] {};
+  Hooks().ending = [] {};
   Screens::Clear_For_Tests();
 }
 

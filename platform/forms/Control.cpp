@@ -14,6 +14,7 @@
 #include "platform/forms/Later.h"
 #include "platform/forms/Look.h"
 #include "platform/forms/Qt_Text.h"
+#include "platform/forms/Tab_Stops.h"
 
 namespace Forms {
 
@@ -35,12 +36,14 @@ void Control::Set_Enabled(bool enabled) {
   if (enabled == enabled_) return;
   enabled_ = enabled;
   Show_Enabled();
+  Settle_Tab_Stops_Later(form_);
 }
 
 void Control::Set_Visible(bool visible) {
   if (visible == visible_) return;
   visible_ = visible;
   Show_Visible();
+  Settle_Tab_Stops_Later(form_);
 }
 
 Placed_Control::Placed_Control(Form& form, std::string_view name, std::string_view caption)
@@ -115,12 +118,13 @@ void Placed_Control::Set_Tool_Tip(std::string_view text) {
 
 void Placed_Control::Show_Look() {
   Show_Later(this, [this] { Dress(*this); });
+  Settle_Tab_Stops_Later(Owner());
   Show_State();
 }
 
 std::string_view Placed_Control::State() const {
   if (back_color_ == Required_Color) return Form_Texts().required;
-  if (back_color_ == Locked_Color || Is_Locked()) return Form_Texts().locked;
+  if (Shows_As_Locked()) return Form_Texts().locked;
   if (back_color_ == Active_List_Color) return Form_Texts().to_click_next;
   return {};
 }

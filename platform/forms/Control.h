@@ -98,6 +98,7 @@ class Placed_Control : public Control {
 
   /// For this room and the tests.
   QWidget* Widget() const { return widget_; }
+  bool Shows_As_Locked() const { return back_color_ == Locked_Color || Is_Locked(); }
   bool Is_Placed() const { return placed_; }
   void Set_Placed();
   void Set_Label_Caption(std::string_view caption);

@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QHelpEvent>
 
 #include "platform/forms/Command_Button.h"
+#include "platform/forms/Cut_Text.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/Form_Data.h"
 #include "platform/forms/Handlers.h"
@@ -192,6 +194,8 @@ bool Focus_Watch::eventFilter(QObject* object, QEvent* event) {
       return std::exchange(press_dropped_, false);
     case QEvent::Drop:
       return Filter_Drop(widget, *event);
+    case QEvent::ToolTip:
+      return Show_Cut_Text(widget, static_cast<const QHelpEvent&>(*event));
     default:
       return false;
   }

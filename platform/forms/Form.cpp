@@ -15,6 +15,7 @@
 #include "platform/forms/Message_Box.h"
 #include "platform/forms/Qt_Text.h"
 #include "platform/forms/Screens_Inside.h"
+#include "platform/forms/Window_Memory.h"
 #include "platform/forms/Window_Place.h"
 #include "platform/run_time/Guard.h"
 
@@ -56,6 +57,7 @@ Form::Form(std::string_view name, std::string_view caption) : data_(std::make_un
 
 Form::~Form() {
   Focus_Watch::The().Forget(*this);
+  Forget_Later(data_.get());
   if (data_->caller != nullptr) --data_->caller->Data().waiting_for;
   delete data_->window;
 }
@@ -106,6 +108,8 @@ void Form::Show() {
     Assign_Mnemonics(*this);
     Show_Now();  // what changes on a window in sight is laid out and painted twice
     Fit_To_Desktop(*data_);
+    Restore_Parts(*data_);
+    if (Was_Maximised(*data_)) data_->window->setWindowState(Qt::WindowMaximized);
     Focus_First(*data_);
   }
   data_->window->show();
@@ -120,6 +124,7 @@ void Form::Show() {
 void Form::Hide() {
   data_->hidden_while_loading = data_->loading;
   Focus_Watch::The().Forget(*this);
+  if (Visible()) Remember_Window(*data_);
   data_->window->hide();
   if (Form* caller = std::exchange(data_->caller, nullptr)) {
     --caller->Data().waiting_for;

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 
+#include "platform/forms/Cut_Text.h"
 #include "platform/forms/Empty_Text.h"
 #include "platform/forms/Handlers.h"
 #include "platform/forms/List_Common.h"
@@ -27,6 +28,8 @@ List_Widget::List_Widget(QWidget* parent, Item_List& list, Plain_List& entries)
     : QListView(parent), list_(list) {
   setModel(&entries);
   Go_To_Top_After_Clear(*this);
+  setItemDelegate(new Airy_Rows(this));
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setUniformItemSizes(true);
   setSelectionMode(QAbstractItemView::SingleSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "platform/forms/Cut_Text.h"
 #include "platform/forms/Empty_Text.h"
 #include "platform/forms/Form_Texts.h"
 #include "platform/forms/List_Common.h"
@@ -87,6 +88,7 @@ Row_View::Row_View(QWidget* parent, List_View& list, Row_Model& model)
     : QTreeView(parent), list_(list) {
   setModel(&model);
   Go_To_Top_After_Clear(*this);
+  setItemDelegate(new Airy_Rows(this));
   setRootIsDecorated(false);
   setItemsExpandable(false);
   setUniformRowHeights(true);

@@ -8,6 +8,7 @@
 #include "platform/forms/Form_Data.h"
 #include "platform/forms/Screens_Inside.h"
 #include "platform/forms/Soon.h"
+#include "platform/forms/Window_Memory.h"
 #include "platform/run_time/Guard.h"
 
 namespace Forms {
@@ -107,6 +108,12 @@ void Bury(Form& form) {
   if (entry == nullptr || entry->form.get() != &form) return;
   registry.buried.push_back(std::move(entry->form));
   Empty_Grave_Soon();
+}
+
+void Remember_Windows() {
+  for (const auto& [name, entry] : The_Registry().entries) {
+    if (entry.form != nullptr && entry.form->Visible()) Remember_Window(entry.form->Data());
+  }
 }
 
 void Settle_Screens() {

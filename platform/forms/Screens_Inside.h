@@ -9,6 +9,8 @@ class Form;
 void Bury(Form& form);
 /// Where a form waits: brings what was opened over it to the front, which takes the keys.
 void Pass_Focus_On(const Form& waiting);
+/// Keeps what the user made of the windows in sight.
+void Remember_Windows();
 /// The end of an outermost handler: with no window visible, the main screen is shown.
 void Settle_Screens();
 

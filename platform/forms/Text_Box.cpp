@@ -93,7 +93,9 @@ void Text_Box::Set_Text(std::string_view text) {
 void Text_Box::Show_Text() {
   const QSignalBlocker no_signals(Widget());
   if (lines_ == Lines::One) {
-    static_cast<QLineEdit*>(Widget())->setText(To_Qt(text_));
+    auto* line = static_cast<QLineEdit*>(Widget());
+    line->setText(To_Qt(text_));
+    if (!line->hasFocus()) line->setCursorPosition(0);  // a long text is read from its beginning
   } else {
     auto* sheet = static_cast<Sheet*>(Widget());
     const QString text = To_Qt(text_).replace("\r\n", "\n");

@@ -4,6 +4,7 @@
 #include <QScreen>
 
 #include "platform/forms/Form_Data.h"
+#include "platform/forms/Window_Memory.h"
 
 namespace Forms {
 
@@ -32,6 +33,8 @@ Sizes Sizes_Of(const Form_Data& form) {
 
 QSize Opening_Size(const Form_Data& form, QSize room) {
   const Sizes sizes = Sizes_Of(form);
+  const QSize remembered = Remembered_Size(form);
+  if (remembered.isValid()) return remembered.expandedTo(sizes.needed).boundedTo(room);
   QSize size = sizes.asked;
   if (form.has_growing_list) {
     const QSize share = room * part_of_desktop;
@@ -44,6 +47,7 @@ QSize Opening_Size(const Form_Data& form, QSize room) {
 }  // namespace
 
 void Fit_To_Desktop(const Form_Data& form) {
+  if (form.window->isMaximized()) return;
   const QRect desktop = form.window->screen()->availableGeometry();
   const QSize size = Opening_Size(form, desktop.size() - window_frame);
   form.window->resize(size);

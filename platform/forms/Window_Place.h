@@ -6,7 +6,8 @@ namespace Forms {
 
 struct Form_Data;
 
-/// Gives the window its first size, in the middle of the desktop. A form with a list that grows
+/// Gives the window the size that it had last, or else its first one, in the middle of the desktop,
+/// unless it is maximised. At first a form with a list that grows
 /// takes 85 % of the desktop, at most 1,600 pixels wide; others take what they ask for. No form is
 /// smaller than it needs to be, nor larger than the desktop.
 void Fit_To_Desktop(const Form_Data& form);

@@ -59,6 +59,7 @@ bool Inside_Handler() { return depth > 0; }
 void Commit_Before_Showing() { Hooks().commit(); }
 
 void End_Process(int status) {
+  if (!ended) Hooks().ending();
   ended = true;
   if (Hooks().end_process) {
     Hooks().end_process(status);

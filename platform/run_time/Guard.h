@@ -14,6 +14,8 @@ struct Guard_Hooks {
   std::function<void(const Run_Time_Error&)> show = [](const Run_Time_Error&) {};
   /// Called at the end of each outermost handler, after the commit.
   std::function<void()> settled = [] {};
+  /// Called before the process ends by End_Process, which closes nothing.
+  std::function<void()> ending = [] {};
   /// Ends the process at once with this exit status. A test's own function may return; then nothing
   /// else of the program runs until Reset_After_End_For_Tests.
   std::function<void(int status)> end_process;

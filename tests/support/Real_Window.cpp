@@ -49,6 +49,7 @@ std::unique_ptr<QProcess> Display::Begin(const QString& command,
   auto process = std::make_unique<QProcess>();
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert("DISPLAY", name_);
+  environment.insert("XDG_CONFIG_HOME", settings_.path());
   process->setProcessEnvironment(environment);
   process->start(command, arguments);
   return process;

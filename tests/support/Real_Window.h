@@ -24,6 +24,7 @@ class Display {
  private:
   QProcess server_;
   QString name_;
+  QTemporaryDir settings_;  ///< where programs on this display keep theirs, never the user's
 };
 
 /// A window manager on a display, for as long as the object lives. It passes the click on that

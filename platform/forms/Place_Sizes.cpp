@@ -31,8 +31,9 @@ class Sized_Item : public QWidgetItem {
     if (isEmpty()) return {0, 0};
     const QSize hint = QWidgetItem::sizeHint();
     const QSize least = QWidgetItem::minimumSize();
-    return {wish_.width() == 0 ? hint.width()
-                               : std::max(wish_.width(), is_button_ ? hint.width() : least.width()),
+    return {wish_.width() == 0
+                ? hint.width()
+                : std::max(wish_.width(), is_button_ ? Width_Of_Caption() : least.width()),
             wish_.height() == 0 ? hint.height() : std::max(wish_.height(), least.height())};
   }
   QSize minimumSize() const override {
@@ -44,6 +45,13 @@ class Sized_Item : public QWidgetItem {
   }
 
  private:
+  // A style may want a button far wider than its caption.
+  int Width_Of_Caption() const {
+    const auto& button = static_cast<const QPushButton&>(*wid);
+    return button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width() +
+           Width_Of_Characters(button, beside_text);
+  }
+
   QSize wish_;
   bool is_button_;
 };

@@ -3,10 +3,14 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QGroupBox>
+#include <QApplication>
+#include <QHeaderView>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QToolTip>
+#include <QTreeView>
 
 #include "platform/forms/Form_Data.h"
 
@@ -91,6 +95,37 @@ TEST_P(Screens_in, every_font_fit_the_smallest_desktop) {
   Each_Screen(GetParam(), "", 12, Expect_Fits);
   if (GetParam() != english) return;
   for (const int points : {9, 10, 11}) Each_Screen(english, "", points, Expect_Fits);
+}
+
+TEST_F(Every_Screen, A_window_opens_as_it_was_left_but_never_beyond_the_desktop) {
+  const auto column = [] {
+    return dynamic_cast<QTreeView&>(Find("Wine_Cellar_ListView")).header();
+  };
+  Start_With("Wines_Cellar_List");
+  const QSize first = Find("Wine_Form").size();
+  column()->resizeSection(2, 60);
+  Find("Wine_Form").resize(first - QSize(7, 9));
+  const int width = column()->sectionSize(2);
+  Close_Window("Wine_Form");
+  Pick("Wines_Cellar_List");
+  EXPECT_EQ(Find("Wine_Form").size(), first - QSize(7, 9));
+  EXPECT_EQ(column()->sectionSize(2), width);
+  Find("Wine_Form").resize(desktop * 2);
+  Close_Window("Wine_Form");
+  Pick("Wines_Cellar_List");
+  Expect_Window_Fits(Forms::Screen("Wine_Form").Instance());
+}
+
+TEST_F(Every_Screen, The_tip_of_a_cut_text_begins_with_the_whole_text) {
+  Start_With("Wines_Cellar_List");
+  auto& view = dynamic_cast<QTreeView&>(Find("Wine_Cellar_ListView"));
+  const QModelIndex label = view.model()->index(0, 2);
+  view.header()->resizeSection(2, 60);
+  const QPoint place = view.visualRect(label).center();
+  QHelpEvent rest(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
+  QApplication::sendEvent(view.viewport(), &rest);
+  EXPECT_THAT(QToolTip::text().toStdString(),
+              testing::HasSubstr(label.data().toString().toStdString()));
 }
 
 INSTANTIATE_TEST_SUITE_P(Language, Screens_in, testing::Range<Integer>(3, 10),

@@ -228,6 +228,7 @@ void List_View::Set_Header_Text(int column, std::string_view text) {
   Check_Column(column - 1);
   columns_[static_cast<std::size_t>(column - 1)].text = text;
   emit show_->model.headerDataChanged(Qt::Horizontal, column - 1, column - 1);
+  show_->view->Fill_Width();
 }
 
 void List_View::Set_MultiSelect(bool several) {

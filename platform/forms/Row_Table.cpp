@@ -125,16 +125,21 @@ void Row_View::resizeEvent(QResizeEvent* event) {
   Fill_Width();
 }
 
-// What the one column cannot take, because it would get too narrow, is left to the next ones.
+// What the one column cannot take, because it would get too narrow, is left to the next ones. A
+// heading that was given another text, or font, gets its room here too.
 void Row_View::Fill_Width() {
-  const int least = Width_Of_Characters(*this, least_column);
-  int spare = viewport()->width() - header()->length();
+  const int narrow = Width_Of_Characters(*this, least_column);
+  int spare = viewport()->width();
+  for (int section = 0; section < header()->count(); ++section) {
+    spare -= header()->sectionSize(section);  // 0 for a hidden one
+  }
   int parts = std::accumulate(shares_.begin(), shares_.end(), 0);
   for (int section = 0; parts > 0 && section < header()->count(); ++section) {
     const int share = shares_[static_cast<std::size_t>(section)];
     if (share == 0) continue;
     const int before = header()->sectionSize(section);
-    const int now = std::max(before + (spare * share / parts), std::min(before, least));
+    const int least = std::max(narrow, header()->sectionSizeHint(section));
+    const int now = std::max(before + (spare * share / parts), least);
     header()->resizeSection(section, now);
     spare -= now - before;
     parts -= share;

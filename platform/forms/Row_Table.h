@@ -45,6 +45,8 @@ class Row_View : public QTreeView {
 
   /// Gives the columns their first widths.
   void Show_Columns(const std::vector<List_Column>& columns);
+  /// Shares out the width that the columns leave, or lack.
+  void Fill_Width();
   /// Selects the rows at these places, in rising order, and no others, as code does: nobody is
   /// told.
   void Select(const std::vector<int>& places, int current);
@@ -68,7 +70,6 @@ class Row_View : public QTreeView {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void Fill_Width();
   QItemSelection Ranges_Of(const std::vector<int>& places) const;
   static bool Is_Menu_Key(const QKeyEvent& event);
   QPoint Below_Header() const;

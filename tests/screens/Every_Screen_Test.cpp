@@ -81,7 +81,21 @@ void Expect_Controls_Are_Named_And_In_Sight(Forms::Form& form) {
   }
 }
 
+void Expect_Columns_Fill_Their_List(Forms::Form& form) {
+  for (const QTreeView* list : Seen_in<QTreeView>(form)) {
+    const QHeaderView& header = *list->header();
+    int right = 0;
+    for (int column = 0; column < header.count(); ++column) {
+      if (header.isSectionHidden(column)) continue;
+      right = header.sectionViewportPosition(column) + header.sectionSize(column);
+      EXPECT_GE(header.sectionSize(column), header.sectionSizeHint(column)) << Name_of(list);
+    }
+    EXPECT_GE(right, list->viewport()->width()) << Name_of(list);
+  }
+}
+
 void Expect_Fits(Forms::Form& form) {
+  Expect_Columns_Fill_Their_List(form);
   Expect_Window_Fits(form);
   Expect_Only_Lists_Scroll(form);
   Expect_Captions_Are_Whole(form);

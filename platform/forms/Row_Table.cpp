@@ -108,16 +108,16 @@ Row_View::Row_View(QWidget* parent, List_View& list, Row_Model& model)
           [this](QPoint place) { Offer_Columns(header()->viewport()->mapToGlobal(place)); });
 }
 
+// To stretch the last section no more gives it a width, even if it is hidden: that comes first.
 void Row_View::Show_Columns(const std::vector<List_Column>& columns) {
-  shares_.clear();
+  for (const List_Column& column : columns) shares_.push_back(column.hidden ? 0 : column.share);
+  header()->setStretchLastSection(std::ranges::count(shares_, 0) == std::ssize(shares_));
   for (std::size_t i = 0; i < columns.size(); ++i) {
     const int section = static_cast<int>(i);
     const int wide = Width_Of_Characters(*this, columns[i].characters + beside_cell);
     header()->resizeSection(section, std::max(wide, header()->sectionSizeHint(section)));
     setColumnHidden(section, columns[i].hidden);
-    shares_.push_back(columns[i].hidden ? 0 : columns[i].share);
   }
-  header()->setStretchLastSection(std::ranges::count(shares_, 0) == std::ssize(shares_));
 }
 
 void Row_View::resizeEvent(QResizeEvent* event) {
@@ -129,10 +129,7 @@ void Row_View::resizeEvent(QResizeEvent* event) {
 // heading that was given another text, or font, gets its room here too.
 void Row_View::Fill_Width() {
   const int narrow = Width_Of_Characters(*this, least_column);
-  int spare = viewport()->width();
-  for (int section = 0; section < header()->count(); ++section) {
-    spare -= header()->sectionSize(section);  // 0 for a hidden one
-  }
+  int spare = viewport()->width() - header()->length();
   int parts = std::accumulate(shares_.begin(), shares_.end(), 0);
   for (int section = 0; parts > 0 && section < header()->count(); ++section) {
     const int share = shares_[static_cast<std::size_t>(section)];

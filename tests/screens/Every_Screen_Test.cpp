@@ -87,9 +87,10 @@ void Expect_Columns_Fill_Their_List(Forms::Form& form) {
     int right = 0;
     for (int column = 0; column < header.count(); ++column) {
       if (header.isSectionHidden(column)) continue;
-      right = header.sectionViewportPosition(column) + header.sectionSize(column);
+      right = header.sectionPosition(column) + header.sectionSize(column);
       EXPECT_GE(header.sectionSize(column), header.sectionSizeHint(column)) << Name_of(list);
     }
+    EXPECT_EQ(right, header.length()) << Name_of(list);
     EXPECT_GE(right, list->viewport()->width()) << Name_of(list);
   }
 }

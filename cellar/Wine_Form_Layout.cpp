@@ -3,7 +3,7 @@
 
 void Wine_Form::Lay_Out() {
   using namespace Forms;
-  constexpr int add_width = 6;
+  constexpr int add_width = 4;
   const Beside add_buttons{
       {&Winery_Combo, Place(Winery_Add_Command).Wide(add_width)},
       {&Label_Combo, Place(Label_Add_Command).Wide(add_width)},

@@ -31,10 +31,9 @@ Cellar_Wine_Screen::Cellar_Wine_Screen(std::string_view name, std::string_view c
 Forms::Place Cellar_Wine_Screen::Fields_Place(const Beside& beside,
                                               const Forms::Places& over_aromas) {
   using namespace Forms;
-  constexpr int name_width = 24;
+  constexpr int name_width = 28;
   constexpr int number_width = 10;
-  constexpr int text_width = 24;
-  constexpr int date_width = 20;
+  constexpr int text_width = 18;
   const auto with_button = [&beside](Placed_Control& field, const Place& place) {
     const auto button = beside.find(&field);
     return button == beside.end() ? place : Row({place, button->second});
@@ -49,14 +48,17 @@ Forms::Place Cellar_Wine_Screen::Fields_Place(const Beside& beside,
                                {LabelLabel, name(Label_Combo)},
                                {Variety_Label, with_button(Variety_Combo, grapes).Grow()},
                                {Classification_Label, name(Classification_Combo)}});
-  const Place bottle = Fields({{Vintage_Label, Place(Vintage_Combo).Wide(number_width)},
-                               {Color_Label, Color_Combo},
-                               {Merit_Label, Merit_Combo},
-                               {Bottle_Size_Label, Bottle_Size_Combo},
-                               {Total_Bottles_Label, Total_Bottles_Text},
-                               {Alcohol_Label, Alcohol_Text},
-                               {Price_Label, Price_Text},
-                               {Peak_Year_Label, Peak_Year_Combo}});
+  const auto number = [](Placed_Control& field) { return Place(field).Wide(number_width); };
+  const Place numbers = Fields({{Vintage_Label, number(Vintage_Combo)},
+                                {Color_Label, number(Color_Combo)},
+                                {Merit_Label, number(Merit_Combo)},
+                                {Bottle_Size_Label, number(Bottle_Size_Combo)},
+                                {Total_Bottles_Label, number(Total_Bottles_Text)},
+                                {Alcohol_Label, number(Alcohol_Text)},
+                                {Price_Label, number(Price_Text)},
+                                {Peak_Year_Label, number(Peak_Year_Combo)}});
+  const Place bottle = Column({numbers, Below(Last_Day_Uncorked_Label, Last_Date_Uncorked_Text),
+                               Below(Date_Added_Label, Date_Added_Text)});
   Places pairing_heading{Pairing_Label, Stretch()};
   if (const auto button = beside.find(&Pairing_List); button != beside.end()) {
     pairing_heading.push_back(button->second);
@@ -68,13 +70,11 @@ Forms::Place Cellar_Wine_Screen::Fields_Place(const Beside& beside,
   const Place notes =
       Column({Below(Description_Label, text(Description_Text)).Grow(3), Row(pairing_heading),
               Place(Pairing_List).Wide(text_width).High(5, 5).Grow(5),
-              Below(Comments_Label, text(Comments_Text)).Grow(3),
-              Below(Last_Day_Uncorked_Label, Place(Last_Date_Uncorked_Text).Wide(date_width)),
-              Below(Date_Added_Label, Place(Date_Added_Text).Wide(date_width))});
+              Below(Comments_Label, text(Comments_Text)).Grow(3)});
   Places aromas = over_aromas;
   aromas.insert(aromas.begin(), Boxes.Aroma_Place());
   const Place marks = Row({Boxes.Taste_Place(), One_Place(aromas)});
-  return Row({origin.Grow(5), bottle, notes.Grow(4), marks});
+  return Row({origin.Grow(5), bottle, notes.Grow(3), marks});
 }
 
 // ---- the fields ----

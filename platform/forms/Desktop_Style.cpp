@@ -77,16 +77,19 @@ void Desktop_Style::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         return;
       break;
     case PE_PanelItemViewRow:
-      if (Is_Locked_List(widget)) {
+      if (Area_Of(widget) != nullptr) {
         const auto& row = *static_cast<const QStyleOptionViewItem*>(option);
         const bool alternate = row.features & QStyleOptionViewItem::Alternate;
-        painter->fillRect(row.rect, Row_Ground(row.palette, alternate));
+        const bool locked = Is_Locked_List(widget);
+        if (alternate || locked) {
+          painter->fillRect(row.rect, Row_Ground(row.palette, alternate, locked));
+        }
         return;
       }
       break;
     case PE_PanelItemViewItem:
       if (qobject_cast<const QListView*>(widget) != nullptr && Is_Locked_List(widget)) {
-        painter->fillRect(option->rect, Row_Ground(option->palette, false));
+        painter->fillRect(option->rect, Row_Ground(option->palette, false, true));
       }
       break;
     default:

@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QStyle>
 #include <QTreeView>
+#include <algorithm>
 
 #include "platform/forms/Contrast.h"
 #include "platform/forms/Control.h"
@@ -126,8 +127,14 @@ Field_Look Look_Of(const Placed_Control& control, const QPalette& theme) {
   return look;
 }
 
-QColor Row_Ground(const QPalette& theme, bool alternate) {
-  return Tinted(theme.color(alternate ? QPalette::AlternateBase : QPalette::Base));
+// Some dark themes forget the other rows, which would be white under white texts.
+QColor Row_Ground(const QPalette& colors, bool alternate, bool locked) {
+  const QColor base = colors.color(QPalette::Base);
+  const QColor text = colors.color(QPalette::Text);
+  QColor ground = alternate ? colors.color(QPalette::AlternateBase) : base;
+  const double enough = std::min(Contrast_Of_Text, Contrast(base, text) * 0.8);
+  if (Contrast(ground, text) < enough) ground = Mixed(base, text, 0.05);
+  return locked ? Tinted(ground) : ground;
 }
 
 void Paint_Ground(QPainter& painter, const QRect& rect, const Field_Look& look) {

@@ -35,8 +35,8 @@ const Placed_Control* Control_Shown_By(const QWidget* widget);
 /// What the control's colours are in this theme. Those that ask for something are shown as they
 /// are; the one of locked fields tints the theme's own.
 Field_Look Look_Of(const Placed_Control& control, const QPalette& theme);
-/// Rows of a locked list, or every other one of them.
-QColor Row_Ground(const QPalette& theme, bool alternate);
+/// The ground of a list's rows, or of every other one of them.
+QColor Row_Ground(const QPalette& colors, bool alternate, bool locked);
 
 /// What lies behind a control, without an outline.
 void Paint_Ground(QPainter& painter, const QRect& rect, const Field_Look& look);

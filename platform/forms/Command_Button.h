@@ -17,7 +17,8 @@ class Command_Button : public Placed_Control {
 
   std::function<void()> Click;
 
-  /// What the button says in other modes of its form: mnemonics are kept for these captions too.
+  /// What the button says in other modes of its form: mnemonics are kept for these captions too,
+  /// one for all in a row that have a letter in common.
   void Set_Other_Captions(std::vector<std::string> captions) { others_ = std::move(captions); }
   const std::vector<std::string>& Other_Captions() const { return others_; }
 

@@ -101,7 +101,12 @@ void Desktop_Style::drawPrimitive(PrimitiveElement element, const QStyleOption* 
 void Desktop_Style::drawControl(ControlElement element, const QStyleOption* option,
                                 QPainter* painter, const QWidget* widget) const {
   const Placed_Control* control = Control_Shown_By(widget);
-  if (control == nullptr) return QProxyStyle::drawControl(element, option, painter, widget);
+  if (control == nullptr) {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (element == CE_MenuBarItem && (option->state & State_Selected) && widget->hasFocus())
+      Paint_Ring(*painter, option->rect, option->palette.highlight().color());
+    return;
+  }
   switch (element) {
     case CE_ShapedFrame:
       if (Area_Of(widget) == nullptr) break;
@@ -222,9 +227,11 @@ QSize Desktop_Style::sizeFromContents(ContentsType type, const QStyleOption* opt
 }
 
 // A combo box opens below itself and scrolls, and does not cover the screen with all its entries.
+// Alt alone goes to the menu bar, also in styles that use it for their underlines alone.
 int Desktop_Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                              QStyleHintReturn* data) const {
   if (hint == SH_ComboBox_Popup) return 0;
+  if (hint == SH_MenuBar_AltKeyNavigation) return 1;
   return QProxyStyle::styleHint(hint, option, widget, data);
 }
 

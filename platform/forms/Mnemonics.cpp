@@ -49,6 +49,11 @@ bool Contains(std::string_view caption, QChar letter) {
   return Place_Of(To_Qt(caption), letter) >= 0;
 }
 
+bool Begins_Word_In(const QString& text, QChar letter) {
+  const qsizetype place = Place_Of(text, letter);
+  return place >= 0 && Begins_A_Word(text, place);
+}
+
 QString With_Letter(std::string_view caption, QChar letter) {
   if (letter.isNull()) return Escaped(caption);
   const QString text = To_Show(caption);

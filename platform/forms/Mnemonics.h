@@ -11,6 +11,8 @@ namespace Forms {
 bool Can_Be_Typed(QChar letter);
 bool Has_Letters_To_Type(std::string_view caption);
 bool Contains(std::string_view caption, QChar letter);
+/// Whether a word of the text begins with it, of those in names of controls as well.
+bool Begins_Word_In(const QString& text, QChar letter);
 
 /// A caption as the toolkit takes it, with this letter as its mnemonic. Where the caption does not
 /// contain it, it stands behind: "(P)", as is the custom where a script has no such letters.

@@ -45,7 +45,7 @@ class Program : public testing::Test {
     program.Type("France");
     program.Press({"Tab"});  // to the winery, which is asked next
     program.Type("Bollinger");
-    program.Press({"alt+l", "Down", "alt+g", "Down", "space", "alt+o", "Down", "alt+b", "Down"});
+    program.Press({"alt+l", "Down", "alt+g", "Down", "space", "alt+c", "Down", "alt+z", "Down"});
     program.Press({"Tab", "6", "alt+f", "Down"});
   }
 
@@ -73,7 +73,7 @@ TEST_F(Program, A_wine_is_entered_by_keyboard_and_can_be_uncorked_after_a_restar
   program.Press({"alt+s"});
   ASSERT_TRUE(program.Answer_Box("WINE ADDITION SUCCESSFULLY"));
   ASSERT_TRUE(program.Sees_Window("Add New Wine to the Cellar"));
-  program.Press({"alt+e"});
+  program.Press({"alt+x"});
   ASSERT_TRUE(program.Window_Has_Gone("Add New Wine to the Cellar"));
   ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
   program.Press({"alt+x"});
@@ -84,7 +84,7 @@ TEST_F(Program, A_wine_is_entered_by_keyboard_and_can_be_uncorked_after_a_restar
   ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
   program.Press({"alt+w", "c", "u"});
   ASSERT_TRUE(program.Sees_Window("Select Wine to Uncork"));
-  program.Press({"space", "alt+u"});
+  program.Press({"space", "alt+o"});
   ASSERT_TRUE(program.Sees_Window("WINE UNCORKED"));
   program.Kill();
   EXPECT_THAT(Stored("Wines", "Total_Bottles"), ElementsAre("5"));
@@ -115,17 +115,17 @@ TEST_F(Program, A_wine_with_its_pairings_is_found_by_one_of_them_and_uncorked_fr
   program.Press({"alt+s"});
   ASSERT_TRUE(program.Answer_Box("WINE ADDITION SUCCESSFULLY"));
   ASSERT_TRUE(program.Sees_Window("Add New Wine to the Cellar"));
-  program.Press({"alt+e"});
+  program.Press({"alt+x"});
   ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
   program.Press({"alt+p", "w", "f"});
   ASSERT_TRUE(program.Sees_Window("Select Recipe's Categories"));
   program.Type("Roast duck");
   program.Press({"Return", "alt+p"});
   ASSERT_TRUE(program.Sees_Window("Results of Pairings with Wine in your Home Cellar"));
-  program.Press({"space", "alt+u"});
+  program.Press({"space", "alt+o"});
   ASSERT_TRUE(program.Answer_Box("WINE UNCORKED"));
   ASSERT_TRUE(program.Sees_Window("Results of Pairings with Wine in your Home Cellar"));
-  program.Press({"alt+e"});
+  program.Press({"alt+x"});
   ASSERT_TRUE(program.Sees_Window("Select Recipe's Categories"));
   program.Press({"Escape"});
   ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));

@@ -350,6 +350,7 @@ TEST_F(Cellar_Commit, A_wine_is_removed_on_yes_alone_and_only_winery_and_region_
       "WINE DELETE WARNING? Are you sure yo want to REMOVE this wine from Wine Cellar?";
   EXPECT_THAT(boxes.Said(), ElementsAre(warning));
   EXPECT_EQ(boxes.Boxes()[0].by_enter, Forms::Answer::No);
+  EXPECT_EQ(boxes.Boxes()[0].sign, Forms::Sign::Question);
   EXPECT_EQ(Wine_Rows(), before);
   EXPECT_EQ(Row_With("Wine_Cellar_ListView", "1", 9), 0);
   Click(button);

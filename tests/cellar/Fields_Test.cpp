@@ -185,6 +185,7 @@ TEST_F(Fields, A_text_that_is_refused_keeps_the_focus) {
       Enter(field, text);
       EXPECT_EQ(boxes.Texts(), message.empty() ? Texts{} : Texts{message}) << field << ": " << text;
       EXPECT_EQ(Focused() == field, !message.empty()) << field << ": " << text;
+      for (const Forms::Box& box : boxes.Boxes()) EXPECT_EQ(box.sign, Forms::Sign::Warning);
       EXPECT_EQ(Tag_of(bottles), field == bottles && !message.empty() ? "0" : "1") << text;
     }
   }

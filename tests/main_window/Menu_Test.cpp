@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QMenu>
+#include <QMenuBar>
+#include <QTest>
 #include <QToolTip>
 #include <QWidget>
 #include <set>
@@ -63,6 +65,21 @@ TEST_F(Menu, Entries_open_their_screen_where_it_is_there_and_lead_back_to_the_ma
     }
     EXPECT_EQ(opened.size(), there ? screens.size() : 1U);
   }
+}
+
+TEST_F(Menu, Alt_alone_goes_to_the_bar_in_sight_and_F10_opens_the_first_menu) {
+  auto& bar = *Find("Wine_Cellar_Form").findChild<QMenuBar*>();
+  EXPECT_TRUE(Wait_Until([&] { return bar.window()->isActiveWindow(); }));
+  const QImage before = bar.grab().toImage();
+  const auto alt = [&] {
+    QTest::keyClick(bar.window()->windowHandle(), Qt::Key_Alt, Qt::AltModifier);
+  };
+  alt();
+  EXPECT_EQ(bar.activeAction(), bar.actions().front());
+  EXPECT_NE(bar.grab().toImage(), before);
+  alt();
+  Press("F10");
+  EXPECT_EQ(QApplication::activePopupWidget(), bar.actions().front()->menu());
 }
 
 TEST_F(Menu, Coming_back_clears_the_mark_of_changed_regions) {

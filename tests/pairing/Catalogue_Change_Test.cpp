@@ -83,6 +83,7 @@ TEST_F(Catalogue_Changes, A_double_in_the_language_in_force_is_refused_whatever_
     EXPECT_THAT(boxes.Said(),
                 ElementsAre("PAIRING ALREADY EXISTS? This pairing is already in the list of "
                             "available pairings.\rDo you want to type another one?"));
+    EXPECT_EQ(boxes.Boxes()[0].by_enter, Forms::Answer::Yes);
   }
   EXPECT_EQ(Whole_Catalogue(), before);
   EXPECT_THAT(Boxes(), ElementsAre("PIE EN", "Otro"));

@@ -116,6 +116,7 @@ TEST_F(Pickers, A_hundred_and_one_are_taken_and_a_hundred_handed_on) {
   Press("Return");
   Click("Add_Command");
   EXPECT_THAT(boxes.Said(), ElementsAre(": \r  100", ": \r  100"));
+  EXPECT_EQ(boxes.Boxes()[0].sign, Forms::Sign::Warning);
   boxes.Forget();
   Add(all[0]);  // a double is refused before the number is looked at
   EXPECT_THAT(boxes.Boxes(), IsEmpty());

@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QToolTip>
@@ -95,7 +96,26 @@ void Expect_Columns_Fill_Their_List(Forms::Form& form) {
   }
 }
 
+// All that one can go to by a letter has one, each its own; of the boxes to tick, those that do.
+void Expect_Letters(Forms::Form& form) {
+  QStringList texts;
+  for (const QAction* menu : form.Data().window->menuBar()->actions()) texts.append(menu->text());
+  for (const QAbstractButton* button : Seen_in<QAbstractButton>(form)) {
+    const bool has_to = !button->isCheckable() && !button->text().isEmpty();
+    if (has_to || button->text().contains('&')) texts.append(button->text());
+  }
+  for (const QLabel* label : Seen_in<QLabel>(form)) {
+    if (label->buddy() != nullptr) texts.append(label->text());
+  }
+  std::set<QString> letters;
+  for (const QString& text : texts) {
+    const QString letter = QString(text).remove("&&").section('&', 1).left(1).toUpper();
+    EXPECT_TRUE(!letter.isEmpty() && letters.insert(letter).second) << text.toStdString();
+  }
+}
+
 void Expect_Fits(Forms::Form& form) {
+  Expect_Letters(form);
   Expect_Columns_Fill_Their_List(form);
   Expect_Window_Fits(form);
   Expect_Only_Lists_Scroll(form);

@@ -5,9 +5,11 @@
 #include <QKeyEvent>
 
 #include "platform/forms/Combo_Box.h"
+#include "platform/forms/Cut_Text.h"
 #include "platform/forms/Focus.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/List_Common.h"
+#include "platform/forms/Word_Tip.h"
 
 namespace Forms {
 
@@ -41,7 +43,11 @@ bool Combo_Typing::Hear(const QKeyEvent& key) {
 
 void Combo_Typing::Show(int row) {
   const int shown = row < 0 ? combo_.ListIndex() : row;
-  if (!Is_Open()) return box_.setCurrentIndex(shown);
+  if (!Is_Open()) {
+    box_.setCurrentIndex(shown);
+    if (row >= 0 && waits_) Word_Tip::Add(box_, Cut_Choice(box_));
+    return;
+  }
   const QModelIndex index = box_.model()->index(shown, 0);
   Bring_To_Middle(*box_.view(), index);
   box_.view()->setCurrentIndex(index);

@@ -16,8 +16,6 @@ namespace Forms {
 
 namespace {
 
-constexpr int row_air = 4;
-
 QString Text_If_Cut(const QWidget& widget, const QString& text, int room) {
   return widget.fontMetrics().horizontalAdvance(text) > room ? text : QString();
 }
@@ -32,15 +30,6 @@ QString Cut_Cell(const QAbstractItemView& view, QPoint place) {
   option.widget = &view;
   const int whole = rows->QStyledItemDelegate::sizeHint(option, cell).width();
   return whole > view.visualRect(cell).width() ? cell.data().toString() : QString();
-}
-
-QString Cut_Choice(const QComboBox& combo) {
-  QStyleOptionComboBox option;
-  option.initFrom(&combo);
-  option.editable = false;
-  const QRect room = combo.style()->subControlRect(QStyle::CC_ComboBox, &option,
-                                                   QStyle::SC_ComboBoxEditField, &combo);
-  return Text_If_Cut(combo, combo.currentText(), room.width());
 }
 
 QString Cut_Text_At(const QWidget& widget, QPoint place) {
@@ -61,6 +50,15 @@ QString Cut_Text_At(const QWidget& widget, QPoint place) {
 
 }  // namespace
 
+QString Cut_Choice(const QComboBox& combo) {
+  QStyleOptionComboBox option;
+  option.initFrom(&combo);
+  option.editable = false;
+  const QRect room = combo.style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                   QStyle::SC_ComboBoxEditField, &combo);
+  return Text_If_Cut(combo, combo.currentText(), room.width());
+}
+
 bool Show_Cut_Text(QWidget& widget, const QHelpEvent& event) {
   const Placed_Control* control = Focus_Watch::The().Control_Of(&widget);
   const QString cut = control == nullptr ? QString() : Cut_Text_At(widget, event.pos());
@@ -76,7 +74,16 @@ bool Show_Cut_Text(QWidget& widget, const QHelpEvent& event) {
 QSize Airy_Rows::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   const QSize size = QStyledItemDelegate::sizeHint(option, index);
   const bool is_list = qobject_cast<const QListView*>(option.widget) != nullptr;
-  return {is_list ? 1 : size.width(), size.height() + row_air};
+  return {is_list ? 1 : size.width(), size.height() + air};
+}
+
+void Airy_Rows::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+  QStyledItemDelegate::initStyleOption(option, index);
+  const auto* list = qobject_cast<const QListView*>(option->widget);
+  const Placed_Control* control = Focus_Watch::The().Control_Of(list);
+  if (control != nullptr && control->Shows_As_Locked() && !list->hasFocus()) {
+    option->state &= ~QStyle::State_Selected;
+  }
 }
 
 }  // namespace Forms

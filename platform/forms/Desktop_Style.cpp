@@ -134,15 +134,20 @@ void Desktop_Style::Paint_Check_Box(const QStyleOption& option, QPainter& painte
                                     const QWidget* widget) const {
   QStyleOptionButton part(static_cast<const QStyleOptionButton&>(option));
   const Placed_Control& box = *Control_Shown_By(widget);
-  if (!box.BackColor().of_the_theme) {
-    const Field_Look look = Look_Of(box, option.palette);
-    Paint_Ground(painter, option.rect, look);
-    part.palette.setColor(QPalette::WindowText, look.ink);
-  }
+  const bool plain = box.BackColor().of_the_theme;
+  const Field_Look look = Look_Of(box, option.palette);
+  if (!plain) Paint_Ground(painter, option.rect, look);
   part.rect = proxy()->subElementRect(SE_CheckBoxIndicator, &option, widget);
   proxy()->drawPrimitive(PE_IndicatorCheckBox, &part, &painter, widget);
   part.rect = proxy()->subElementRect(SE_CheckBoxContents, &option, widget);
-  proxy()->drawControl(CE_CheckBoxLabel, &part, &painter, widget);
+  // Some styles paint the caption in a colour of their own, whatever lies behind it.
+  const bool underlines = proxy()->styleHint(SH_UnderlineShortcut, &option, widget, nullptr) != 0;
+  painter.setPen(plain ? option.palette.color(QPalette::WindowText) : look.ink);
+  painter.drawText(part.rect,
+                   static_cast<int>(visualAlignment(option.direction, Qt::AlignLeft)) |
+                       Qt::AlignVCenter |
+                       (underlines ? Qt::TextShowMnemonic : Qt::TextHideMnemonic),
+                   part.text);
   if (Has_Focus(option)) Paint_Ring(painter, option.rect, option.palette.highlight().color());
 }
 
@@ -223,7 +228,18 @@ QRect Desktop_Style::subControlRect(ComplexControl control, const QStyleOptionCo
 QSize Desktop_Style::sizeFromContents(ContentsType type, const QStyleOption* option,
                                       const QSize& size, const QWidget* widget) const {
   const QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
-  return type == CT_CheckBox ? whole + QSize(Leading_Room + Edge_Width, 0) : whole;
+  if (type == CT_CheckBox) return whole + QSize(Leading_Room + Edge_Width, 0);
+  // A caption whose letters come from two fonts is measured too narrow, and would be cut.
+  if (type == CT_MenuItem) return whole + QSize(option->fontMetrics.averageCharWidth() * 2, 0);
+  return whole;
+}
+
+// A list that has not the focus, and a window that is not in front, are read all the same.
+void Desktop_Style::polish(QPalette& theme) {
+  QProxyStyle::polish(theme);
+  for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+    theme.setColor(QPalette::Inactive, role, theme.color(QPalette::Active, role));
+  }
 }
 
 // A combo box opens below itself and scrolls, and does not cover the screen with all its entries.

@@ -2,6 +2,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <algorithm>
 
 #include "platform/forms/Command_Button.h"
 #include "platform/forms/Focus.h"
@@ -10,6 +11,7 @@
 #include "platform/forms/Handlers.h"
 #include "platform/forms/Menu.h"
 #include "platform/forms/Screens_Inside.h"
+#include "platform/forms/Text_Box.h"
 
 namespace Forms {
 
@@ -19,6 +21,11 @@ void Open_Menu(QMenuBar& bar) {
   for (QAction* action : bar.actions()) {
     if (action->isVisible() && action->isEnabled()) return bar.setActiveAction(action);
   }
+}
+
+bool Is_Open_To_Type(const Control* control) {
+  const auto* box = dynamic_cast<const Text_Box*>(control);
+  return box != nullptr && !box->Locked() && box->Enabled() && box->Widget()->isVisible();
 }
 
 }  // namespace
@@ -32,6 +39,8 @@ Form* Form_Of(const QWidget* widget) {
 void Leave(Form& form, bool by_key) {
   const Form_Data& data = form.Data();
   if (!form.Takes_Input() || (by_key && !data.esc_leaves)) return;
+  // What was typed is not lost by one key.
+  if (by_key && std::ranges::any_of(data.controls, Is_Open_To_Type)) return;
   if (data.exit_button != nullptr) {
     Raise(*data.exit_button, data.exit_button->Click);
   } else if (data.exit_entry != nullptr) {

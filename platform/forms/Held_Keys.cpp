@@ -6,7 +6,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
-#include <QWindow>
 
 #include "platform/forms/Focus.h"
 #include "platform/forms/List_Box.h"
@@ -39,13 +38,7 @@ Held_Keys& Held_Keys::The() {
   return keys;
 }
 
-// While no window has the keys, nobody is told that one was let go.
-void Held_Keys::Begin() {
-  qApp->installEventFilter(this);
-  connect(qApp, &QApplication::focusWindowChanged, this, [this](const QWindow* now) {
-    if (now == nullptr) down_ = shut_out_ = 0;
-  });
-}
+void Held_Keys::Begin() { qApp->installEventFilter(this); }
 
 // A key passes here several times: as a question for shortcuts, at the window, at the control and
 // at what that one stands in. All but the first of these may come after a handler has run.
@@ -62,20 +55,24 @@ bool Held_Keys::eventFilter(QObject* object, QEvent* event) {
     case QEvent::KeyRelease:
       Let_Go(static_cast<QKeyEvent&>(*event));
       return false;
-    case QEvent::MouseButtonPress:  // a box that comes up now was not brought by a key
-      down_ = 0;
-      return false;
     default:
       return false;
   }
 }
 
 bool Held_Keys::Is_To_Do_Nothing(const QKeyEvent& event) const {
-  if (Box_Is_Up() && event.key() == shut_out_) return true;
-  if (!event.isAutoRepeat()) return false;
+  if (!Is_Repeat(event)) return false;
   if ((event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0) return true;
   if (Is_Among_Choices()) return !Moves(event.key());
   return Decides(event.key()) && !May_Repeat(event);
+}
+
+// A desktop repeats a key by letting it go and pressing it at one and the same moment. The toolkit
+// tells so only where it finds both in one go.
+bool Held_Keys::Is_Repeat(const QKeyEvent& event) const {
+  if (event.isAutoRepeat()) return true;
+  return QGuiApplication::platformName() == "xcb" && event.key() == let_go_ &&
+         event.timestamp() == when_;
 }
 
 // Lines and blanks are typed, and a list takes its entries one after another, where the key went
@@ -92,15 +89,13 @@ bool Held_Keys::May_Repeat(const QKeyEvent& event) const {
 
 void Held_Keys::Pressed(const QObject& object, const QKeyEvent& event) {
   QWidget* focus = QApplication::focusWidget();
-  if (event.isAutoRepeat() || (object.isWidgetType() && &object != focus)) return;
-  down_ = event.key();
+  if (Is_Repeat(event) || (object.isWidgetType() && &object != focus)) return;
   at_ = focus;
 }
 
 void Held_Keys::Let_Go(const QKeyEvent& event) {
-  if (event.isAutoRepeat()) return;
-  if (event.key() == down_) down_ = 0;
-  if (event.key() == shut_out_) shut_out_ = 0;
+  let_go_ = event.key();
+  when_ = event.timestamp();
 }
 
 }  // namespace Forms

@@ -11,8 +11,7 @@ class QKeyEvent;
 namespace Forms {
 
 /// A held key goes on typing, moving and scrolling. It decides nothing: its repeats press no
-/// button, tick nothing, choose no menu entry and leave no screen, and in a message box it does
-/// nothing at all before it was let go.
+/// button, tick nothing, choose no menu entry, leave no screen and answer no message box.
 class Held_Keys : public QObject {
  public:
   static Held_Keys& The();
@@ -20,22 +19,18 @@ class Held_Keys : public QObject {
   /// Begins to watch the toolkit. Once, after the application is there.
   void Begin();
 
-  /// A message box comes up: the key that is down now may be the one that brought it.
-  void Box_Comes_Up() { shut_out_ = down_; }
-  /// It has gone, perhaps by a key of which nobody is told any more when it is let go.
-  void Box_Has_Gone() { down_ = shut_out_ = 0; }
-
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   Held_Keys() = default;
   bool Is_To_Do_Nothing(const QKeyEvent& event) const;
+  bool Is_Repeat(const QKeyEvent& event) const;
   bool May_Repeat(const QKeyEvent& event) const;
   void Pressed(const QObject& object, const QKeyEvent& event);
   void Let_Go(const QKeyEvent& event);
 
-  int down_ = 0;          ///< the key pressed last, while it is down; 0: none
-  int shut_out_ = 0;      ///< was down when a message box came up
+  int let_go_ = 0;  ///< the key that was let go last, and when
+  quint64 when_ = 0;
   QPointer<QWidget> at_;  ///< had the focus when the last key went down
 };
 

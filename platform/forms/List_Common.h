@@ -14,11 +14,9 @@ inline void Go_To_Top_After_Clear(const QAbstractItemView& view) {
                    &QAbstractItemView::scrollToTop);
 }
 
-/// A row of which nothing can be seen, or not all, comes to the middle, with what stands around it.
+/// With what stands around it.
 inline void Bring_To_Middle(QAbstractItemView& view, const QModelIndex& index) {
-  const QRect place = view.visualRect(index);
-  const bool seen = place.top() >= 0 && place.bottom() < view.viewport()->height();
-  if (!seen) view.scrollTo(index, QAbstractItemView::PositionAtCenter);
+  view.scrollTo(index, QAbstractItemView::PositionAtCenter);
 }
 
 /// Whether the key is a command rather than for the list.

@@ -89,7 +89,8 @@ void Show_Lock_Mark(QAbstractScrollArea& area, bool locked) {
 // of boxes and lists, and the ground behind it.
 QPalette Palette_Of(const QWidget& widget, const Field_Look& look, bool full_ground) {
   QPalette palette;
-  const QColor faded = Mixed(look.ground, look.ink, 0.5);
+  // A locked list stays to be read, disabled too.
+  const QColor faded = look.locked ? look.ink : Mixed(look.ground, look.ink, 0.5);
   for (const auto role : {QPalette::Text, QPalette::WindowText}) {
     palette.setColor(role, look.ink);
     palette.setColor(QPalette::Disabled, role, faded);

@@ -8,7 +8,6 @@
 #include <QSpacerItem>
 
 #include "platform/forms/Form_Texts.h"
-#include "platform/forms/Held_Keys.h"
 #include "platform/forms/Mnemonics.h"
 #include "platform/forms/Qt_Text.h"
 #include "platform/run_time/Guard.h"
@@ -77,14 +76,8 @@ bool Ask(const Box& box) {
 
 bool Show(const Box& box) {
   struct Mark {
-    Mark() {
-      ++boxes_up;
-      Held_Keys::The().Box_Comes_Up();
-    }
-    ~Mark() {
-      --boxes_up;
-      Held_Keys::The().Box_Has_Gone();
-    }
+    Mark() { ++boxes_up; }
+    ~Mark() { --boxes_up; }
   } const mark;
   ++boxes_shown;
   if (The_Watcher()) {

@@ -1,6 +1,6 @@
 #include "platform/forms/Place_Sizes.h"
 
-#include <QAbstractScrollArea>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFontMetrics>
 #include <QLineEdit>
@@ -8,6 +8,7 @@
 #include <QWidgetItem>
 #include <algorithm>
 
+#include "platform/forms/Cut_Text.h"
 #include "platform/forms/Place_Data.h"
 
 namespace Forms {
@@ -63,7 +64,9 @@ bool Can_Get_Smaller(const QWidget& widget) {
 }
 
 int Height_Of_Lines(const QWidget& widget, int lines) {
-  return (lines * (widget.fontMetrics().lineSpacing() + 1)) + frame_height;
+  const bool rows = qobject_cast<const QAbstractItemView*>(&widget) != nullptr;
+  const int between = rows ? Airy_Rows::air : 1;
+  return (lines * (widget.fontMetrics().lineSpacing() + between)) + frame_height;
 }
 
 int Limit_Width(const Place_Data& place, QWidget& widget) {

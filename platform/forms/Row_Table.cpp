@@ -101,8 +101,10 @@ Row_View::Row_View(QWidget* parent, List_View& list, Row_Model& model)
   header()->setSectionsMovable(false);
   header()->setSectionsClickable(true);
   header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  connect(header(), &QHeaderView::sectionClicked,
-          [this](int section) { list_.Header_Clicked(section + 1); });
+  connect(header(), &QHeaderView::sectionClicked, [this](int section) {
+    search_.End();
+    list_.Header_Clicked(section + 1);
+  });
   header()->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(header(), &QHeaderView::customContextMenuRequested,
           [this](QPoint place) { Offer_Columns(header()->viewport()->mapToGlobal(place)); });

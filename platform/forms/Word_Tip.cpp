@@ -52,6 +52,14 @@ QPoint Place_Of(const QLabel& label, const QWidget& list) {
   return seen == places.end() ? QPoint(left, at.top()) : *seen;
 }
 
+void Say(QLabel& label, const QWidget& list, const QString& text) {
+  label.setText(text);
+  label.resize(label.sizeHint().boundedTo(list.window()->size()));
+  label.move(Place_Of(label, list));
+  label.raise();
+  label.show();
+}
+
 }  // namespace
 
 void Show(QWidget& list, const QString& text) {
@@ -61,11 +69,12 @@ void Show(QWidget& list, const QString& text) {
     label = New_Label(list);
   }
   label->setProperty("list", QVariant::fromValue<const QObject*>(&list));
-  label->setText(text);
-  label->resize(label->sizeHint().boundedTo(list.window()->size()));
-  label->move(Place_Of(*label, list));
-  label->raise();
-  label->show();
+  Say(*label, list, text);
+}
+
+void Add(QWidget& list, const QString& line) {
+  QLabel* label = The_Label();
+  if (label != nullptr && !line.isEmpty()) Say(*label, list, label->text() + '\n' + line);
 }
 
 void Hide(const QWidget& list) {

@@ -12,6 +12,8 @@ constexpr const char* name = "Typed_Word";
 
 /// Shows the text at `list`, in its window. There is one label: it leaves any other list.
 void Show(QWidget& list, const QString& text);
+/// A further line, if the label is there and the line is not "".
+void Add(QWidget& list, const QString& line);
 /// Takes the label away if it is shown at `list`.
 void Hide(const QWidget& list);
 

@@ -213,6 +213,9 @@ TEST_F(Lists_Test, Enter_and_delete_are_events_of_a_list_in_which_an_entry_is_ch
   EXPECT_EQ(Taken(), Log({"List Chile"}));
   list.SetFocus();
   Press("Esc");
+  EXPECT_EQ(Taken(), Log());  // what can be typed is not lost by one key
+  form.Other_Text.Set_Locked(true);
+  Press("Esc");
   EXPECT_EQ(Taken(), Log({"Exit"}));
 }
 

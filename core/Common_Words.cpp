@@ -74,5 +74,6 @@ Text Hint_Text(const Screen_Words::Hint& hint, std::initializer_list<std::string
 
 Text Hint_To_Menu(const Screen_Words::Hint& hint, std::string_view menu, std::string_view entry) {
   const Forms::Screen main_window("Wine_Cellar_Form");
-  return Hint_Text(hint, {main_window.Control(menu).Caption(), main_window.Control(entry).Caption()});
+  return Hint_Text(hint,
+                   {main_window.Control(menu).Caption(), main_window.Control(entry).Caption()});
 }

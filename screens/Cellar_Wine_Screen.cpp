@@ -20,7 +20,7 @@ Cellar_Wine_Screen::Cellar_Wine_Screen(std::string_view name, std::string_view c
                    {"Merit", widths[6], false, true},
                    {"Peak", widths[7], false, true},
                    {"Stock", widths[8], false, true},
-                   {"ID", 6, false, true}},
+                   {"ID", 4, false, true}},
                   std::move(words)) {
   constexpr int winery = 1;
   Wine_Cellar_ListView.Set_Search_Column(winery);

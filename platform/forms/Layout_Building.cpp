@@ -126,10 +126,8 @@ class Builder {
         return Settle(data, parent);
       case Place_Kind::Group: {
         QWidget* frame = Settle(data, parent);
-        const bool shares = std::exchange(shares_its_place_, false);
         frame->setLayout(Layout_Of(data.places.front(), frame));
         frame->layout()->setContentsMargins(frame_margin, frame_margin, frame_margin, frame_margin);
-        shares_its_place_ = shares;
         return frame;
       }
       case Place_Kind::Above_Below:

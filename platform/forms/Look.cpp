@@ -141,13 +141,13 @@ QColor Row_Ground(const QPalette& colors, bool alternate, bool locked) {
 void Paint_Ground(QPainter& painter, const QRect& rect, const Field_Look& look) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.fillPath(Rounded(rect, 0.5), look.ground);
+  const QPainterPath shape = Rounded(rect, 0.5);
   if (look.locked) {
-    QRect band(rect.left() + 1, rect.top() + 1, Band_Width, rect.height() - 2);
-    painter.setClipPath(Rounded(rect, 1));
-    painter.fillRect(QStyle::visualRect(painter.layoutDirection(), rect, band),
-                     To_Color(Locked_Color));
+    painter.fillPath(shape, To_Color(Locked_Color));
+    const QRect beside_band = rect.adjusted(1 + Band_Width, 0, 0, 0);
+    painter.setClipRect(QStyle::visualRect(painter.layoutDirection(), rect, beside_band));
   }
+  painter.fillPath(shape, look.ground);
   painter.restore();
 }
 

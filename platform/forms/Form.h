@@ -83,7 +83,7 @@ class Form {
   /// buttons that commit and leave.
   void Set_Content(const Place& content, const Place& below = Row({}));
   /// The way out: the window's close button does what this button or entry does, and so does Esc,
-  /// unless that ends the run.
+  /// unless that ends the run or a text box is open, whose text would be lost.
   enum class Exit { Leaves, Ends_The_Run };
   void Set_Exit(Command_Button& button, Exit exit = Exit::Leaves);
   void Set_Exit(Menu_Entry& entry, Exit exit = Exit::Ends_The_Run);

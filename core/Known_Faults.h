@@ -1,0 +1,115 @@
+// The faults that the program is designed with, and that a run can be started without
+// (docs/known-failures.md tells what a user sees of each). The code asks at the place where the
+// fault lies; both ways read and write one data file, in turns.
+#pragma once
+
+/// Named after what goes wrong. First what happens where the fault is kept, then what happens where
+/// it is mended.
+enum class Fault {
+  // ---- a wine is picked to be corrected ----
+
+  /// A label or class that the lists do not hold ("No Label" among them) is failure 380 / it stands
+  /// as a last entry, chosen, "No Label" at its own place, and is kept unless another is chosen.
+  Gone_Name_Ends_The_Run,
+  /// A vintage or a peak outside its list shows and stores another year / the list takes it in.
+  Unlisted_Year_Is_Lost,
+  /// The first entry of the vintages is no choice / it is one as any other.
+  Oldest_Vintage_Is_No_Choice,
+  /// A grape that the region does not grow is neither shown nor stored again / it stands as a last
+  /// entry, ticked.
+  Unlisted_Grape_Is_Lost,
+  /// A color stored in another language leaves the color as it was / it is known by its place in
+  /// any language.
+  Color_Goes_By_Word,
+  /// A blank alcohol and an old date of adding, shown and left as they are, are refused / accepted.
+  Shown_Value_Is_Refused,
+  /// Another pick, "New Winery" and EXIT throw away what was entered / they ask first.
+  Entered_Wine_Goes_Without_A_Word,
+
+  // ---- what SAVE, MODIFY and REMOVE store ----
+
+  /// A text that is stored already fails with 3020, and a missing one is stored as "x" / it is
+  /// changed, and what is not there makes no row.
+  Stored_Text_Cannot_Change,
+  /// A text that is "x" alone reads as none / it is stored with a blank behind it.
+  Lone_X_Is_No_Text,
+  /// A wine without grapes, and no mark in the whole table, are 3021 to MODIFY / nothing to remove.
+  Nothing_To_Remove_Ends_The_Run,
+  /// Old marks stay beside the new ones / they are found by their wine, and go.
+  Old_Marks_Stay,
+  /// A taste is stored by its clicks / by its box, as an aroma is.
+  Tastes_Go_By_Clicks,
+  /// A general wine's marks show for the cellar's wine of its number / they do not.
+  Marks_Of_General_Wines_Show,
+  /// The dates that can be typed are not stored / they are.
+  Typed_Dates_Are_Not_Stored,
+  /// Pairings all taken out stay stored / they go.
+  Emptied_Pairings_Stay,
+  /// A MODIFY and a search count the pairings as used once more, each time / only those that a
+  /// wine newly has are counted, and those that it lost counted out.
+  Pairings_Count_Again,
+  /// A wine's rows of cheeses go by the pairing read last, and come again with each MODIFY / by the
+  /// pairing itself, once.
+  Cheese_Goes_By_Last_Record,
+  /// Counters move of the class and grape read last, and stay at MODIFY and REMOVE / of the label,
+  /// class and each grape that the wine has, has no longer, or is removed with.
+  Wrong_Rows_Are_Counted,
+  /// A counter at 32,767 is failure 6 / it stays where it is.
+  Full_Counter_Ends_The_Run,
+  /// What a removed wine had in other tables stays / it goes with the wine.
+  Rows_Of_Removed_Wine_Stay,
+  /// A wine's number above 32,767 is failure 6 to this screen and to some tables / it is not.
+  Wine_Numbers_Have_16_Bits,
+  /// The list of the cellar cannot be used after a SAVE / it can.
+  List_Is_Dead_After_Save,
+  /// What a wine refers to and is no longer there is 3021 / it shows as a blank, counts nothing.
+  Gone_Row_Ends_The_Run,
+
+  // ---- pickers and searches ----
+
+  /// A picker takes 101 entries, which PROCEED fails with (9), and refuses the next one in a number
+  /// alone / it takes 100, and says so.
+  Picker_Takes_One_Too_Many,
+  /// Two entries of one text cannot be chosen together / an entry is known by its key.
+  Same_Text_Is_Chosen_Once,
+  /// The chooser of a new wine's pairings begins empty each time / with what the wine has.
+  Chooser_Begins_Empty,
+  /// A search finds 99 wines, removed ones among them, in the order of the links / every wine that
+  /// is in a cellar, in the order of the cellar's list.
+  Search_Ends_At_A_Hundred,
+  /// UNCORK in the results searches for that wine's pairings / the results stay.
+  Uncork_Changes_The_Search,
+  /// Two headers of the results turn the order alone / they sort by their columns.
+  Two_Headers_Sort_Nothing,
+  /// The results do not say which cellar a wine lies in / they do, where two are named.
+  Results_Hide_The_Cellar,
+  /// A subgroup that no pairing has is 3021 or a pairing of the next group / left out.
+  Missing_Subgroup_Ends_The_Run,
+  /// A wine with more than 100 pairings is failure 9 / it shows the first 100, and keeps the rest
+  /// until its pairings are changed.
+  More_Pairings_End_The_Run,
+
+  // ---- the catalogue of pairings, the cellars' names ----
+
+  /// Beside English the catalogue shows Spanish, and stores it as the language in force / it shows
+  /// and stores the language in force.
+  Catalogue_Shows_Two_Languages,
+  /// MODIFY without a pick is 3021 / it is not open before.
+  Modify_Without_Pick_Ends_The_Run,
+  /// A new pairing reads "x" in five languages / the typed name stands in all.
+  New_Pairing_Reads_X,
+  /// A new pairing is one of the cheese that was read last / of none.
+  New_Pairing_Takes_Last_Cheese,
+  /// A cellar named "x" counts as not named / the name is refused.
+  Cellar_Can_Be_Named_X,
+  /// Naming the cellars anew adds a row each time / it changes those that are there.
+  Second_Naming_Adds_A_Row,
+};
+
+/// Whether the program behaves as designed in this. True for all, or False for all, from the start
+/// of a run to its end.
+bool Is_Kept(Fault fault);
+
+/// Mends them all, or keeps them all: at the start, before the first screen is made. They are kept
+/// until this is called.
+void Mend_Known_Faults(bool mended = true);

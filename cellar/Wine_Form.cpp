@@ -4,6 +4,7 @@
 #include "core/Common_Words.h"
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
+#include "core/Known_Faults.h"
 #include "core/MultiLanguage_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "links/Varieties_Processes.h"
@@ -64,7 +65,7 @@ void Wine_Form::Set_Up_Handlers() {
 // the lists must not lose it.
 void Wine_Form::Form_Load() {
   const Wineries_Record winery = Wineries;
-  Ignore_Events = true;
+  const Ignoring_Events ignoring;
   Load_Language_Words("Wine_Form");
   if (Command_Is("WineAdd")) Load_for_Add();
   if (Command_Is("WineMod")) Load_for_Mod();
@@ -75,7 +76,6 @@ void Wine_Form::Form_Load() {
   if (Command_Is("WineOtherMod")) Load_for_General_List("MODIFY Wine Information");
   Tell_What_Empty_Lists_Wait_for();
   Wineries = winery;
-  Ignore_Events = false;
 }
 
 void Wine_Form::Tell_What_Empty_Lists_Wait_for() {
@@ -95,6 +95,7 @@ void Wine_Form::Load_for_Add() {
   Set_Caption("Add New Wine to the Cellar");
   Multi_Functional_Command.Set_Enabled(false);
   Wine_Cellar_ListView.Set_BackColor(Forms::Locked_Color);
+  Stay_On_Esc();
   Wait_for_Country();
 }
 
@@ -104,6 +105,7 @@ void Wine_Form::Load_for_Mod() {
   Set_Caption("MODIFY Wine Information");
   Pairings_Add_Command.Set_Caption("Modify Pairing");
   Wine_Cellar_ListView.Set_Arrow_Keys_Pick(false);  // a pick throws away what was changed
+  Stay_On_Esc();
   Wait_for_Pick();
 }
 
@@ -162,6 +164,7 @@ void Wine_Form::Wait_for_Country() {
   Date_Added_Text.Set_Text(To_Text(Now()));
   Hide_Add_Commands();
   Country_Combo.SetFocus();
+  Take_as_Stored();
 }
 
 // The beginning of each correction: the wine is still to be picked.
@@ -176,6 +179,7 @@ void Wine_Form::Wait_for_Pick() {
   Setup_for_Message(pick_first);
   Show_Stand_Ins(true);
   Wine_Cellar_ListView.SetFocus();
+  Take_as_Stored();
 }
 
 // ---- coming back ----
@@ -219,8 +223,36 @@ void Wine_Form::Show_Requested_Wine() {
 
 // ---- leaving ----
 
+Text Wine_Form::Entered() {
+  Text entered;
+  const auto add = [&entered](const Text& part) { entered += part + "\n"; };
+  for (const Forms::Combo_Box* combo : std::initializer_list<const Forms::Combo_Box*>{
+           &Label_Combo, &Classification_Combo, &Vintage_Combo, &Peak_Year_Combo, &Merit_Combo,
+           &Bottle_Size_Combo, &Color_Combo}) {
+    add(To_Text(combo->ListIndex()));
+  }
+  for (const Forms::Text_Box* box : std::initializer_list<const Forms::Text_Box*>{
+           &Alcohol_Text, &Description_Text, &Comments_Text, &Total_Bottles_Text, &Price_Text,
+           &Date_Added_Text, &Last_Date_Uncorked_Text}) {
+    add(box->Text());
+  }
+  Each_Ticked_Variety([&](int grape) { add(Variety_Combo.Key(grape)); });
+  add(Boxes.Ticks());
+  for (int pairing = 0; pairing < Pairing_List.ListCount(); ++pairing) {
+    add(Pairing_List.List(pairing));
+  }
+  return entered;
+}
+
+bool Wine_Form::May_Lose_Entered() {
+  if (Is_Kept(Fault::Entered_Wine_Goes_Without_A_Word)) return true;
+  if (!Command_Is({"WineAdd", "WineMod"}) || Entered() == stored_) return true;
+  return Forms::Ask_Yes_No(Hint_Text(Screen_Words::Leave_Entered_Wine), "WINE NOT STORED",
+                           Forms::Answer::No);
+}
+
 void Wine_Form::Winery_Add_Command_Click() {
-  if (!Screen("Wineries_Form").Exists()) return;
+  if (!Screen("Wineries_Form").Exists() || !May_Lose_Entered()) return;
   Unload();
   Screen("Wineries_Form").Open();
 }
@@ -244,7 +276,7 @@ void Wine_Form::Winery_Combo_DblClick() {
 void Wine_Form::Exit_Command_Click() {
   if (Command_Is("CheeseParingsCellar")) {
     Screen("Cheeses_Form").Show();
-  } else {
+  } else if (May_Lose_Entered()) {
     Leave();
   }
 }

@@ -45,6 +45,12 @@ class Wine_Form : public Cellar_Wine_Screen {
   void Show_Requested_Wine();
   void Set_Up_Handlers();
   void Lay_Out();
+  /// All that the user can enter but where the wine comes from, as it stands.
+  Text Entered();
+  /// What stands there is stored, or was not entered: nothing of it would be lost.
+  void Take_as_Stored() { stored_ = Entered(); }
+  /// Whether to go on where that throws away what was entered. Asks if there is such.
+  bool May_Lose_Entered();
   void Winery_Add_Command_Click();
   void Label_Add_Command_Click();
   void Pairings_Add_Command_Click();
@@ -143,6 +149,9 @@ class Wine_Form : public Cellar_Wine_Screen {
   void Store_Pairings();
   void Count_Wine_In();
   void Count_Wine_Out();
+
+  Text stored_;
+  Text chosen_winery_;  ///< the key
 
   Forms::Command_Button Winery_Add_Command{*this, "Winery_Add_Command", "Add"};
   Forms::Command_Button Label_Add_Command{*this, "Label_Add_Command", "Add"};

@@ -22,6 +22,7 @@ void Wine_Form::Save_Wine() {
   Store_New_Wine();
   Boxes.Store_Marks_of(Wines.Wine_ID);
   Count_Wine_In();
+  Take_as_Stored();
   Winery_Combo.Set_ListIndex(0);
   Display_Current_Cellar();
   Wait_for_Country();
@@ -82,6 +83,7 @@ void Wine_Form::Modify_Wine() {
   Display_Current_Cellar();
   Multi_Functional_Command.Set_Enabled(false);
   Forms::Message_Box("Wine information was Modified.", "WINE INFORMATION UPDATED");
+  Take_as_Stored();
   Top_Window_Clean();
   Wait_for_Pick();
 }

@@ -80,6 +80,7 @@ void Wine_Form::Winery_Combo_Click() {
 }
 
 void Wine_Form::Winery_Chosen() {
+  chosen_winery_ = Winery_Combo.Key();
   Winery_Add_Command.Set_Enabled(false);
   Read_Winery_By_ID(To_Integer(Winery_Combo.Key()));
   Load_Region_Unique();
@@ -97,9 +98,15 @@ void Wine_Form::Winery_Chosen() {
   Pairings_Add_Command.Set_Enabled(true);
 }
 
+// Back on the first entry everything is filled anew.
 void Wine_Form::New_Winery_Chosen() {
+  if (!May_Lose_Entered()) {
+    Winery_Combo.Choose(chosen_winery_);
+    return;
+  }
   Winery_Add_Command.Set_Enabled(!Winery_Combo.Locked());
   Reset_Values();
+  Take_as_Stored();
 }
 
 void Wine_Form::Region_Combo_Click() {

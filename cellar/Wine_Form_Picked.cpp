@@ -35,6 +35,10 @@ void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
     item.Set_Selected(false);
     return;
   }
+  if (!May_Lose_Entered()) {
+    Wine_Cellar_ListView.Select(To_Text(Selected_Wine_ID));
+    return;
+  }
   Show_Stand_Ins(false);
   Checks_Locked = false;
   Selected_Wine_ID = To_Integer(Wine_Cellar_ListView.Key_of(item));
@@ -63,6 +67,7 @@ void Wine_Form::Picked_for_Mod() {
   Disable_Add_Buttons();
   Winery_Add_Command.Set_Visible(false);
   Pairings_Add_Command.Set_Enabled(true);
+  Take_as_Stored();
 }
 
 void Wine_Form::Picked_for_View() {

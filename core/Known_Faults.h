@@ -109,6 +109,8 @@ enum class Fault {
 /// Whether the program behaves as designed in this. True for all, or False for all, from the start
 /// of a run to its end.
 bool Is_Kept(Fault fault);
+/// Which of the two, for telling the user.
+bool Known_Faults_Are_Mended();
 
 /// Mends them all, or keeps them all: at the start, before the first screen is made. They are kept
 /// until this is called.

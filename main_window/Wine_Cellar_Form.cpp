@@ -1,8 +1,10 @@
 #include "main_window/Wine_Cellar_Form.h"
 
 #include "core/Cellar_Menu.h"
+#include "core/Common_Words.h"
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
+#include "core/Known_Faults.h"
 #include "core/MultiLanguage_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
@@ -37,7 +39,7 @@ void Wine_Cellar_Form::Lay_Out() {
   Corvale_Logo.Set_Picture(":/logo.svg");
   Set_Content(Column({Place(Picture1).Grow(), Corvale_Logo,
                       Row({Place(Image1).Centred(), Corvale_Label, Wait_Label, Stretch(),
-                           Version_Label, Language_Version_Label})}));
+                           Version_Label, Language_Version_Label, Known_Faults_Label})}));
   Set_Exit(Wine_Cellar_Exit);
 }
 
@@ -118,6 +120,8 @@ void Wine_Cellar_Form::Form_Load() {
   Read_Language_Words("Wine_Cellar_Form", *this);
   Initialize_Wine_Cellar_Language();
   Version_Label.Set_Caption("V " + Wine_System.Version);
+  Known_Faults_Label.Set_Caption(Hint_Text(Screen_Words::Faults_Mended));
+  Known_Faults_Label.Set_Visible(Known_Faults_Are_Mended());
   Set_Cellar_Menu();
 }
 

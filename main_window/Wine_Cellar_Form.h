@@ -45,6 +45,7 @@ class Wine_Cellar_Form : public Forms::Form {
   Forms::Label Wait_Label{*this, "Wait_Label", "Please wait while we load the system ...."};
   Forms::Label Version_Label{*this, "Version_Label"};
   Forms::Label Language_Version_Label{*this, "Language_Version_Label", "English Version"};
+  Forms::Label Known_Faults_Label{*this, "Known_Faults_Label"};
   Forms::Label Corvale_Label{*this, "Corvale_Label", "Corvale", Forms::Label::Kind::Title};
   Forms::Picture Corvale_Logo{*this, "Corvale_Logo"};
 

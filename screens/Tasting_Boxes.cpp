@@ -111,6 +111,12 @@ void Tasting_Boxes::Clear() {
   Aroma_Flags.Clear();
 }
 
+Text Tasting_Boxes::Ticks() {
+  Text ticks;
+  Each([&ticks](const Forms::Check_Box& box) { ticks += To_Text(box.Value()); });
+  return ticks;
+}
+
 void Tasting_Boxes::Offer(std::string_view english_color) {
   Clear();
   Each([](Forms::Check_Box& box) { box.Set_Visible(false); });

@@ -35,6 +35,8 @@ class Tasting_Boxes {
   void Set_Aroma_Visible(bool visible);
   /// No box is ticked and none flagged.
   void Clear();
+  /// Which are ticked: a "1" or "0" for each.
+  Text Ticks();
   /// Shows, cleared, the boxes that the colour offers: as many of each kind as `Wine_Taste_Type`
   /// has rows of it. 3021 for a colour without rows. `english_color` is written as in that table.
   void Offer(std::string_view english_color);

@@ -179,4 +179,6 @@ void Form::Set_Exit(Menu_Entry& entry, Exit exit) {
   data_->esc_leaves = exit == Exit::Leaves;
 }
 
+void Form::Stay_On_Esc() { data_->esc_leaves = false; }
+
 }  // namespace Forms

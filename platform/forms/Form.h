@@ -87,6 +87,9 @@ class Form {
   enum class Exit { Leaves, Ends_The_Run };
   void Set_Exit(Command_Button& button, Exit exit = Exit::Leaves);
   void Set_Exit(Menu_Entry& entry, Exit exit = Exit::Ends_The_Run);
+  /// Of a form on which something is entered to be stored: Esc does not leave it, whatever is open
+  /// at the moment.
+  void Stay_On_Esc();
   /// The button that commits what was entered or chosen: Ctrl+Enter clicks it, wherever the focus
   /// is; on a form of one page, where nothing is picked by Enter, so does Enter in a box of one
   /// line.

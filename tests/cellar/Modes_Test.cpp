@@ -13,6 +13,7 @@
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Guard.h"
 #include "tests/support/Cellar_Program.h"
+#include "tests/support/Faults_Mended.h"
 
 namespace {
 
@@ -261,6 +262,50 @@ TEST_F(Modes, A_new_winery_and_a_new_label_are_chosen_on_the_return) {
   EXPECT_EQ(Shown_Text("Winery_Combo"), Sample(1).name);
   EXPECT_EQ(Shown_Text("Comments_Text"), "typed before");
   EXPECT_EQ(screen.Tag(), "0");
+}
+
+// Where a question comes, No keeps all that stands there.
+TEST_F(Modes, What_was_entered_is_left_after_a_question_where_that_is_mended) {
+  for (int wine = 0; wine < 2; ++wine) Put_Wine(Sample_Wine());
+  for (const bool mended : {false, true}) {
+    const Faults_Mended faults(mended);
+    const auto leave = [mended](const Action& by, bool sure) {
+      const Box_Script boxes({sure});
+      by();
+      EXPECT_THAT(boxes.Said(),
+                  testing::Each("WINE NOT STORED? What was entered for this wine is not stored. "
+                                "Leave it unstored?"));
+      EXPECT_EQ(boxes.Boxes().size(), mended ? 1U : 0U);
+    };
+    const Action exit = [] { Click("Exit_Command"); };
+    const Action new_winery = [] { Choose("Winery_Combo", "New Winery"); };
+    Start();
+    EXPECT_EQ(Is_Seen("Known_Faults_Label"), mended);
+    Pick("Wine_Add");
+    Choose_Winery();
+    EXPECT_THAT(Told_By(exit), IsEmpty());
+    Pick("Wine_Add");
+    Press("Esc");
+    Choose_Winery();
+    Type_Into("Comments_Text", "Good");
+    Press("Esc");
+    leave(new_winery, false);
+    EXPECT_EQ(Shown_Text("Winery_Combo"), mended ? Sample().name : "New Winery");
+    EXPECT_EQ(Shown_Text("Comments_Text"), mended ? "Good" : "");
+    if (mended) leave(new_winery, true);
+    EXPECT_EQ(Shown_Text("Comments_Text"), "");
+    EXPECT_THAT(Told_By(exit), IsEmpty());
+    Pick("Wine_Mod");
+    Press("Esc");
+    Pick_Wine(1);
+    EXPECT_THAT(Told_By([] { Pick_Wine(2); }), IsEmpty());
+    Click("Aroma_Check_5");
+    leave([] { Pick_Wine(1); }, false);
+    auto& wines = screen.Get<Forms::List_View>(list);
+    EXPECT_EQ(wines.SelectedItem().SubItems(9), mended ? "2" : "1");
+    EXPECT_EQ(Is_Ticked("Aroma_Check_5"), mended);
+    if (mended) leave(exit, true);
+  }
 }
 
 TEST_F(Modes, Chosen_pairings_are_taken_over_once) {

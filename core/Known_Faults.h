@@ -18,7 +18,7 @@ enum class Fault {
   /// A grape that the region does not grow is neither shown nor stored again / it stands as a last
   /// entry, ticked.
   Unlisted_Grape_Is_Lost,
-  /// A color stored in another language leaves the color as it was / it is known by its place in
+  /// A colour stored in another language leaves the colour as it was / it is known by its place in
   /// any language.
   Color_Goes_By_Word,
   /// A blank alcohol and an old date of adding, shown and left as they are, are refused / accepted.

@@ -162,6 +162,7 @@ void Wine_Form::Wait_for_Country() {
   Winery_Add_Command.Set_Enabled(true);
   Pairings_Add_Command.Set_Enabled(false);
   Date_Added_Text.Set_Text(To_Text(Now()));
+  Keep_Shown_Dates();
   Hide_Add_Commands();
   Country_Combo.SetFocus();
   Take_as_Stored();

@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -73,6 +74,7 @@ class Wine_Form : public Cellar_Wine_Screen {
   void Initialize_Form_Data();
   void Initialize_Display_Data();
   void Initialize_Own_Fields();
+  void Initialize_Own_Lists();
   void Initialize_Winery();
   void Initialize_Label();
   void Initialize_Classification();
@@ -107,14 +109,23 @@ class Wine_Form : public Cellar_Wine_Screen {
   void Alcohol_Text_LostFocus();
   void Price_Text_LostFocus();
   void Date_Text_LostFocus(Forms::Text_Box& date);
+  /// What the fields of dates show is what the wine holds, until the user changes it.
+  void Keep_Shown_Dates();
+  bool Was_Changed(const Forms::Text_Box& date) const;
+  /// Where the user changed its field to a date that is accepted; `none` where he emptied it.
+  void Take_Changed_Date(const Forms::Text_Box& date, Date& stored, const Date& none) const;
 
   // ---- a stored wine on the fields ----
   void Memory_to_Form_for_Mod();
+  void Choose_Region();
   void Choose_Varieties();
   void Choose_In_Lists();
+  void Choose_Color();
 
   // ---- the list of the cellar ----
   void Display_Current_Cellar();
+  /// 3021 where it has gone and the fault is kept.
+  void Read_Winery_of_Wine();
   void Fill_Wine_List() override { Display_Current_Cellar(); }
   void Wine_Cellar_ListView_ItemClick(Forms::List_Item item);
   void Picked_for_Mod();
@@ -158,5 +169,7 @@ class Wine_Form : public Cellar_Wine_Screen {
   Forms::Command_Button Variety_Add_Command{*this, "Variety_Add_Command", "Add"};
   Forms::Command_Button Pairings_Add_Command{*this, "Pairings_Add_Command", "Add Pairings"};
   Forms::Command_Button Classification_Add_Command{*this, "Classification_Add_Command", "Add"};
+  std::map<const Forms::Text_Box*, Text> shown_dates_;
+
   Forms::Label Wine_Cellar_Name_Label{*this, "Wine_Cellar_Name_Label"};
 };

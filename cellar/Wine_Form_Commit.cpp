@@ -3,6 +3,7 @@
 #include "cellar/Wine_Form.h"
 #include "core/Data_Text.h"
 #include "core/Globals.h"
+#include "core/Known_Faults.h"
 #include "core/tables/Catalogue.h"
 #include "links/Link_Store.h"
 #include "links/Used_Counters.h"
@@ -27,7 +28,7 @@ void Wine_Form::Save_Wine() {
   Display_Current_Cellar();
   Wait_for_Country();
   Lock(Winery_Combo);
-  Wine_Cellar_ListView.Set_Enabled(false);
+  if (Is_Kept(Fault::List_Is_Dead_After_Save)) Wine_Cellar_ListView.Set_Enabled(false);
   Should_Multi_Command_Be_Enabled();
   Forms::Message_Box("This Wine was successfully ADDED to your Wine Cellar.",
                      "WINE ADDITION SUCCESSFULLY");
@@ -172,25 +173,32 @@ void Wine_Form::From_Form_to_Memory(const Numbers& numbers) {
   Wines.Alcohol = numbers.Alcohol;
   Wines.Clasification = Classification_Combo.Text();
   Wines.Comments = Store_Data_Text(Comments_Text, Wines.Comments);
+  Take_Changed_Date(Date_Added_Text, Wines.Date_Added, Wines.Date_Added);
+  Take_Changed_Date(Last_Date_Uncorked_Text, Wines.Last_Date_Uncorked, No_Date);
 }
 
 void Wine_Form::Varieties_to_Memory() {
   Wines.Variety.clear();
   Each_Ticked_Variety([this](int item) {
+    const Text& name = Variety_Combo.List(item);
     Wines.Variety_ID = To_Long(Variety_Combo.Key(item));
-    if (!Wines.Variety.empty()) Wines.Variety += ", ";
-    Wines.Variety += Variety_Combo.List(item);
+    if (!Wines.Variety.empty() && !name.empty()) Wines.Variety += ", ";
+    Wines.Variety += name;
   });
 }
 
 // The key of the row that holds the box's text, -1 for a new wine without one. Under WineMod a text
 // that is stored already cannot be changed: the row is not being edited (3020). Emptying the box is
-// such a change, and a wine without a text gets a row that says "x".
+// such a change, and a wine without a text gets a row that says "x". Mended, a change is stored, an
+// emptied text as "x", and what stays as it was is not touched.
 Long Wine_Form::Store_Data_Text(Forms::Text_Box& box, Long key) {
   const bool empty = Trim(box.Text()).empty();
+  if (box.Text() == "x" && !Is_Kept(Fault::Lone_X_Is_No_Text)) box.Set_Text("x ");
   if (Command_Is("WineAdd")) return empty ? -1 : Add_Data_Text(box.Text());
+  const bool kept = Is_Kept(Fault::Stored_Text_Cannot_Change);
+  if (!kept && Data_Text(key) == (empty ? " " : box.Text())) return key;
   if (empty) box.Set_Text("x");
-  return Change_Data_Text(key, box.Text(), Edit_First::No);
+  return Change_Data_Text(key, box.Text(), kept ? Edit_First::No : Edit_First::Yes);
 }
 
 void Wine_Form::Store_Varieties() {

@@ -4,6 +4,7 @@
 #include "cellar/Wine_Form.h"
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
+#include "core/Known_Faults.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
@@ -120,11 +121,12 @@ void Wine_Form::Region_Combo_Click() {
 }
 
 // The colour that a label fixes is set here, while events are ignored: it is not the user's choice,
-// so the boxes stay as they were and the colour does not count as chosen.
+// so the boxes stay as they were and the colour does not count as chosen. A stored label that has
+// gone is an entry without a row.
 void Wine_Form::Label_Combo_Click() {
-  if (Label_Combo.ListIndex() >= 2) {
-    Read_By_Key(Labels_Table, Label_Combo.Key());
-    if (Labels.Wine_Color != "x") Color_Combo.Set_ListIndex(Color_Index(Labels.Wine_Color));
+  if (Label_Combo.ListIndex() >= 2 && Find_By_Key(Labels_Table, Label_Combo.Key()) &&
+      Labels.Wine_Color != "x") {
+    Color_Combo.Set_ListIndex(Color_Index(Labels.Wine_Color));
   }
   Take_Choice(Label_Combo, Label_Add_Command);
 }
@@ -154,18 +156,20 @@ void Wine_Form::Variety_Combo_ItemCheck(int item) {
   Should_Multi_Command_Be_Enabled();
 }
 
+// A stored word that stands for no colour is a last entry, and leaves the boxes as they are.
 void Wine_Form::Color_Combo_Click() {
   Fill_In(Color_Combo);
-  Boxes.Offer(English_Color(Color_Combo.ListIndex()));
+  if (Color_Combo.ListIndex() < Color_Names.Bound()) {
+    Boxes.Offer(English_Color(Color_Combo.ListIndex()));
+  }
 }
 
 void Wine_Form::Bottle_Size_Combo_Click() { Fill_In(Bottle_Size_Combo); }
 
-// Also while events are ignored: the peak years follow every change of the vintage. The oldest
-// vintage of the list is no choice.
+// Also while events are ignored: the peak years follow every change of the vintage.
 void Wine_Form::Vintage_Combo_Click() {
   Fill_Peak_Years();
-  if (Vintage_Combo.ListIndex() > 0) {
+  if (Vintage_Combo.ListIndex() > 0 || !Is_Kept(Fault::Oldest_Vintage_Is_No_Choice)) {
     Fill_In(Vintage_Combo);
   } else {
     Require(Vintage_Combo);
@@ -186,11 +190,12 @@ void Wine_Form::Total_Bottles_Text_LostFocus() {
 
 void Wine_Form::Alcohol_Text_LostFocus() {
   const Text& text = Alcohol_Text.Text();
-  if (text.empty()) return;
+  const bool blank_counts = Is_Kept(Fault::Shown_Value_Is_Refused);
+  if (blank_counts ? text.empty() : Trim(text).empty()) return;
   Is_Refused(Alcohol_Text, Number_Fault("Alcohol", text, too_much_alcohol), illegal_number);
 }
 
-// A lone blank counts as empty here, as it does not in the field for alcohol.
+// A lone blank counts as empty here.
 void Wine_Form::Price_Text_LostFocus() {
   const Text& text = Price_Text.Text();
   if (Trim(text).empty()) return;
@@ -199,5 +204,27 @@ void Wine_Form::Price_Text_LostFocus() {
 
 void Wine_Form::Date_Text_LostFocus(Forms::Text_Box& date) {
   if (date.Locked() || Trim(date.Text()).empty()) return;
+  if (!Was_Changed(date) && !Is_Kept(Fault::Shown_Value_Is_Refused)) return;
   Is_Refused(date, Date_Fault(date.Text()), "ILLEGAL DATE");
+}
+
+void Wine_Form::Keep_Shown_Dates() {
+  for (const Forms::Text_Box* date : {&Date_Added_Text, &Last_Date_Uncorked_Text}) {
+    shown_dates_[date] = date->Text();
+  }
+}
+
+bool Wine_Form::Was_Changed(const Forms::Text_Box& date) const {
+  return date.Text() != shown_dates_.at(&date);
+}
+
+void Wine_Form::Take_Changed_Date(const Forms::Text_Box& date, Date& stored,
+                                  const Date& none) const {
+  if (Is_Kept(Fault::Typed_Dates_Are_Not_Stored) || !Was_Changed(date)) return;
+  const Text text = Trim(date.Text());
+  if (text.empty()) {
+    stored = none;
+  } else if (Date_Fault(text).empty()) {
+    stored = To_Date(text);
+  }
 }

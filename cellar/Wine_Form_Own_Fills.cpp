@@ -22,14 +22,18 @@ void Add_Numbers(Forms::Combo_Box& combo, int first, int last) {
 // The fields whose lists and texts do not come from the reference tables.
 void Wine_Form::Initialize_Own_Fields() {
   const Ignoring_Events ignoring;
-  Initialize_Vintage();
-  Initialize_Color();
+  Initialize_Own_Lists();
   Boxes.Clear();
-  Initialize_Bootle_Size();
-  Initialize_Merit();
   for (Forms::Text_Box* box : Text_Fields()) box->Set_Text("");
   Pairing_List.Clear();
   Checks_Locked = false;
+}
+
+void Wine_Form::Initialize_Own_Lists() {
+  Initialize_Vintage();
+  Initialize_Color();
+  Initialize_Bootle_Size();
+  Initialize_Merit();
 }
 
 // The peak years follow from the choice.

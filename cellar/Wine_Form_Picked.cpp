@@ -1,6 +1,7 @@
 // The list of the current cellar: filled, sorted, and the way to pick a wine.
 #include "cellar/Wine_Form.h"
 #include "core/Globals.h"
+#include "core/Known_Faults.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
@@ -23,10 +24,15 @@ void Wine_Form::Display_Current_Cellar() {
   for (Wines_Recordset.MoveFirst(); !Wines_Recordset.Eof(); Wines_Recordset.MoveNext()) {
     Read_Wines_Record();
     if (Wines.Cellar_ID != Current_Cellar_ID) continue;
-    Read_Row(Wineries_Table, Wines.Winery_ID);
+    Read_Winery_of_Wine();
     Add_Wine_to_List();
   }
   Close_Table(Wines_Recordset);
+}
+
+// With its winery gone, a wine shows without one, or ends the run.
+void Wine_Form::Read_Winery_of_Wine() {
+  if (!Find_Winery_of_Wine() && Is_Kept(Fault::Gone_Row_Ends_The_Run)) Wineries_Table.Read();
 }
 
 // This screen works on keys of 16 bits.
@@ -44,7 +50,7 @@ void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
   Selected_Wine_ID = To_Integer(Wine_Cellar_ListView.Key_of(item));
   Seek_Wine();
   Open_By_Key(Wineries_Table);
-  Read_Row(Wineries_Table, Wines.Winery_ID);
+  Read_Winery_of_Wine();
   Close_Table(Wines_Recordset);
   item.Set_Selected(true);
   if (Command_Is("WineMod")) Picked_for_Mod();
@@ -54,8 +60,8 @@ void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
 }
 
 void Wine_Form::Picked_for_Mod() {
-  Memory_to_Form_for_Mod();
   Remove_Message();
+  Memory_to_Form_for_Mod();
   UnLock_Top_Window();
   Multi_Functional_Command.Set_Caption("MODIFY");
   for (Forms::Lockable_Control* field : std::initializer_list<Forms::Lockable_Control*>{

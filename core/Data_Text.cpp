@@ -1,5 +1,6 @@
 #include "core/Data_Text.h"
 
+#include "core/Known_Faults.h"
 #include "core/Languages.h"
 #include "core/tables/Text_Tables.h"
 
@@ -7,7 +8,8 @@ Text Data_Text(Long key) {
   if (key == -1) return " ";
   Open_By_Key(Words_for_Data_Table);
   Words_for_Data_Recordset.Seek("=", key);
-  Text text = Words_for_Data_Recordset.Fields(Words_for_Data_Column()).As_Text();
+  const bool blank = Words_for_Data_Recordset.NoMatch() && !Is_Kept(Fault::Gone_Row_Ends_The_Run);
+  Text text = blank ? " " : Words_for_Data_Recordset.Fields(Words_for_Data_Column()).As_Text();
   Close_Table(Words_for_Data_Recordset);
   return text == "x" ? " " : text;
 }

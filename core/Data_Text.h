@@ -7,7 +7,7 @@
 #include "platform/run_time/Values.h"
 
 /// The text of the row in the language in force; one blank for the key -1 and where the row has no
-/// text in this language. 3021 for a key without a row.
+/// text in this language. A key without a row is 3021, or one blank where faults are mended.
 Text Data_Text(Long key);
 
 /// Adds a row that holds `text` in the language in force alone, and returns its key.

@@ -178,6 +178,19 @@ std::string_view English_Color(int index) {
   return english_colors.at(static_cast<std::size_t>(index));
 }
 
+int Color_Index_In_Any_Language(const Text& color) {
+  Load_Language_Words("Wine_Cellar_Form");
+  Move_Behind_Caption();
+  for (int index = 0; index < Color_Names.Bound(); ++index) {
+    for (const std::string_view language : Languages) {
+      const Text word = Words_Query.Fields(language).As_Text();
+      if (Upper_Case(word) == Upper_Case(color)) return index;
+    }
+    Words_Query.MoveNext();
+  }
+  return -1;
+}
+
 Text Replace_Key(std::string_view foreign) {
   Text english = " ";
   Open_Table(ReplaceKeys_Recordset, "ReplaceKeys");

@@ -74,6 +74,8 @@ Text Country_Long_Name(std::string_view short_name);
 Integer Color_Index(std::string_view color);
 /// The way back: the English word of a colour, 0 to 4.
 std::string_view English_Color(int index);
+/// 0 to 4 for a word of these in any language, whatever its case; -1 for any other.
+int Color_Index_In_Any_Language(const Text& color);
 /// The English word for a foreign one; one blank for a word that `ReplaceKeys` does not hold.
 Text Replace_Key(std::string_view foreign);
 /// The program's folder less its last part; "" where the path has no parts.

@@ -11,7 +11,8 @@ enum class Fault {
   /// A label or class that the lists do not hold ("No Label" among them) is failure 380 / it stands
   /// as a last entry, chosen, "No Label" at its own place, and is kept unless another is chosen.
   Gone_Name_Ends_The_Run,
-  /// A vintage or a peak outside its list shows and stores another year / the list takes it in.
+  /// A vintage or a peak outside its list shows and stores another year, a size of bottle none, a
+  /// merit another / the list takes it in.
   Unlisted_Year_Is_Lost,
   /// The first entry of the vintages is no choice / it is one as any other.
   Oldest_Vintage_Is_No_Choice,

@@ -32,6 +32,12 @@ void Apply_Language_Words(Forms::Form& form) {
   form.Choose_Mnemonics();
 }
 
+void Move_Behind_Caption() {
+  Words_Query.MoveFirst();
+  while (Words_Query.Fields("types_variable").As_Text() != "Frm") Words_Query.MoveNext();
+  Words_Query.MoveNext();
+}
+
 Text Next_Language_Word() {
   Text word = Words_Query.Fields(Words_Column()).As_Text();
   Words_Query.MoveNext();

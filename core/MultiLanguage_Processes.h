@@ -25,6 +25,10 @@ void Read_Language_Words(std::string_view form_key, Forms::Form& form);
 /// the form has none of this name), "Frm" the form, "Head" nothing.
 void Apply_Language_Words(Forms::Form& form);
 
+/// Moves to the row behind the form's own caption ("Frm"): there the words begin that name no
+/// control, for the main window the five colours first.
+void Move_Behind_Caption();
+
 /// The text of the current row of `Words_Query` in the language in force; moves to the next row.
 Text Next_Language_Word();
 

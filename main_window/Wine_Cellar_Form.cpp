@@ -126,9 +126,7 @@ void Wine_Cellar_Form::Form_Load() {
 }
 
 void Wine_Cellar_Form::Initialize_Wine_Cellar_Language() {
-  Words_Query.MoveFirst();
-  while (Words_Query.Fields("types_variable").As_Text() != "Frm") Words_Query.MoveNext();
-  Words_Query.MoveNext();
+  Move_Behind_Caption();
   for (int color = 1; color <= 5; ++color) Color_Names[color] = Next_Language_Word();
   for (int type = 1; type <= 10; ++type) Cheese_Types[type] = Next_Language_Word();
   for (int milk = 1; milk <= 6; ++milk) Milk_Types[milk] = Next_Language_Word();

@@ -1,6 +1,7 @@
 // The places of the fields, the list, and the uncorking.
 #include "screens/Cellar_Wine_Screen.h"
 
+#include "core/Known_Faults.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
@@ -101,6 +102,15 @@ std::vector<Forms::Text_Box*> Cellar_Wine_Screen::Text_Fields() {
 }
 
 // ---- the list ----
+
+bool Cellar_Wine_Screen::Find_Winery_of_Wine() {
+  const bool found = Find_Row(Wineries_Table, Wines.Winery_ID);
+  if (!found && !Is_Kept(Fault::Gone_Row_Ends_The_Run)) {
+    Wineries = {};
+    Wineries.Winery_ID = To_Text(Wines.Winery_ID);
+  }
+  return found;
+}
 
 void Cellar_Wine_Screen::Add_Wine_to_List() {
   Wine_Cellar_ListView.Add_Row(

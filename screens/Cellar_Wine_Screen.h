@@ -48,9 +48,15 @@ class Cellar_Wine_Screen : public Wine_Screen {
   void Load_Wine_Maridages();
   /// The region of the winery in the memory record, locked.
   void Load_Region_Unique();
-  static void Each_Variety_of_Wine(const std::function<void(const Text& variety_id)>& action);
+  /// With the name of each, which is "" where the grape has gone.
+  static void Each_Variety_of_Wine(
+      const std::function<void(const Text& variety_id, const Text& name)>& action);
 
   // ---- the list ----
+
+  /// Reads the winery of the wine; the table stands open by its keys. False where it has gone: the
+  /// memory record keeps the one before, or, mended, holds its key and blanks.
+  static bool Find_Winery_of_Wine();
 
   /// The wine and its winery as the last row.
   void Add_Wine_to_List();

@@ -50,23 +50,29 @@ void Cellar_Wine_Screen::Load_Region_Unique() {
   Lock(Region_Combo);
 }
 
-void Cellar_Wine_Screen::Each_Variety_of_Wine(const std::function<void(const Text&)>& action) {
+// The memory record of the grapes stays as it is: a counter goes by it.
+void Cellar_Wine_Screen::Each_Variety_of_Wine(
+    const std::function<void(const Text&, const Text&)>& action) {
+  Open_By_Key(Varieties_Table);
   Open_Table(Varieties_of_Wines_Recordset, "Varieties_of_Wines", "Wine_ID");
-  Each_Row_Of(Varieties_of_Wines_Recordset, "Wine_ID", Wines.Wine_ID,
-              [&] { action(Varieties_of_Wines_Recordset.Fields("Variety_ID").As_Text()); });
+  Each_Row_Of(Varieties_of_Wines_Recordset, "Wine_ID", Wines.Wine_ID, [&] {
+    const Text variety_id = Varieties_of_Wines_Recordset.Fields("Variety_ID").As_Text();
+    Varieties_Recordset.Seek("=", variety_id);
+    action(variety_id, Varieties_Recordset.NoMatch()
+                           ? Text()
+                           : Varieties_Recordset.Fields("Variety_Name").As_Text());
+  });
   Close_Table(Varieties_of_Wines_Recordset);
+  Close_Table(Varieties_Recordset);
 }
 
 void Cellar_Wine_Screen::Show_Varieties_Alone() {
   Variety_Combo.Clear();
   Variety_Combo.Set_BackColor(Forms::Locked_Color);
-  Open_By_Key(Varieties_Table);
-  Each_Variety_of_Wine([this](const Text& variety_id) {
-    Varieties_Recordset.Seek("=", variety_id);
-    Variety_Combo.Add(Varieties_Recordset.Fields("Variety_Name").As_Text(), variety_id);
+  Each_Variety_of_Wine([this](const Text& variety_id, const Text& name) {
+    Variety_Combo.Add(name, variety_id);
     Variety_Combo.Set_Selected(Variety_Combo.ListCount() - 1, true);
   });
-  Close_Table(Varieties_Recordset);
   Variety_Combo.Set_ListIndex(-1);
 }
 

@@ -115,7 +115,7 @@ void Add_Labels_of_Region(Keyed_List& list, Integer region_id) {
 }
 
 void Add_Varieties_of_Region(Keyed_List& list, Long region_id) {
-  Read_By_Key(Regions_Table, region_id);
+  if (!Find_By_Key(Regions_Table, region_id)) return;
   Load_Varieties_of_Region();
   for (int item = 1; item <= Decoded_Count; ++item) {
     list.Add(Decoded_Items[item].Name, To_Text(Decoded_Items[item].ID));

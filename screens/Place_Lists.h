@@ -36,7 +36,7 @@ void Add_Regions_And_Labels(Keyed_List& regions, Keyed_List& labels, const Text&
 void Add_Classifications_of_Country(Keyed_List& list, std::string_view country);
 void Add_Labels_of_Region(Keyed_List& list, Integer region_id);
 /// What the region grows. Leaves the region in its memory record, and in `Decoded_Items` its
-/// grapes. 3021 for a region that is not there.
+/// grapes. A region that is not there grows none, and leaves these as they are.
 void Add_Varieties_of_Region(Keyed_List& list, Long region_id);
 
 // ---- the whole list ----

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/Globals.h"
+#include "core/Known_Faults.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
@@ -124,7 +125,8 @@ void Tasting_Boxes::Offer(std::string_view english_color) {
   Wine_Taste_Type_Recordset.Seek("=", english_color);
   int taste_box = 0;
   int aroma_box = 0;
-  for (; !Wine_Taste_Type_Recordset.Eof(); Wine_Taste_Type_Recordset.MoveNext()) {
+  const bool none = Wine_Taste_Type_Recordset.NoMatch() && !Is_Kept(Fault::Gone_Row_Ends_The_Run);
+  for (; !none && !Wine_Taste_Type_Recordset.Eof(); Wine_Taste_Type_Recordset.MoveNext()) {
     Wine_Taste_Type_Description.Read(Wine_Taste_Type_Recordset, Wine_Taste_Type);
     if (Wine_Taste_Type.Color != english_color) break;
     if (Wine_Taste_Type.Type == taste) Taste_Check[taste_box++].Set_Visible(true);
@@ -145,7 +147,9 @@ void Tasting_Boxes::Show_Marks_of(Long wine_id) {
                    : Wine_Tasting.Type_Taste == aroma ? &Aroma_Check
                                                       : nullptr;
     const Integer box = Wine_Tasting.Description;
-    if (boxes != nullptr && box >= 0 && box <= boxes->Last()) (*boxes)[box].Set_Value(1);
+    if (boxes == nullptr || box < 0 || box > boxes->Last()) return;
+    (*boxes)[box].Set_Value(1);
+    if (!Is_Kept(Fault::Color_Goes_By_Word)) (*boxes)[box].Set_Visible(true);
   });
   Close_Table(Wine_Tasting_Recordset);
 }

@@ -38,10 +38,12 @@ class Tasting_Boxes {
   /// Which are ticked: a "1" or "0" for each.
   Text Ticks();
   /// Shows, cleared, the boxes that the colour offers: as many of each kind as `Wine_Taste_Type`
-  /// has rows of it. 3021 for a colour without rows. `english_color` is written as in that table.
+  /// has rows of it. A colour without rows is 3021, or offers none where faults are mended.
+  /// `english_color` is written as in that table.
   void Offer(std::string_view english_color);
 
-  /// Ticks what the rows of `Wine_Tasting` with this key say, flags nothing. Of the general list
+  /// Ticks what the rows of `Wine_Tasting` with this key say, flags nothing. Mended, a ticked box
+  /// can be seen whatever the colour offers. Of the general list
   /// only its own; for the cellar, a row of a wine of the other list with the same key shows as
   /// well.
   void Show_Marks_of(Long wine_id);

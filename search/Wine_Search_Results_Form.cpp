@@ -96,7 +96,7 @@ void Wine_Search_Results_Form::Get_WineResults_Records() {
   const int last = cut ? Found_Count - 1 : Found_Count;
   for (int found = 1; found <= last; ++found) {
     if (!Find_Row(Wines_Table, Found_IDs[found])) continue;
-    Find_Row(Wineries_Table, Wines.Winery_ID);  // where it has gone, the former one stays
+    Find_Winery_of_Wine();
     Add_Wine_to_List();
   }
   Close_Table(Wineries_Recordset);
@@ -125,7 +125,9 @@ void Wine_Search_Results_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item i
   Checks_Locked = false;
   Selected_Wine_ID = To_Long(Wine_Cellar_ListView.Key_of(item));
   Seek_Wine();
-  Find_By_Key(Wineries_Table, Wines.Winery_ID);
+  Open_By_Key(Wineries_Table);
+  Find_Winery_of_Wine();
+  Close_Table(Wineries_Recordset);
   Memory_to_Form_Unique();
   Show_Requested_in_Bold();
   item.Set_Selected(true);

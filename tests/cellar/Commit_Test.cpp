@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "tests/support/Cellar_Program.h"
+#include "tests/support/Faults_Mended.h"
 
 namespace {
 
@@ -253,6 +254,122 @@ TEST_F(Cellar_Commit, A_text_once_stored_cannot_be_modified_and_one_not_given_is
   EXPECT_EQ(Shown_Text("Description_Text"), " ");
   Expect_End(3020, [] { Click(button); });
   EXPECT_THAT(Texts_of("Description"), ElementsAre("x|x|x|x|x|x|x"));
+}
+
+TEST_F(Cellar_Commit, Mended_a_text_changes_and_a_lone_x_is_one) {
+  const Faults_Mended faults;
+  Wines_Record commented = Sample_Wine();
+  commented.Comments = Put_Text("Good", "Bueno");
+  Put_Wine(commented);
+  const std::size_t texts = Count_of_Texts();
+  Start_With("Wine_Mod");
+  for (const auto& [description, comments] :
+       {std::pair{" ", "Better"}, {"", ""}, {"x", " "}, {"x ", "X"}}) {
+    Pick_Wine(1);
+    Enter({{"Description_Text", description}, {"Comments_Text", comments}});
+    Modify();
+    EXPECT_EQ(Count_of_Texts(), texts + (*description == 'x' ? 1 : 0));
+    EXPECT_EQ(One("SELECT Description FROM Wines") == "-1", *description != 'x');
+    const Text stored = Trim(comments).empty() ? "x" : comments;
+    EXPECT_THAT(Texts_of("Comments"), ElementsAre(stored + "|Bueno|x|x|x|x|x"));
+  }
+  Mend_Known_Faults(false);
+  Start_With("Cellar1_View");
+  Pick_Wine(1);
+  Expect_Shown({{"Description_Text", "x "}, {"Comments_Text", "X"}});
+}
+
+// Each is seen, and stays stored by a MODIFY that changes nothing.
+TEST_F(Cellar_Commit, Mended_what_has_gone_or_stands_in_no_list_shows_and_is_kept) {
+  const Faults_Mended faults;
+  const Text gone = "999999";
+  const Text grape =
+      One("SELECT Variety_ID FROM Varieties WHERE Variety_ID NOT IN (SELECT Variety_ID FROM "
+          "Regions_Per_Variety WHERE Region_ID = " +
+          Sample().region_id + ")");
+  Wines_Record wine = Sample_Wine();
+  wine.Label = wine.Clasification = "No longer there";
+  std::tie(wine.Vintage, wine.Peak, wine.Ranking) = std::tuple(1950, 1940, 30);
+  wine.Variety = One("SELECT Variety_Name FROM Varieties WHERE Variety_ID = " + grape);
+  wine.Variety_ID = To_Long(grape);
+  wine.Bottle_Size = "1 keg";
+  wine.Color = "amber";
+  wine.Date_Added = Date::Of(1999, 12, 31, 23, 59, 58);
+  Put_Wine(wine, {gone, grape});
+  wine.Label = "x";
+  wine.Winery_ID = wine.Description = wine.Comments = To_Long(gone);
+  Put_Wine(wine, {gone, grape});
+  Wines_Description.Init(wine);  // its save was cut off
+  wine.Cellar_ID = 1;
+  wine.Variety_ID = To_Long(gone);
+  Put_Wine(wine, {gone});
+  Texts stored = Wine_Rows();
+  Start();
+  for (const Text entry : {"Cellar1_View", "Wine_Uncork", "Wine_Del", "Wine_Mod"}) {
+    Pick(entry);
+    const bool modifies = entry == "Wine_Mod";
+    for (const Long key : {1, 2, 3}) {
+      SCOPED_TRACE(entry + " " + To_Text(key));
+      Pick_Wine(key);
+      const bool whole = key < 3;
+      Expect_Shown({{"Winery_Combo", key == 1 ? Sample().name : ""},
+                    {"Country_Combo", key == 1 ? Sample().country_name : ""},
+                    {"Region_Combo", key == 1 ? Sample().region : ""},
+                    {"Label_Combo", key == 1 ? "No longer there" : "No Label"},
+                    {"Classification_Combo", whole ? "No longer there" : "NO Classification"},
+                    {"Vintage_Combo", whole ? "1950" : "-1"},
+                    {"Peak_Year_Combo", whole ? "1940" : "-1"},
+                    {"Merit_Combo", whole ? "30" : " "},
+                    {"Bottle_Size_Combo", whole ? "1 keg" : "x"},
+                    {"Color_Combo", whole ? "amber" : "x"},
+                    {"Description_Text", " "}});
+      EXPECT_THAT(Ticked_Rows("Variety_Combo").size(), whole ? 2U : 1U);
+      if (!modifies) continue;
+      if (key == 1) Enter({{"Label_Combo", Sample().label}, {"Label_Combo", "No longer there"}});
+      if (key == 1) Enter({{"Color_Combo", "White"}, {"Color_Combo", "amber"}});
+      Modify();
+    }
+    EXPECT_EQ(Shown_Rows("Wine_Cellar_ListView").size(), 3U);
+    Click("Exit_Command");
+  }
+  stored[2].replace(stored[2].find("|x|x|"), 5, "|x||");  // no names of grapes
+  stored[2].replace(stored[2].find("|x|-1|x|"), 8, "|x|-1|NO Classification|");
+  EXPECT_EQ(Wine_Rows(), stored);
+}
+
+TEST_F(Cellar_Commit, Dates_are_stored_and_what_was_shown_is_accepted_where_that_is_mended) {
+  for (const bool mended : {false, true}) {
+    const Faults_Mended faults(mended);
+    Wines_Record wine = Sample_Wine();
+    wine.Alcohol = -1;
+    wine.Date_Added = Date::Of(1999, 12, 31, 23, 59, 58);
+    wine.Last_Date_Uncorked = now_;
+    const Long old = Put_Wine(wine);
+    const auto dates = [&](Long key) {
+      return One("SELECT Date_Added, Last_Date_Uncorked FROM Wines WHERE Wine_ID = " +
+                 To_Text(key));
+    };
+    Start_With("Wine_Add");
+    Fill_Add();
+    Choose("Vintage_Combo", "1976");
+    EXPECT_EQ(Is_Usable(button), mended);
+    Choose("Vintage_Combo", "1977");
+    Enter({{"Date_Added_Text", "1/31/2020"}, {"Last_Date_Uncorked_Text", "2/28/2021"}});
+    Save();
+    EXPECT_EQ(Is_Usable("Wine_Cellar_ListView"), mended);
+    EXPECT_EQ(dates(old + 1), mended ? "1/31/2020 00:00:00|2/28/2021 00:00:00"
+                                     : To_Text(now_) + "|" + To_Text(No_Date));
+    Start_With("Wine_Mod");
+    Pick_Wine(old);
+    for (const char* field : {"Alcohol_Text", "Date_Added_Text"}) {
+      Click(field);
+      EXPECT_EQ(Told_By([] { Press("Tab"); }).size(), mended ? 0U : 1U) << field;
+      if (!mended) Type_Into(field, "");
+    }
+    Enter({{"Date_Added_Text", ""}, {"Last_Date_Uncorked_Text", ""}});
+    Modify();
+    EXPECT_EQ(dates(old), To_Text(wine.Date_Added) + "|" + To_Text(mended ? No_Date : now_));
+  }
 }
 
 TEST_F(Cellar_Commit, A_modify_that_finds_no_grapes_or_no_marks_ends_behind_the_wines_own_row) {

@@ -2,6 +2,7 @@
 // the button, what a text is refused for, and a stored wine on them.
 
 #include "tests/support/Cellar_Program.h"
+#include "tests/support/Faults_Mended.h"
 
 namespace {
 
@@ -222,6 +223,29 @@ TEST_F(Fields, A_stored_wine_shows_the_same_in_every_mode) {
                 UnorderedElementsAre(Sample().varieties[0], Sample().varieties[2]));
     EXPECT_THAT(Ticked_Boxes(), ElementsAre("Taste_Check_1", "Aroma_Check_7")) << entry;
     Click("Exit_Command");
+  }
+}
+
+TEST_F(Fields, A_grape_and_a_region_that_have_gone_end_no_run_and_a_word_of_color_may_be_known) {
+  Set_Language(german);
+  Wines_Record wine = Sample_Wine();
+  wine.Color = "bianco";
+  const Long key = Put_Wine(wine, {"999999", Sample().variety_ids[0]});
+  Remove_Rows("Regions", [this](const Record_Store::Recordset& row) {
+    return row.Fields("Region_ID").As_Text() == Sample().region_id;
+  });
+  for (const bool mended : {false, true}) {
+    const Faults_Mended faults(mended);
+    Start();
+    for (const Text entry : {"Cellar1_View", "Wine_Uncork", "Wine_Del", "Wine_Mod"}) {
+      Pick(entry);
+      Pick_Wine(key);
+      const bool lost = entry == "Wine_Mod" && !mended;
+      EXPECT_EQ(Ticked_Rows(grapes), lost ? Texts{} : Texts({"", Sample().varieties[0]})) << entry;
+      EXPECT_EQ(Shown_Text("Region_Combo"), lost ? "New Region" : Sample().region) << entry;
+      EXPECT_EQ(Shown_Text("Color_Combo"), lost ? "Rot" : entry == "Wine_Mod" ? "Weiß" : "bianco");
+      Click("Exit_Command");
+    }
   }
 }
 

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "tests/support/Cellar_Program.h"
+#include "tests/support/Faults_Mended.h"
 
 namespace {
 
@@ -127,6 +128,21 @@ TEST_F(Tasting, Marks_of_a_wine_are_shown_and_locked_boxes_stay_as_they_are) {
   Pick("Wine_Add");
   Click("Aroma_Check_0");
   EXPECT_THAT(Ticked_Boxes(), IsEmpty());
+}
+
+TEST_F(Tasting, A_picked_wine_offers_the_boxes_of_its_color_and_its_marks_where_that_is_mended) {
+  Keep_Marks_of("White", 2, 3);
+  Wines_Record wine = Sample_Wine();
+  wine.Color = "White";
+  Put_Mark(Put_Wine(wine), "Taste", 4);
+  for (const bool mended : {false, true}) {
+    const Faults_Mended faults(mended);
+    Start_With("Wine_Mod");
+    Pick_Wine(1);
+    EXPECT_EQ(Shown("Taste_Check_"), mended ? 2 : 6);
+    EXPECT_EQ(Shown("Aroma_Check_"), mended ? 3 : 8);
+    EXPECT_TRUE(Is_Seen("Taste_Check_4"));
+  }
 }
 
 }  // namespace

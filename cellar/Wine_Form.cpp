@@ -78,10 +78,14 @@ void Wine_Form::Form_Load() {
   Wineries = winery;
 }
 
+bool Wine_Form::Cellars_Are_Named() {
+  return Screen("Wine_Cellar_Form").Control("Wines_Cellar").Enabled();
+}
+
 void Wine_Form::Tell_What_Empty_Lists_Wait_for() {
-  const bool cellars_named = Screen("Wine_Cellar_Form").Control("Wines_Cellar").Enabled();
   Wine_Cellar_ListView.Set_Empty_Text(
-      !cellars_named ? Hint_To_Menu(Screen_Words::Name_Cellars_First, "Cellar_Main", "Cellar_Add")
+      !Cellars_Are_Named()
+          ? Hint_To_Menu(Screen_Words::Name_Cellars_First, "Cellar_Main", "Cellar_Add")
       : Command_Is("WineAdd") ? Hint_Text(Screen_Words::First_Wine)
                               : Hint_To_Menu(Screen_Words::No_Wines_Yet, "Wine_Main", "Wine_Add"));
   if (!Command_Is("WineAdd")) return;

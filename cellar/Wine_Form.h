@@ -40,6 +40,7 @@ class Wine_Form : public Cellar_Wine_Screen {
   void Load_for_Display(const char* caption);
   void Wait_for_Country();
   void Wait_for_Pick();
+  static bool Cellars_Are_Named();
   void Tell_What_Empty_Lists_Wait_for();
   void Update_for_New_Winery();
   void Take_Over_Pairings();

@@ -9,10 +9,11 @@
 #include "platform/run_time/Conversions.h"
 #include "screens/Field_States.h"
 
-// A cellar without a name has "x" for one.
+// A cellar without a name has "x" for one, and so may a second cellar with a name.
 void Wine_Form::Display_Current_Cellar() {
   const Text name = Trim(Current_Cellar_Name);
-  Wine_Cellar_Name_Label.Set_Caption(name == "x" ? "" : name);
+  const bool named = Is_Kept(Fault::Cellar_Can_Be_Named_X) ? name != "x" : Cellars_Are_Named();
+  Wine_Cellar_Name_Label.Set_Caption(named ? name : "");
   Current_Cellar_Label.Set_Caption("Current Cellar List");
   Open_Table(Wines_Recordset, "Wines");
   if (Wines_Recordset.RecordCount() == 0) {

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/Globals.h"
+#include "core/Known_Faults.h"
 #include "core/Languages.h"
 #include "core/MultiLanguage_Processes.h"
 #include "core/Ownership.h"
@@ -63,12 +64,20 @@ Pairing_Address Next_Address_of_User() {
   return highest >= subgroups ? Pairing_Address{group + 1, 1} : Pairing_Address{group, highest + 1};
 }
 
+// A cheese, a category and the names in the other languages have no default of their own.
+void Begin_New_Maridage() {
+  if (!Is_Kept(Fault::New_Pairing_Takes_Last_Cheese)) Maridages = {};
+  Init_Maridages_Record();
+  if (Is_Kept(Fault::New_Pairing_Reads_X)) return;
+  for (const auto name : Language_Members<Maridages_Record>()) Maridages.*name = New_Maridage_Text;
+}
+
 // The two names are written into the row once it is there and the last one.
 void Store_New_Maridage(const Pairing_Address& address) {
   constexpr Long longest_name = 100;
   constexpr Integer for_every_use = 3;
   Maridages_Recordset.AddNew();
-  Init_Maridages_Record();
+  Begin_New_Maridage();
   Maridages.Maridage_Name = Left(New_Maridage_Text, longest_name);
   Maridages.Maridage_Group = address.group;
   Maridages.Maridage_SubGr = address.subgroup;

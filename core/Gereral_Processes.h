@@ -93,7 +93,8 @@ inline Text New_Maridage_Text;
 inline Text New_Maridage_Other_Text;
 /// Adds it at the user's next free address: groups from 1,000,000 on, ten to a group. False, and
 /// nothing is added, where the language in force has a pairing of this name, whatever its case. A
-/// new row stores what the memory record of `Maridages` holds for `Cheese_ID` and `CAT_ID`.
+/// new row stores what the memory record of `Maridages` holds for `Cheese_ID` and `CAT_ID`, and "x"
+/// as the name in the other languages; without these known faults no cheese, and the first name.
 bool Add_New_Maridage();
 
 // ---- ordered queries: each opens the table and, beside it, the query; the caller closes both ----

@@ -1,10 +1,14 @@
 #include "links/Link_Search.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <string_view>
 #include <unordered_set>
+#include <vector>
 
+#include "core/Known_Faults.h"
+#include "core/tables/Catalogue.h"
 #include "links/Link_Builds.h"
 #include "links/Link_Table.h"
 #include "links/Varieties_Processes.h"
@@ -15,20 +19,30 @@ namespace {
 
 constexpr int most_found = 100;
 
-/// The links, how the selection becomes groups, and what is said of nothing found.
+using Record_Store::Field;
+
+/// The links and whom they lead to, how the selection becomes groups, and what is said of nothing
+/// found.
 struct Owner_Search {
   const Link_Table& links;
+  Link_Table owners;
   void (*build)();
   const char* text;
   const char* title;
 };
-const Owner_Search wines{Pairings_of_Wines, Build_Wine_Maridage_Groups,
+const Owner_Search wines{Pairings_of_Wines,
+                         {Wines_Recordset, "Wines", "Wine_ID"},
+                         Build_Wine_Maridage_Groups,
                          "There are NO wines with\rANY of the pairings selected !!!",
                          "NO Wines found"};
-const Owner_Search mobile_wines{Pairings_of_Mobile_Wines, Build_Mobile_Search_Groups,
+const Owner_Search mobile_wines{Pairings_of_Mobile_Wines,
+                                {Mobile_Wines_Recordset, "Mobile_Wines", "Mobile_Wine_ID"},
+                                Build_Mobile_Search_Groups,
                                 "There are NO Wines with\rANY of the pairings selected !!!",
                                 "NO Wines found"};
-const Owner_Search regions{Varieties_of_Regions, Build_Region_Variety_Groups,
+const Owner_Search regions{Varieties_of_Regions,
+                           {Regions_Recordset, "Regions", "Region_ID"},
+                           Build_Region_Variety_Groups,
                            "There are NO Regions with\rANY of the varieties selected !!!",
                            "NO Regions found"};
 
@@ -39,6 +53,20 @@ bool Masks_Meet(std::int64_t one, std::int64_t other) {
   return std::string_view(digits.begin(), end).find('2') != std::string_view::npos;
 }
 
+// Calls `take(owner)` for each row of a merged group that matches. False where that ended the walk.
+template <class Take>
+bool Each_Match(const Link_Table& links, int group, const Take& take) {
+  const Record_Store::Recordset& rows = links.rows;
+  const int mask_at = rows.Ordinal("SUBCATEGO");
+  const int owner_at = rows.Ordinal(links.owner);
+  const Long mask = Group_Masks[group];
+  return Each_Row_Of(links.rows, "GROUP", To_Long(Group_Keys[group] * 10.0), [&] {
+    return !Masks_Meet(rows.Fields(mask_at).As_Long(), mask) || take(rows.Fields(owner_at));
+  });
+}
+
+// ---- up to a hundred, as they come ----
+
 // False where the search is full.
 bool Take_Found(const Text& key) {
   ++Found_Count;
@@ -47,28 +75,48 @@ bool Take_Found(const Text& key) {
   return true;
 }
 
-// The rows of one merged group. False where the search is full.
-bool Search_Group(const Link_Table& links, Long group, Long mask) {
-  const Record_Store::Recordset& rows = links.rows;
-  const int mask_at = rows.Ordinal("SUBCATEGO");
-  const int owner_at = rows.Ordinal(links.owner);
-  return Each_Row_Of(links.rows, "GROUP", group, [&] {
-    return !Masks_Meet(rows.Fields(mask_at).As_Long(), mask) ||
-           Take_Found(rows.Fields(owner_at).As_Text());
-  });
+void Find_First_Ones(const Link_Table& links) {
+  const auto take = [](const Field& owner) { return Take_Found(owner.As_Text()); };
+  for (int group = 1; group <= Group_Count && Each_Match(links, group, take); ++group) {
+  }
+  Compact_Found_IDs();
+}
+
+// ---- every one that is still there, in the order of its own table ----
+
+std::vector<Long> Matching_Owners(const Link_Table& links) {
+  std::vector<Long> owners;
+  const auto take = [&owners](const Field& owner) {
+    owners.push_back(owner.As_Long());
+    return true;
+  };
+  for (int group = 1; group <= Group_Count; ++group) Each_Match(links, group, take);
+  std::ranges::sort(owners);
+  const auto doubles = std::ranges::unique(owners);
+  owners.erase(doubles.begin(), doubles.end());
+  return owners;
+}
+
+void Find_All(const Owner_Search& search) {
+  const Link_Table& owners = search.owners;
+  Open_Table(owners.rows, owners.name, owners.owner);
+  for (const Long owner : Matching_Owners(search.links)) {
+    owners.rows.Seek("=", owner);
+    if (!owners.rows.NoMatch()) Found_IDs[++Found_Count] = To_Text(owner);
+  }
+  Close_Table(owners.rows);
 }
 
 void Run(const Owner_Search& search) {
   search.build();
   Open_Table(search.links.rows, search.links.name, "GROUP");
   Found_Count = 0;
-  for (int group = 1; group <= Group_Count; ++group) {
-    if (!Search_Group(search.links, To_Long(Group_Keys[group] * 10.0), Group_Masks[group])) break;
+  if (Is_Kept(Fault::Search_Ends_At_A_Hundred)) {
+    Find_First_Ones(search.links);
+  } else {
+    Find_All(search);
   }
-  if (Found_Count > 0) {
-    Compact_Found_IDs();
-    return;
-  }
+  if (Found_Count > 0) return;
   Forms::Message_Box(search.text, search.title, Forms::Sign::Warning);
   Close_Table(search.links.rows);
 }
@@ -80,7 +128,9 @@ void Search_Mobile_Wines_for_Maridages() { Run(mobile_wines); }
 void Search_Regions_for_Varieties() { Run(regions); }
 
 // Where the hundredth match brings a double with it, fewer than a hundred are left.
-bool Search_Was_Cut() { return Found_Count == most_found; }
+bool Search_Was_Cut() {
+  return Is_Kept(Fault::Search_Ends_At_A_Hundred) && Found_Count == most_found;
+}
 
 bool Row_Matches_Mask(Long mask) {
   return Masks_Meet(Maridages_Per_Wines_Recordset.Fields("SUBCATEGO").As_Long(), mask);
@@ -92,7 +142,7 @@ bool Row_Matches_Mobile_Mask(Long mask) {
 
 bool Compact_Found_IDs() {
   std::unordered_set<Text> seen;
-  Integer kept = 0;
+  Long kept = 0;
   for (int found = 1; found <= Found_Count; ++found) {
     if (seen.insert(Found_IDs[found]).second) Found_IDs[++kept] = Found_IDs[found];
   }

@@ -1,9 +1,13 @@
 // Which owners have something in common with a selection: the searches.
 //
-// An owner is found when at least one of its items is selected, and it is found once; the order is
-// that of the merged groups and, within one, of the link table. `Found_Count` and `Found_IDs` hold
-// the result, at most 100: where a hundredth match comes and none of the ninety-nine before it is
-// a double, the search ends, and place 100 keeps what it held, which is no key.
+// An owner is found when at least one of its items is selected, and it is found once; `Found_Count`
+// and `Found_IDs` hold the result.
+//
+// As designed, the order is that of the merged groups and, within one, of the link table; owners
+// whose row has gone are among them, and there are at most 100: where a hundredth match comes and
+// none of the ninety-nine before it is a double, the search ends, and place 100 keeps what it held,
+// which is no key. Without this known fault it is every owner that has a row, in the order of
+// these; the owners' table is closed afterwards.
 //
 // Where something was found the link table stays open; where nothing was, a box says so.
 #pragma once

@@ -5,7 +5,8 @@
 #include "core/tables/Link_Tables.h"
 #include "core/tables/Pairing_Tables.h"
 
-/// A table of group link rows or of pair rows, and the field of the rows' owner.
+/// A table of group link rows or of pair rows, or the owners' own, and the field of the owner's
+/// key.
 struct Link_Table {
   Record_Store::Recordset& rows;
   const char* name;

@@ -3,9 +3,11 @@
 // A group link row holds an owner, a group (times ten) and a decimal mask: its digit n, from the
 // right, is 1 for subgroup n of the group, up to ten of them. Selections become such rows in
 // Link_Store.h, rows become lists again in Link_Decoders.h, and Link_Search.h finds the owners that
-// a selection has something in common with. They hand over through the arrays below, all of which
-// count from 1, hold 100 entries (a 101st is failure 9) and are never cleared.
+// a selection has something in common with. They hand over through the arrays below, which count
+// from 1 and are never cleared; all but one hold 100 entries (a 101st is failure 9).
 #pragma once
+
+#include <vector>
 
 #include "platform/run_time/Bounded_Array.h"
 #include "platform/run_time/Values.h"
@@ -75,8 +77,22 @@ inline Long Decoded_Mask = 0;   ///< its subgroups still to be read
 
 // ---- what a search found ----
 
-inline Integer Found_Count = 0;
-inline Bounded_Array<Text, 100> Found_IDs;  ///< keys, as text
+/// As many texts as are put there, from 1 on; a place that was never set is "".
+class Found_Keys {
+ public:
+  Text& operator[](int at) {
+    const auto place = static_cast<std::size_t>(at);
+    if (place >= keys_.size()) keys_.resize(place + 1);
+    return keys_[place];
+  }
+  void Clear() { keys_.clear(); }
+
+ private:
+  std::vector<Text> keys_;
+};
+
+inline Long Found_Count = 0;
+inline Found_Keys Found_IDs;  ///< as text
 
 // ---- masks ----
 

@@ -2,6 +2,7 @@
 
 #include "core/Cellar_Menu.h"
 #include "core/Globals.h"
+#include "core/Known_Faults.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
@@ -48,9 +49,12 @@ void Cellar_Names_Form::Form_Load() {
   }
 }
 
+// "x" stands for cellars that were not named yet.
 void Cellar_Names_Form::Name_Text_Change(Forms::Text_Box& changed) {
   if (filling_) return;
-  Require_Unless(!Trim(changed.Text()).empty(), changed);
+  const Text name = Trim(changed.Text());
+  const bool is_name = !name.empty() && (name != "x" || Is_Kept(Fault::Cellar_Can_Be_Named_X));
+  Require_Unless(is_name, changed);
   General_Command.Set_Enabled(All_Filled({&Cellar1_Name_Text, &Cellar2_Name_Text}));
 }
 
@@ -64,7 +68,12 @@ void Cellar_Names_Form::Name_Cellars() {
   Cellars_Recordset.Edit();
   Cellars_Recordset.Fields("Cellar_Name") = Cellar1_Name_Text.Text();
   Cellars_Recordset.Update();
-  Cellars_Recordset.AddNew();
+  Cellars_Recordset.MoveNext();
+  if (Cellars_Recordset.Eof() || Is_Kept(Fault::Second_Naming_Adds_A_Row)) {
+    Cellars_Recordset.AddNew();
+  } else {
+    Cellars_Recordset.Edit();
+  }
   Cellars_Recordset.Fields("Cellar_Name") = Cellar2_Name_Text.Text();
   Cellars_Recordset.Update();
   Current_Cellar_Name = Cellar1_Name_Text.Text();

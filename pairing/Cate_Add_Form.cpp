@@ -4,6 +4,7 @@
 
 #include "core/Common_Words.h"
 #include "core/Gereral_Processes.h"
+#include "core/Known_Faults.h"
 #include "core/Languages.h"
 #include "core/tables/Catalogue.h"
 #include "platform/run_time/Conversions.h"
@@ -74,6 +75,13 @@ void Cate_Add_Form::Cate_Add_Form_Language_Initialize() {
   Words.Caption(*this);
 }
 
+// As designed the header is the same in every language.
+Text Cate_Add_Form::Second_Header() {
+  const Integer beside =
+      Is_Kept(Fault::Catalogue_Shows_Two_Languages) ? spanish : std::max(System_Language, spanish);
+  return Text(Languages.at(Language_Place(beside)));
+}
+
 // The list names what is stored in English, and beside it what is stored in the user's language.
 void Cate_Add_Form::Load_Current_Maridages() {
   Maridages_ListView.Clear();
@@ -127,15 +135,24 @@ void Cate_Add_Form::Load_for_Mod() {
 
 void Cate_Add_Form::CatText_Change() {
   const bool given = !CatText.Text().empty();
-  Cat_Add_Now.Set_Enabled(given);
+  const bool row_is_known = !Command_Is("MaridageMod") || !picked_.empty() ||
+                            Is_Kept(Fault::Modify_Without_Pick_Ends_The_Run);
+  Cat_Add_Now.Set_Enabled(given && row_is_known);
   Require_Unless(given, CatText);
 }
 
-// English and Spanish alone, whatever the language.
+// As designed English and Spanish alone, whatever the language: a change is stored as what the
+// labels say.
 void Cate_Add_Form::Show_Boxes() {
-  const bool spanish_first = System_Language == spanish;
-  CatText.Set_Text(spanish_first ? Maridages.Spanish : Maridages.English);
-  CAT_Other_Language_Text.Set_Text(spanish_first ? Maridages.English : Maridages.Spanish);
+  const bool by_language =
+      System_Language == spanish || !Is_Kept(Fault::Catalogue_Shows_Two_Languages);
+  const Integer first = by_language ? System_Language : First_Language;
+  const Integer second = first == First_Language ? spanish : First_Language;
+  const auto name = [](Integer language) {
+    return Maridages.*Language_Members<Maridages_Record>().at(Language_Place(language));
+  };
+  CatText.Set_Text(name(first));
+  CAT_Other_Language_Text.Set_Text(name(second));
 }
 
 void Cate_Add_Form::Maridages_ListView_ItemClick(Forms::List_Item item) {

@@ -19,6 +19,7 @@ class Cate_Add_Form : public Command_Form {
  private:
   void Lay_Out();
   void Cate_Add_Form_Language_Initialize();
+  static Text Second_Header();
   void Load_Current_Maridages();
   void Define_Other_Language();
   void Load_for_Add();
@@ -40,7 +41,7 @@ class Cate_Add_Form : public Command_Form {
   Row_List Maridages_ListView{*this,
                               "Maridages_ListView",
                               {{"English", 40, false, false, 1},
-                               {"Spanish", 40, false, false, 1},
+                               {Second_Header(), 40, false, false, 1},
                                {"Maridage_ID", 8, true, true}}};
   Forms::Label CatLabel{*this, "CatLabel", "Please type the new Category"};
   Forms::Label Cat_Language1_Label{*this, "Cat_Language1_Label", "Category in English:"};

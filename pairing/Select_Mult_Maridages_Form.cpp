@@ -38,7 +38,7 @@ bool Select_Mult_Maridages_Form::Is_Search() const {
 // Once, at the load: the user who comes back from the results finds what was chosen before.
 void Select_Mult_Maridages_Form::Load_Chosen() {
   Clear_Chosen();
-  if (Command_Is("WineMod")) Choose_Pairings_of_Wine();
+  Choose_Pairings_of_Wine();
   if (Command_Is({"VarietyMod", "VarietyPairings"})) {
     Choose_Those_of("Varieties_Form", "Suggested_Pairings_List", "Suggested_Pairings_Index_List");
   }

@@ -9,20 +9,30 @@
 #include "platform/run_time/Conversions.h"
 #include "screens/Field_States.h"
 
+namespace {
+
+std::vector<Forms::List_Column> Columns(const std::array<int, 9>& widths,
+                                        const std::vector<Forms::List_Column>& more) {
+  std::vector<Forms::List_Column> columns{{"Vintage", widths[0]},
+                                          {"Winery", widths[1], false, false, 3},
+                                          {"Label", widths[2], false, false, 3},
+                                          {"Wine Region", widths[3], false, false, 1},
+                                          {"Grape Variety", widths[4], false, false, 3},
+                                          {"Color", widths[5]},
+                                          {"Merit", widths[6], false, true},
+                                          {"Peak", widths[7], false, true},
+                                          {"Stock", widths[8], false, true}};
+  columns.insert(columns.end(), more.begin(), more.end());
+  columns.push_back({"ID", 4, false, true});
+  return columns;
+}
+
+}  // namespace
+
 Cellar_Wine_Screen::Cellar_Wine_Screen(std::string_view name, std::string_view caption,
-                                       const Widths& widths, std::vector<std::string> words)
-    : Wine_Screen(name, caption, Wine_List::Cellar,
-                  {{"Vintage", widths[0]},
-                   {"Winery", widths[1], false, false, 3},
-                   {"Label", widths[2], false, false, 3},
-                   {"Wine Region", widths[3], false, false, 1},
-                   {"Grape Variety", widths[4], false, false, 3},
-                   {"Color", widths[5]},
-                   {"Merit", widths[6], false, true},
-                   {"Peak", widths[7], false, true},
-                   {"Stock", widths[8], false, true},
-                   {"ID", 4, false, true}},
-                  std::move(words)) {
+                                       const Widths& widths, std::vector<std::string> words,
+                                       const std::vector<Forms::List_Column>& more)
+    : Wine_Screen(name, caption, Wine_List::Cellar, Columns(widths, more), std::move(words)) {
   constexpr int winery = 1;
   Wine_Cellar_ListView.Set_Search_Column(winery);
 
@@ -112,8 +122,8 @@ bool Cellar_Wine_Screen::Find_Winery_of_Wine() {
   return found;
 }
 
-void Cellar_Wine_Screen::Add_Wine_to_List() {
-  Wine_Cellar_ListView.Add_Row(
+Forms::List_Item Cellar_Wine_Screen::Add_Wine_to_List() {
+  return Wine_Cellar_ListView.Add_Row(
       To_Text(Wines.Wine_ID),
       {To_Text(Wines.Vintage), Wineries.Winery_Name, Wines.Label == "x" ? Text() : Wines.Label,
        Wineries.Region, Wines.Variety, Wines.Color,

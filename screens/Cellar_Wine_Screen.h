@@ -17,9 +17,10 @@ class Cellar_Wine_Screen : public Wine_Screen {
   /// How wide the columns of the list begin, in characters.
   using Widths = std::array<int, 9>;
   /// `words` tells what these columns answer to when a header is clicked; that of the keys answers
-  /// to nothing.
+  /// to nothing. `more` are columns of the screen's own, ahead of the keys.
   Cellar_Wine_Screen(std::string_view name, std::string_view caption, const Widths& widths,
-                     std::vector<std::string> words);
+                     std::vector<std::string> words,
+                     const std::vector<Forms::List_Column>& more = {});
 
   /// Fills the list anew. Called after a bottle was uncorked.
   virtual void Fill_Wine_List() = 0;
@@ -58,8 +59,10 @@ class Cellar_Wine_Screen : public Wine_Screen {
   /// memory record keeps the one before, or, mended, holds its key and blanks.
   static bool Find_Winery_of_Wine();
 
+  static constexpr int Stock_Column = 8;
+  static constexpr int First_Own_Column = 9;
   /// The wine and its winery as the last row.
-  void Add_Wine_to_List();
+  Forms::List_Item Add_Wine_to_List();
 
   // ---- the writes ----
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Globals.h"
+#include "core/Known_Faults.h"
 #include "core/Languages.h"
 #include "core/MultiLanguage_Processes.h"
 #include "core/tables/Catalogue.h"
@@ -15,7 +16,7 @@ using Forms::Screen;
 
 namespace {
 
-constexpr int most_before_refusal = 100;
+constexpr int most_handed_on = 100;
 constexpr const char* main_window = "Wine_Cellar_Form";
 constexpr const char* results = "Wine_Search_Results_Form";
 
@@ -59,9 +60,12 @@ void Picker_Form::Choose_Those_of(const char* screen, const char* list, const ch
   }
 }
 
-// The list on the wine's screen is the selection; the keys beside it may be older.
+// Of a stored wine the list on its screen is the selection; the keys beside it may be older.
 void Picker_Form::Choose_Pairings_of_Wine() {
-  if (!Screen("Wine_Form").Is_Loaded()) return;
+  if (Command_Is("WineAdd") && !Is_Kept(Fault::Chooser_Begins_Empty)) {
+    Choose_Those_of("Wine_Form", "Pairing_List", "Pairing_Index_List");
+  }
+  if (!Command_Is("WineMod") || !Screen("Wine_Form").Is_Loaded()) return;
   const auto& pairings = Screen("Wine_Form").Get<Forms::List_Box>("Pairing_List");
   for (int pairing = 1; pairing <= pairings.ListCount(); ++pairing) {
     Choose({pairings.List(pairing - 1), Selected_IDs[pairing]});
@@ -69,10 +73,26 @@ void Picker_Form::Choose_Pairings_of_Wine() {
 }
 
 bool Picker_Form::Is_Chosen(const Entry& entry) const {
-  for (int place = 0; place < SelectList.ListCount(); ++place) {
+  const bool by_text = Is_Kept(Fault::Same_Text_Is_Chosen_Once);
+  for (int place = 0; by_text && place < SelectList.ListCount(); ++place) {
     if (Trim(SelectList.List(place)) == Trim(entry.text)) return true;
   }
   return SelectList.Place_Of(entry.key) >= 0;
+}
+
+bool Picker_Form::Is_Full() const {
+  const int most = Is_Kept(Fault::Picker_Takes_One_Too_Many) ? most_handed_on + 1 : most_handed_on;
+  return SelectList.ListCount() >= most;
+}
+
+// As designed it says no more than the number.
+void Picker_Form::Refuse_Another() {
+  if (Is_Kept(Fault::Picker_Takes_One_Too_Many)) {
+    Forms::Message_Box("\r  100", "", Forms::Sign::Warning);
+  } else {
+    Forms::Message_Box(Hint_Text(Screen_Words::Picker_Full, {To_Text(most_handed_on)}),
+                       Hint_Text(Screen_Words::Picker_Full_Title), Forms::Sign::Warning);
+  }
 }
 
 void Picker_Form::Show_Chosen() {
@@ -83,12 +103,11 @@ void Picker_Form::Show_Chosen() {
 
 void Picker_Form::SelectList_Click() { Remove_Command.Set_Enabled(true); }
 
-// The refusal says no more than the number.
 void Picker_Form::Add_Command_Click() {
   const std::optional<Entry> entry = Current_Entry();
   if (!entry || Is_Chosen(*entry)) return;
-  if (SelectList.ListCount() > most_before_refusal) {
-    Forms::Message_Box("\r  100", "", Forms::Sign::Warning);
+  if (Is_Full()) {
+    Refuse_Another();
     return;
   }
   Choose(*entry);

@@ -3,6 +3,7 @@
 //
 // An entry is chosen once, by its text and by its key; there is no word about a second time. The
 // list takes 101 entries, one more than the selection holds: PROCEED with all of them is failure 9.
+// Both are known faults: without them the key alone counts, and the list takes 100.
 //
 // Enter or a double click adds the current entry, Delete or a double click takes one out.
 #pragma once
@@ -41,7 +42,8 @@ class Picker_Form : public Command_Form {
 
   void Clear_Chosen();
   void Choose(const Entry& entry);
-  /// The pairings of the wine on the wine screen, where that is loaded.
+  /// The pairings of the wine on the wine screen, where that is loaded and they are to be begun
+  /// with.
   void Choose_Pairings_of_Wine();
   /// Those of two lists in step on another screen, where that is loaded.
   void Choose_Those_of(const char* screen, const char* list, const char* keys);
@@ -80,6 +82,8 @@ class Picker_Form : public Command_Form {
 
  private:
   bool Is_Chosen(const Entry& entry) const;
+  bool Is_Full() const;
+  static void Refuse_Another();
   void Show_Chosen();
   void SelectList_Click();
   void Remove_Command_Click();

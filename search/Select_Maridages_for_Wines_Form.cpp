@@ -2,6 +2,7 @@
 
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
+#include "core/Known_Faults.h"
 #include "core/MultiLanguage_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
@@ -98,13 +99,18 @@ void Select_Maridages_for_Wines_Form::Add_Grapes_of(const char* wine_screen,
 
 void Select_Maridages_for_Wines_Form::Load_Chosen() {
   Clear_Chosen();
-  if (Command_Is("WineMod")) Choose_Pairings_of_Wine();
+  Choose_Pairings_of_Wine();
   if (Command_Is("WineOtherMod")) {
     Choose_Those_of("Mobile_Wine_Form", "Pairing_List", "Pairing_Index_List");
   }
   if (Is_of_Variety()) {
     Choose_Those_of("Varieties_Form", "Suggested_Pairings_List", "Suggested_Pairings_Index_List");
   }
+}
+
+// What a wine has can be taken out again.
+bool Select_Maridages_for_Wines_Form::May_Be_Empty() const {
+  return Command_Is("WineMod") || (Command_Is("WineAdd") && !Is_Kept(Fault::Chooser_Begins_Empty));
 }
 
 // ---- what can be chosen ----

@@ -11,7 +11,7 @@ class Select_Maridages_for_Wines_Form : public List_Picker_Form {
  protected:
   void Form_Load() override;
   std::optional<Entry> Current_Entry() const override;
-  bool May_Be_Empty() const override { return Command_Is("WineMod"); }
+  bool May_Be_Empty() const override;
   void Proceed() override;
   void MultCancel_Click() override;
 

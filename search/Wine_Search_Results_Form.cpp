@@ -2,23 +2,39 @@
 
 #include "core/Common_Words.h"
 #include "core/Globals.h"
+#include "core/Known_Faults.h"
 #include "core/tables/Catalogue.h"
 #include "links/Link_Search.h"
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
 
-// Two of the headers read otherwise than the words that the columns answer to: they turn the order
-// and keep the column.
+namespace {
+
+using Columns = std::vector<Forms::List_Column>;
+
+// As designed two of the headers read otherwise than the words that the columns answer to: they
+// turn the order and keep the column.
+std::vector<std::string> Words_of_Headers() {
+  if (!Is_Kept(Fault::Two_Headers_Sort_Nothing)) return {};
+  return {"Vintage", "Winery", "Label", "Region", "Variety", "Color", "Merit", "Peak", "Stock"};
+}
+
+}  // namespace
+
 Wine_Search_Results_Form::Wine_Search_Results_Form()
-    : Cellar_Wine_Screen(
-          "Wine_Search_Results_Form", "Wine Information", {7, 16, 14, 12, 16, 9, 5, 5, 5},
-          {"Vintage", "Winery", "Label", "Region", "Variety", "Color", "Merit", "Peak", "Stock"}) {
+    : Wine_Search_Results_Form(Cellars_to_Tell()) {}
+
+Wine_Search_Results_Form::Wine_Search_Results_Form(Cellar_Names cellars)
+    : Cellar_Wine_Screen("Wine_Search_Results_Form", "Wine Information",
+                         {7, 16, 14, 12, 16, 9, 5, 5, 5}, Words_of_Headers(),
+                         cellars.empty() ? Columns() : Columns{{"Cellar", 10, false, false, 1}}),
+      cellars_(std::move(cellars)) {
   Lay_Out();
   Wine_Cellar_ListView.ItemClick = [this](Forms::List_Item item) {
     Wine_Cellar_ListView_ItemClick(item);
   };
   Variety_Combo.ItemCheck = [this](int item) { Variety_Combo_ItemCheck(item); };
-  Multi_Functional_Command.Click = [this] { Uncork_Wine(); };
+  Multi_Functional_Command.Click = [this] { Multi_Functional_Command_Click(); };
   Exit_Command.Click = [this] { Exit_Command_Click(); };
 }
 
@@ -39,6 +55,18 @@ void Wine_Search_Results_Form::Lay_Out() {
 }
 
 // ---- loading ----
+
+Wine_Search_Results_Form::Cellar_Names Wine_Search_Results_Form::Cellars_to_Tell() {
+  if (Is_Kept(Fault::Results_Hide_The_Cellar)) return {};
+  Cellar_Names names;
+  for (Open_Table(Cellars_Recordset, "Cellars"); !Cellars_Recordset.Eof();
+       Cellars_Recordset.MoveNext()) {
+    names[Cellars_Recordset.Fields("ID").As_Long()] =
+        Cellars_Recordset.Fields("Cellar_Name").As_Text();
+  }
+  Close_Table(Cellars_Recordset);
+  return names.size() < 2 ? Cellar_Names() : names;
+}
 
 void Wine_Search_Results_Form::Form_Load() {
   Initialize_Form_Data();
@@ -86,22 +114,38 @@ void Wine_Search_Results_Form::Show_Requested_in_Bold() {
 
 // ---- the list ----
 
-// A wine that was removed may still have link rows: it is left out.
+// A wine that was removed may still have link rows: it is left out. Where the list is what was
+// found when the screen was opened, whoever opened it has searched.
 void Wine_Search_Results_Form::Get_WineResults_Records() {
-  Search_Wines_for_Maridages();
+  if (Is_Kept(Fault::Uncork_Changes_The_Search)) Search_Wines_for_Maridages();
   Open_By_Key(Wineries_Table);
   Open_By_Key(Wines_Table);
   Wine_Cellar_ListView.Begin_Anew();
   const bool cut = Search_Was_Cut();
   const int last = cut ? Found_Count - 1 : Found_Count;
   for (int found = 1; found <= last; ++found) {
-    if (!Find_Row(Wines_Table, Found_IDs[found])) continue;
-    Find_Winery_of_Wine();
-    Add_Wine_to_List();
+    if (Find_Row(Wines_Table, Found_IDs[found])) List_Found_Wine();
   }
   Close_Table(Wineries_Recordset);
   Close_Table(Wines_Recordset);
   Tell_What_Is_Missing(last - Wine_Cellar_ListView.Count(), cut);
+}
+
+void Wine_Search_Results_Form::List_Found_Wine() {
+  Find_Winery_of_Wine();
+  Forms::List_Item row = Add_Wine_to_List();
+  if (cellars_.empty()) return;
+  const auto cellar = cellars_.find(Wines.Cellar_ID);
+  if (cellar != cellars_.end()) row.Set_SubItems(First_Own_Column, cellar->second);
+}
+
+// Of what is listed an uncorking changes one number.
+void Wine_Search_Results_Form::Fill_Wine_List() {
+  if (Is_Kept(Fault::Uncork_Changes_The_Search)) {
+    Get_WineResults_Records();
+  } else if (auto row = Wine_Cellar_ListView.Row_of(To_Text(Selected_Wine_ID))) {
+    row->Set_SubItems(Stock_Column, To_Text(Wines.Total_Bottles));
+  }
 }
 
 // The list has the focus: what the line says is read with it.
@@ -120,10 +164,29 @@ void Wine_Search_Results_Form::Tell_What_Is_Missing(int removed, bool cut) {
   Wine_Cellar_ListView.Set_Tool_Tip(message);
 }
 
+// Where another program removed the picked wine meanwhile, the list is filled anew without it, and
+// nothing is shown.
+bool Wine_Search_Results_Form::Wine_Has_Gone() {
+  if (Is_Kept(Fault::Gone_Row_Ends_The_Run) || Find_By_Key(Wines_Table, Selected_Wine_ID)) {
+    return false;
+  }
+  Get_WineResults_Records();
+  Initialize_Form_Data();
+  Lock_Top_Window();
+  Multi_Functional_Command.Set_Enabled(false);
+  Wine_Cellar_ListView.SetFocus();
+  return true;
+}
+
+void Wine_Search_Results_Form::Multi_Functional_Command_Click() {
+  if (!Wine_Has_Gone()) Uncork_Wine();
+}
+
 // The focus goes back to the list, for the next wine.
 void Wine_Search_Results_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
-  Checks_Locked = false;
   Selected_Wine_ID = To_Long(Wine_Cellar_ListView.Key_of(item));
+  if (Wine_Has_Gone()) return;
+  Checks_Locked = false;
   Seek_Wine();
   Open_By_Key(Wineries_Table);
   Find_Winery_of_Wine();

@@ -30,6 +30,9 @@ inline constexpr Hint Pairings_First{"Pairings_First", "Choose pairings above, t
 inline constexpr Hint Name_Cellars_First{"Name_Cellars_First", "Name your cellars first: %1, %2."};
 inline constexpr Hint Picker_Keys{
     "Picker_Keys", "Type to find an entry. Enter or a double click adds it, Delete takes it out."};
+inline constexpr Hint Picker_Full{"Picker_Full",
+                                  "%1 entries are chosen, and more cannot be. Take one out first."};
+inline constexpr Hint Picker_Full_Title{"Picker_Full_Title", "NO ROOM FOR MORE"};
 inline constexpr Hint First_Shown{"First_Shown", "The first %1 are shown."};
 inline constexpr Hint One_Removed{"One_Removed", "%1 of the wines found was removed."};
 inline constexpr Hint Several_Removed{"Several_Removed", "%1 of the wines found were removed."};
@@ -37,10 +40,11 @@ inline constexpr Hint Leave_Entered_Wine{
     "Leave_Entered_Wine", "What was entered for this wine is not stored. Leave it unstored?"};
 inline constexpr Hint Faults_Mended{"Faults_Mended", "known faults mended"};
 
-inline constexpr std::array<Hint, 17> Hints{
+inline constexpr std::array<Hint, 19> Hints{
     {No_Wines_Yet, First_Wine, No_Wines_Found, No_Wines_Fit, Nothing_Chosen, No_Suggestions,
      No_Pairings_of_Wine, First_Pairing, No_Pairings_Yet, Pairings_First, Name_Cellars_First,
-     Picker_Keys, First_Shown, One_Removed, Several_Removed, Leave_Entered_Wine, Faults_Mended}};
+     Picker_Keys, Picker_Full, Picker_Full_Title, First_Shown, One_Removed, Several_Removed,
+     Leave_Entered_Wine, Faults_Mended}};
 inline constexpr auto Hints_Rows = Rows_Named_As(Hints);
 
 }  // namespace Screen_Words

@@ -1,6 +1,7 @@
 // The list of the cellar: its columns, its order, and the wine that a pick means.
 
 #include "tests/support/Cellar_Program.h"
+#include "tests/support/Faults_Mended.h"
 
 namespace {
 
@@ -66,6 +67,21 @@ TEST_F(Cellar_List, A_row_tells_the_wine_and_each_cellar_has_its_own) {
   Pick("Cellar2_View");
   EXPECT_EQ(Shown_Text("Wine_Cellar_Name_Label"), "Office");
   EXPECT_THAT(Shown_Rows(list), ElementsAre(row(1, "2016", Sample(1).label, rest(1, "4"))));
+}
+
+TEST_F(Cellar_List, A_second_cellar_named_x_shows_its_name_where_that_is_mended) {
+  Change([](Record_Store::Database& file) {
+    Record_Store::Recordset cellars = file.OpenRecordset("Cellars");
+    cellars.MoveNext();
+    cellars.Edit();
+    cellars.Fields("Cellar_Name") = "x";
+    cellars.Update();
+  });
+  for (const bool mended : {false, true}) {
+    const Faults_Mended faults(mended);
+    Start_With("Cellar2_View");
+    EXPECT_EQ(Shown_Text("Wine_Cellar_Name_Label"), mended ? "x" : "");
+  }
 }
 
 TEST_F(Cellar_List, Headers_sort_by_text_and_turn_the_order_at_each_click) {

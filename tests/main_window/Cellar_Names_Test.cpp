@@ -1,4 +1,5 @@
 // Naming the cellars, changing the names, and the menu that follows them.
+#include "tests/support/Faults_Mended.h"
 #include "tests/support/Program_Folder.h"
 
 namespace {
@@ -55,6 +56,12 @@ TEST_F(Cellar_Names, The_button_opens_only_with_both_names) {
     Type_Names(first, second);
     EXPECT_FALSE(Can_Save()) << first << second;
   }
+  for (const auto& [first, second] : {std::pair{"x", "Home"}, {"Home", " x "}, {"X", "Home"}}) {
+    const Faults_Mended faults;
+    Type_Names(first, second);
+    EXPECT_EQ(Can_Save(), first == Text("X")) << first << second;
+    EXPECT_EQ(Color_of("Cellar1_Name_Text"), first == Text("x") ? "required" : "open");
+  }
   Type_Names("Home", "Home");
   EXPECT_TRUE(Can_Save());
   Click("Exit_Command");
@@ -78,6 +85,24 @@ TEST_F(Cellar_Names, Names_are_stored_and_the_menu_follows_at_once_and_after_a_r
                                         "Home", "Home", "Büro & 北窖", "Büro & 北窖"));
     Expect_Menu(true);
   }
+}
+
+TEST_F(Cellar_Names, Naming_anew_changes_the_second_cellar_or_adds_one) {
+  Name_Cellars("x", "Office");
+  {
+    const Faults_Mended faults;
+    Start();
+    Expect_Menu(false);
+    Name_Cellars("Home", "Work");
+    EXPECT_THAT(Stored_Cellars(), ElementsAre("1|Home", "2|Work"));
+  }
+  Start();
+  Pick("Cellar_Mod");
+  Type_Names("x", "Office");
+  Told_By([] { Click("General_Command"); });
+  Start();
+  Name_Cellars("Home", "Work");
+  EXPECT_THAT(Stored_Cellars(), ElementsAre("1|Home", "2|Office", "3|Work"));
 }
 
 TEST_F(Cellar_Names, The_main_window_comes_back_with_the_screen_that_hid_it) {

@@ -99,9 +99,13 @@ TEST_F(Catalogue_Changes, In_another_language_the_words_the_test_and_the_columns
               ElementsAre("SPEISE BEREITS VORHANDEN? Diese Speise steht bereits in der Liste der "
                           "vorhandenen Speisen.\rMöchten Sie eine andere eingeben?"));
   Add_Pairing({"Pie en", "Pie en"});
-  EXPECT_THAT(Added("Maridage_Name, English, Spanish, French, German, Japanese"),
-              ElementsAre("Pie en|Pie en|x|x|Pie en|x"));
+  const Text fields = "Maridage_Name, English, Spanish, French, German, Japanese";
+  EXPECT_THAT(Added(fields), ElementsAre("Pie en|Pie en|x|x|Pie en|x"));
   EXPECT_EQ(Shown_Rows(list).back().substr(0, 15), "Pie en | Pie en");
+  const Faults_Mended faults;
+  Open("Pairing_Add", german);
+  Add_Pairing({"Torte", "Tart"});
+  EXPECT_EQ(Added(fields).back(), "Torte|Tart|Torte|Torte|Torte|Torte");
 }
 
 TEST_F(Catalogue_Changes, A_missing_other_name_is_taken_from_the_first_one_and_said) {
@@ -131,6 +135,11 @@ TEST_F(Catalogue_Changes, Cheese_and_category_come_from_the_record_read_last) {
   Click_Pairing("Pie en");
   Add_Pairing({"After a click", "b"});
   EXPECT_THAT(Added("Cheese_ID, CAT_ID"), ElementsAre("7|5", "-1|0"));
+  Put_Pairing(last);
+  const Faults_Mended faults;
+  Open("Pairing_Add");
+  Add_Pairing({"After the list again", "c"});
+  EXPECT_EQ(Added("Cheese_ID, CAT_ID").back(), "-1|0");
 }
 
 TEST_F(Catalogue_Changes, A_long_name_is_kept_whole_in_its_language_and_cut_for_the_master_text) {
@@ -195,6 +204,14 @@ TEST_F(Catalogue_Changes, A_change_of_nothing_picked_or_of_what_has_gone_ends_th
     Stop();
     EXPECT_EQ(Whole_Catalogue(), before);
   }
+  const Faults_Mended faults;
+  Open("Pairing_Mod");
+  Type_Names({"New", "Nuevo"});
+  EXPECT_EQ(Color_of("CatText"), "open");
+  EXPECT_FALSE(Is_Usable("Cat_Add_Now"));
+  Click_Row(list, 0);
+  Type_Names({"New", "Nuevo"});
+  EXPECT_TRUE(Is_Usable("Cat_Add_Now"));
 }
 
 }  // namespace

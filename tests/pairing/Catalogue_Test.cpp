@@ -105,24 +105,46 @@ TEST_F(Catalogue, The_list_names_English_and_beside_it_the_language_in_force) {
   }
 }
 
-// English and Spanish alone are ever shown; the labels name the language that is written.
+// The labels name the languages that are written. As designed English and Spanish alone are ever
+// shown; mended, a change of nothing writes nothing else.
 TEST_F(Catalogue, Boxes_and_labels_by_language) {
   Put_Pairing(Made_Up("Pie"));
   struct Case {
     Integer language;
     Two_Names labels, boxes;
+    Two_Names mended = boxes;
+    Text header = "Spanish";
   };
   for (const Case& by_language :
        {Case{english, {"Category in English:", "Category in Spanish:"}, {"Pie en", "Pie es"}},
         {spanish, {"Categoría en español:", "Categoría en inglés:"}, {"Pie es", "Pie en"}},
-        {french, {"Catégorie en français :", "Catégorie en anglais :"}, {"Pie en", "Pie es"}},
-        {japanese, {"日本語のカテゴリ:", "英語のカテゴリ:"}, {"Pie en", "Pie es"}}}) {
-    for (const char* entry : {"Pairings_List", "Pairing_Mod"}) {
+        {french,
+         {"Catégorie en français :", "Catégorie en anglais :"},
+         {"Pie en", "Pie es"},
+         {"Pie fr", "Pie en"},
+         "French"},
+        {japanese,
+         {"日本語のカテゴリ:", "英語のカテゴリ:"},
+         {"Pie en", "Pie es"},
+         {"Pie ja", "Pie en"},
+         "Japanese"}}) {
+    for (const auto& [entry, mended] : {std::pair{"Pairings_List", false},
+                                        {"Pairings_List", true},
+                                        {"Pairing_Mod", true},
+                                        {"Pairing_Mod", false}}) {
+      const Faults_Mended faults(mended);
       Open(entry, by_language.language);
       EXPECT_EQ(Shown_Text("Cat_Language1_Label"), by_language.labels.first);
       EXPECT_EQ(Shown_Text("Cat_Language2_Label"), by_language.labels.second);
+      EXPECT_EQ(Forms::Screen("Cate_Add_Form").Get<Forms::List_View>(list).Header_Text(2),
+                mended ? by_language.header : "Spanish");
       Click_Pairing("Pie en");
-      EXPECT_THAT(Boxes(), ElementsAre(by_language.boxes.first, by_language.boxes.second));
+      const Two_Names& boxes = mended ? by_language.mended : by_language.boxes;
+      EXPECT_THAT(Boxes(), ElementsAre(boxes.first, boxes.second));
+      if (!mended || entry != Text("Pairing_Mod")) continue;
+      const Texts before = Whole_Catalogue();
+      Told_By([] { Click("Cat_Add_Now"); });
+      EXPECT_EQ(Whole_Catalogue(), before);
     }
   }
 }

@@ -76,60 +76,77 @@ TEST_F(Pickers, By_mouse_and_what_is_taken_out_is_the_current_entry) {
   EXPECT_THAT(Selection(), ElementsAre(b + "|" + Food(1).id));
 }
 
-TEST_F(Pickers, A_double_by_text_or_by_key_is_refused_without_a_word) {
-  Put("Maridages", {{"English", Food(0).name + "  "}, {"Multiuse", 3}});
-  Start();
-  Give("Varieties_Form", suggested, suggested_keys, "An older name", Food(1).id);
-  Open_Under(maridages, "VarietyMod");
-  Expect_State({"An older name"}, false, false);
-  const Box_Script boxes;
-  Add(Food(0).name);
-  Add(Food(0).name);
-  Add(Food(0).name + "  ");
-  Add(Food(1).name);
-  Double_Click_Line("Cat_List", Food(1).name);
-  Press("Return");
-  EXPECT_THAT(Lines("SelectList"), ElementsAre("An older name", Food(0).name));
-  EXPECT_THAT(boxes.Boxes(), IsEmpty());
-  Double_Click_Line("SelectList", "An older name");
-  Add(Food(1).name);
-  EXPECT_THAT(Lines("SelectList"), ElementsAre(Food(0).name, Food(1).name));
+TEST_F(Pickers, A_double_by_text_or_by_key_is_refused_without_a_word_or_by_key_alone) {
+  const Text same = Food(0).name + "  ";
+  Put("Maridages", {{"English", same}, {"Multiuse", 3}});
+  for (const bool mended : {false, true}) {
+    const Faults_Mended faults(mended);
+    Start();
+    Give("Varieties_Form", suggested, suggested_keys, "An older name", Food(1).id);
+    Open_Under(maridages, "VarietyMod");
+    Expect_State({"An older name"}, false, false);
+    const Box_Script boxes;
+    Add(Food(0).name);
+    Add(Food(0).name);
+    Add(same);
+    Add(Food(1).name);
+    Double_Click_Line("Cat_List", Food(1).name);
+    Press("Return");
+    Texts chosen{"An older name", Food(0).name};
+    if (mended) chosen.push_back(same);
+    EXPECT_EQ(Lines("SelectList"), chosen);
+    EXPECT_THAT(boxes.Boxes(), IsEmpty());
+    Double_Click_Line("SelectList", "An older name");
+    Add(Food(1).name);
+    chosen.erase(chosen.begin());
+    chosen.push_back(Food(1).name);
+    EXPECT_EQ(Lines("SelectList"), chosen);
+  }
 }
 
-TEST_F(Pickers, A_hundred_and_one_are_taken_and_a_hundred_handed_on) {
-  Open();
-  Box_Script boxes;
-  Click_Row("Cat_List", 0);
-  Press("Return");
-  for (int entry = 2; entry <= 101; ++entry) {
+TEST_F(Pickers, A_hundred_are_handed_on_and_one_more_is_taken_or_refused_in_words) {
+  for (const bool mended : {false, true}) {
+    const Faults_Mended faults(mended);
+    const int most = mended ? 100 : 101;
+    Open();
+    Box_Script boxes;
+    Click_Row("Cat_List", 0);
+    Press("Return");
+    for (int entry = 2; entry <= most; ++entry) {
+      Press("Down");
+      Press("Return");
+    }
+    EXPECT_THAT(boxes.Boxes(), IsEmpty());
+    Texts all = Lines("Cat_List");
+    all.resize(static_cast<std::size_t>(most));
+    Expect_State(all, true, false);
+    const QAbstractItemView& chosen = View_Of("SelectList");
+    const QRect last = chosen.visualRect(chosen.model()->index(most - 1, 0));
+    EXPECT_TRUE(chosen.viewport()->rect().contains(last.center()));
     Press("Down");
     Press("Return");
+    Click("Add_Command");
+    const Text refusal = mended ? "NO ROOM FOR MORE: 100 entries are chosen, and more cannot be. "
+                                  "Take one out first."
+                                : ": \r  100";
+    EXPECT_THAT(boxes.Said(), ElementsAre(refusal, refusal));
+    EXPECT_EQ(boxes.Boxes()[0].sign, Forms::Sign::Warning);
+    boxes.Forget();
+    Add(all[0]);  // a double is refused before the number is looked at
+    EXPECT_THAT(boxes.Boxes(), IsEmpty());
+    if (!mended) {
+      Expect_End(9, [] { Click("MultSelect"); });
+      Double_Click_Line("SelectList", all[0]);
+      all.erase(all.begin());
+    }
+    Click("MultSelect");
+    Expect_Left(maridages, "Varieties_Form");
+    EXPECT_EQ(Selected_Count, 100);
+    for (int entry = 1; entry <= 100; ++entry) {
+      EXPECT_EQ(Selected_Names[entry], all[static_cast<std::size_t>(entry) - 1]);
+    }
+    EXPECT_TRUE(Variety_Pairings_Changed);
   }
-  EXPECT_THAT(boxes.Boxes(), IsEmpty());
-  Texts all = Lines("Cat_List");
-  all.resize(101);
-  Expect_State(all, true, false);
-  const QAbstractItemView& chosen = View_Of("SelectList");
-  const QRect last = chosen.visualRect(chosen.model()->index(100, 0));
-  EXPECT_TRUE(chosen.viewport()->rect().contains(last.center()));
-  Press("Down");
-  Press("Return");
-  Click("Add_Command");
-  EXPECT_THAT(boxes.Said(), ElementsAre(": \r  100", ": \r  100"));
-  EXPECT_EQ(boxes.Boxes()[0].sign, Forms::Sign::Warning);
-  boxes.Forget();
-  Add(all[0]);  // a double is refused before the number is looked at
-  EXPECT_THAT(boxes.Boxes(), IsEmpty());
-  Expect_End(9, [] { Click("MultSelect"); });
-  Double_Click_Line("SelectList", all[0]);
-  Click("MultSelect");
-  Expect_Left(maridages, "Varieties_Form");
-  EXPECT_EQ(Selected_Count, 100);
-  all.erase(all.begin());
-  for (int entry = 1; entry <= 100; ++entry) {
-    EXPECT_EQ(Selected_Names[entry], all[static_cast<std::size_t>(entry) - 1]);
-  }
-  EXPECT_TRUE(Variety_Pairings_Changed);
 }
 
 }  // namespace

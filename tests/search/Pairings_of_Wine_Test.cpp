@@ -107,6 +107,29 @@ TEST_F(Pairings_of_Wine, What_is_chosen_for_a_new_wine_is_stored_with_it_by_grou
   EXPECT_EQ(Used(three), used + 1);
 }
 
+TEST_F(Pairings_of_Wine, Mended_the_chooser_of_a_new_wine_begins_with_what_it_has) {
+  const Faults_Mended faults;
+  Start_With("Wine_Add");
+  Fill_Add();
+  Choose_Pairings();
+  for (const int food : {0, 1}) Add(Food(food).name);
+  Click("MultSelect");
+  Choose_Pairings();
+  EXPECT_THAT(Lines("SelectList"), ElementsAre(Food(0).name, Food(1).name));
+  Click_Row(options, 1);  // the suggestions take the place of the selection
+  Remove(Food(0).name);
+  Click_Row(options, 0);
+  Add(Food(2).name);
+  Click("MultSelect");
+  EXPECT_THAT(Lines("Pairing_Index_List"), ElementsAre(Food(1).id, Food(2).id));
+  Choose_Pairings();
+  for (const int food : {1, 2}) Remove(Food(food).name);
+  Click("MultSelect");
+  EXPECT_THAT(Lines("Pairing_List"), IsEmpty());
+  Save();
+  EXPECT_THAT(Links_of(1), IsEmpty());
+}
+
 // ---- a wine that is corrected ----
 
 TEST_F(Pairings_of_Wine, A_modify_stores_the_list_of_this_wine_however_often_it_was_chosen) {

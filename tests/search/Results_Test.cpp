@@ -15,7 +15,8 @@ class Search_Results : public Search_Program {
   }
   static Long Selected_Wine() {
     auto& view = Forms::Screen(results).Get<Forms::List_View>(list);
-    return view.Has_Selection() ? To_Long(view.SelectedItem().SubItems(9)) : -1;
+    return view.Has_Selection() ? To_Long(view.SelectedItem().SubItems(view.Column_Count() - 1))
+                                : -1;
   }
   static void Uncork() {
     EXPECT_THAT(Told_By([] { Click(button); }),
@@ -59,6 +60,7 @@ TEST_F(Search_Results, Headers_sort_as_text_and_two_of_them_only_turn_the_order)
                          {0, "Charlie", "Pink", 2003, 100, 2005, 1}}) {
     Wines_Record wine = Sample_Wine(row.winery);
     std::tie(wine.Label, wine.Color, wine.Vintage) = std::tie(row.label, row.color, row.vintage);
+    wine.Variety = row.color;
     std::tie(wine.Ranking, wine.Peak, wine.Total_Bottles) =
         std::tie(row.ranking, row.peak, row.bottles);
     Put_Wine_with({Food(0)}, wine);
@@ -83,6 +85,14 @@ TEST_F(Search_Results, Headers_sort_as_text_and_two_of_them_only_turn_the_order)
   Pick_Wine(1);
   Uncork();
   EXPECT_THAT(Wines_Listed(), ElementsAre(1, 2, 3));  // filled anew, in the order found
+  const Faults_Mended faults;
+  Start_With_Found({Food(0)});
+  EXPECT_THAT(click(4), ElementsAre(2, 1, 3));
+  EXPECT_EQ(click(3).front(), Sample().region < Sample(1).region ? 1 : 2);
+  EXPECT_THAT(click(10), ElementsAre(3, 2, 1));
+  Pick_Wine(2);
+  Uncork();
+  EXPECT_THAT(Wines_Listed(), ElementsAre(3, 2, 1));
 }
 
 // ---- the wine that was clicked ----
@@ -205,6 +215,15 @@ TEST_F(Search_Results, A_bottle_uncorked_is_stored_and_the_list_goes_by_the_pair
   EXPECT_EQ(Shown_Text("Total_Bottles_Text"), "0");
   EXPECT_FALSE(Is_Usable(button));
   EXPECT_EQ(Bottles_of(not_asked), "3");
+  const Faults_Mended faults;  // the results stay, with what has changed
+  Start_With_Found({Food(2), Food(1)});
+  Pick_Wine(not_asked);
+  Uncork();
+  EXPECT_THAT(Wines_Listed(), ElementsAre(wine, not_asked));
+  EXPECT_THAT(Shown_Column(list, 8), ElementsAre("0", "2"));
+  EXPECT_EQ(Bottles_of(not_asked), "2");
+  EXPECT_EQ(Selected_Wine(), not_asked);
+  EXPECT_EQ(Shown_Text("Total_Bottles_Text"), "2");
 }
 
 TEST_F(Search_Results, A_wine_that_the_list_no_longer_has_room_for_is_uncorked_all_the_same) {
@@ -292,6 +311,12 @@ TEST_F(Search_Results, A_wine_whose_winery_has_gone_shows_the_one_before) {
                                     {"Country_Combo", Sample(1).country_name}}) {
     EXPECT_EQ(Shown_Text(field), text);
   }
+  const Faults_Mended faults;
+  Start_With_Found({Food_at(0, 2), Food(0)});
+  Pick_Wine(with);
+  Pick_Wine(without);
+  EXPECT_THAT(Shown_Rows(list).front(), StartsWith("2016 |  | " + Sample().label + " |  | "));
+  EXPECT_EQ(Shown_Text("Winery_Combo") + Shown_Text("Country_Combo"), "");
 }
 
 TEST_F(Search_Results, A_wine_that_has_gone_meanwhile_ends_the_run) {
@@ -307,6 +332,27 @@ TEST_F(Search_Results, A_wine_that_has_gone_meanwhile_ends_the_run) {
   Pick_Wine(second);
   remove_the_wine();
   Expect_End(3021, [] { Click(button); });
+  const Faults_Mended faults;
+  for (const bool uncork : {false, true}) {
+    const Long gone = Put_Wine_with({Food(0)});
+    const Long stays = Put_Wine_with({Food(0)}, Sample_Wine(1));
+    Start_With_Found({Food(0)});
+    Pick_Wine(uncork ? gone : stays);
+    remove_the_wine();
+    if (uncork) {
+      Click(button);
+    } else {
+      Pick_Wine(gone);
+    }
+    EXPECT_THAT(Wines_Listed(), ElementsAre(stays));
+    EXPECT_THAT(Texts({Shown_Text("Winery_Combo"), Shown_Text("Total_Bottles_Text")}),
+                ElementsAre("", ""));
+    EXPECT_FALSE(Is_Usable(button));
+    Pick_Wine(stays);
+    EXPECT_EQ(Shown_Text("Winery_Combo"), Sample(1).name);
+    Uncork();
+    remove_the_wine();
+  }
 }
 
 }  // namespace

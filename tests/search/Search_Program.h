@@ -72,7 +72,7 @@ class Search_Program : public Pairing_Program {
   /// The keys of the wines that are listed, in their order.
   static std::vector<Long> Wines_Listed() {
     std::vector<Long> keys;
-    for (const Text& key : Shown_Column(list, 9)) keys.push_back(To_Long(key));
+    for (const Text& key : Shown_Column(list, Key_Column(list))) keys.push_back(To_Long(key));
     return keys;
   }
 };

@@ -1,5 +1,6 @@
 #include "tests/support/Cellar_Program.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 
 #include "cellar/Cellar_Screens.h"
@@ -115,6 +116,11 @@ void Cellar_Program::Fill_Add(const New_Wine& wine, int winery) const {
   Choose("Bottle_Size_Combo", wine.bottle_size);
   Type_Into("Total_Bottles_Text", wine.total_bottles);
   Choose("Color_Combo", wine.color);
+}
+
+std::size_t Cellar_Program::Key_Column(const char* list) {
+  const auto& view = dynamic_cast<const QAbstractItemView&>(Find(list));
+  return static_cast<std::size_t>(view.model()->columnCount()) - 1;
 }
 
 Texts Cellar_Program::Ticked_Boxes() {

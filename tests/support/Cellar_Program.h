@@ -52,7 +52,11 @@ class Cellar_Program : public Program_Folder {
   void Choose_Winery(int winery = 0) const;
   /// All that a new wine needs, from the country to the colour, by mouse and keys.
   void Fill_Add(const New_Wine& wine = {}, int winery = 0) const;
-  static void Pick_Wine(Long wine) { Click_Line("Wine_Cellar_ListView", To_Text(wine), 9); }
+  static void Pick_Wine(Long wine) {
+    Click_Line("Wine_Cellar_ListView", To_Text(wine), Key_Column("Wine_Cellar_ListView"));
+  }
+  /// The last one.
+  static std::size_t Key_Column(const char* list);
 
   static Text Tag_of(const char* control) {
     return Forms::Screen("Wine_Form").Control(control).Tag();

@@ -5,6 +5,7 @@
 
 #include "tests/forms/Row_Clicks.h"
 #include "tests/support/Cellar_Program.h"
+#include "tests/support/Faults_Mended.h"
 
 /// A pairing of the delivered file.
 struct Sample_Pairing {

@@ -2,6 +2,8 @@
 // same index, and one for each counter of a pairing. Beside it: what to search for.
 #pragma once
 
+#include <algorithm>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -35,6 +37,7 @@ class Bare_Pairings {
         "SELECT \"GROUP\", SUBCATEGO, Wine_ID FROM Maridages_Per_Wines "
         "INDEXED BY \"Maridages_Per_Wines.GROUP\" WHERE \"GROUP\"=? ORDER BY rowid");
     count_ = engine_.Prepare("UPDATE Maridages SET Used=Used+1 WHERE Maridage_ID=?");
+    there_ = engine_.Prepare("SELECT 1 FROM Wines WHERE Wine_ID=?");
     wine_ = engine_.Prepare((std::string(Bare_Cellar::question) + " WHERE Wine_ID=?").c_str());
   }
 
@@ -52,8 +55,22 @@ class Bare_Pairings {
   std::vector<int> Search(const std::vector<Group>& groups) const {
     std::vector<int> found;
     for (const Group& group : groups) {
-      if (!Search(group, found)) break;
+      if (!Search(group, found, 99)) break;
     }
+    return found;
+  }
+  /// Every wine that is there, once, by its key.
+  std::vector<int> Search_All(const std::vector<Group>& groups) const {
+    std::vector<int> found;
+    for (const Group& group : groups) Search(group, found, std::numeric_limits<std::size_t>::max());
+    std::ranges::sort(found);
+    found.erase(std::unique(found.begin(), found.end()), found.end());
+    std::erase_if(found, [this](int wine) {
+      sqlite3_bind_int(there_.get(), 1, wine);
+      const bool there = sqlite3_step(there_.get()) == SQLITE_ROW;
+      sqlite3_reset(there_.get());
+      return !there;
+    });
     return found;
   }
   template <class Visit>
@@ -69,13 +86,13 @@ class Bare_Pairings {
   std::vector<Pairing> Offered() const;
 
  private:
-  bool Search(const Group& group, std::vector<int>& found) const {
+  bool Search(const Group& group, std::vector<int>& found, std::size_t most) const {
     sqlite3_stmt* rows = rows_.get();
     bool room = true;
     for (sqlite3_bind_int(rows, 1, group.key * 10); room && sqlite3_step(rows) == SQLITE_ROW;) {
       if (sqlite3_column_int(rows, 0) != group.key * 10) break;
       if (!Meet(sqlite3_column_int(rows, 1), group.mask)) continue;
-      room = found.size() < 99;
+      room = found.size() < most;
       if (room) found.push_back(sqlite3_column_int(rows, 2));
     }
     sqlite3_reset(rows);
@@ -91,6 +108,7 @@ class Bare_Pairings {
   Bare_Engine engine_;
   Bare_Engine::Statement rows_;
   Bare_Engine::Statement count_;
+  Bare_Engine::Statement there_;
   Bare_Engine::Statement wine_;
 };
 

@@ -70,8 +70,9 @@ inline Selection Rare(const std::vector<Pairing>& offered, std::size_t count) {
   return best;
 }
 
-/// Three that many wines have: the hundredth is found soon.
-inline Selection Common(std::vector<Pairing> offered) {
+/// The ones that most wines have: the hundredth is found soon.
+inline Selection Common(std::vector<Pairing> offered, std::ptrdiff_t count = 3) {
   std::ranges::sort(offered, std::greater{}, &Pairing::wines);
-  return {"3 common pairings", {offered.begin(), offered.begin() + 3}, {}};
+  return {
+      std::to_string(count) + " common pairings", {offered.begin(), offered.begin() + count}, {}};
 }

@@ -2,7 +2,8 @@
 // the same run: 30,000 wines with five pairings each.
 //
 //   pairing_search_bench             makes the cellar in a folder of its own, and measures
-//   pairing_search_bench PART...     search, proceed, picker: only these
+//   pairing_search_bench PART...     search, all (the search without its known faults), proceed,
+//                                    picker: only these
 //
 // Each side has a file of its own, with the same rows: a side that writes would make the other one
 // read its pages again. What a commit takes is the disk's affair and is told apart.
@@ -17,6 +18,7 @@
 #include "bench/Large_Cellar.h"
 #include "bench/Pairing_Picker.h"
 #include "bench/Pairing_Selections.h"
+#include "core/Known_Faults.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "links/Link_Search.h"
@@ -72,6 +74,26 @@ class Searching {
     }
   }
 
+  /// The search that finds every wine, which counts no use.
+  void Run_for_All(const Selection& selection) {
+    for (const Pairing& pairing : selection.pairings) Set_Used(pairing.key, Uses::Not_Counted);
+    Mend_Known_Faults();
+    Side ours;
+    Times bare;
+    for (int round = 0; round < rounds; ++round) {
+      bare.push_back(Milliseconds([&] {
+        bare_->Begin(false);
+        found_ = bare_->Search_All(selection.groups);
+      }));
+      bare_->Commit();
+      Ours(selection, ours);
+    }
+    Mend_Known_Faults(false);
+    Check_Found(selection);
+    std::printf("%s: %d wines\n", selection.what.c_str(), Found_Count);
+    Print_Ratio(selection, "search for all", ours.search, bare);
+  }
+
   /// The first search after the start: each page is read from the file.
   void Run_Cold(const Selection& selection) {
     Side ours;
@@ -121,14 +143,13 @@ class Searching {
 
   // Both sides are to have found the same, or the times say nothing.
   void Check_Found(const Selection& selection) const {
-    std::vector<Text> different;
+    std::set<int> seen;
+    std::vector<int> different;
     for (const int wine : found_) {
-      if (std::ranges::find(different, To_Text(wine)) == different.end()) {
-        different.push_back(To_Text(wine));
-      }
+      if (seen.insert(wine).second) different.push_back(wine);
     }
     for (std::size_t i = 0; i < different.size(); ++i) {
-      if (Found_IDs[static_cast<int>(i) + 1] == different[i]) continue;
+      if (Found_IDs[static_cast<int>(i) + 1] == To_Text(different[i])) continue;
       std::fprintf(stderr, "%s: another wine was found\n", selection.what.c_str());
       std::_Exit(1);
     }
@@ -147,6 +168,16 @@ void Measure_Search(const std::string& file, const std::vector<Selection>& selec
     searching.Run(selection, Uses::Not_Counted);
     searching.Run(selection, Uses::Counted);
     searching.Run_Cold(selection);
+  }
+}
+
+void Measure_Search_for_All(const std::string& file, const std::vector<Pairing>& offered) {
+  Searching searching(file);
+  for (const int count : {3, 10, 100}) {
+    Selection selection = Common(offered, count);
+    Merge_Groups(selection);
+    Wine_Cellar_DB->Commit();
+    searching.Run_for_All(selection);
   }
 }
 
@@ -313,6 +344,7 @@ void Measure(const std::set<std::string>& parts, const std::string& folder) {
   for (Selection& selection : selections) Merge_Groups(selection);
   Wine_Cellar_DB->Commit();
   if (wanted("search")) Measure_Search(file, selections);
+  if (wanted("all")) Measure_Search_for_All(file, offered);
   if (wanted("proceed")) {
     for (const Selection& selection : selections) Proceeding(file, selection).Run();
   }

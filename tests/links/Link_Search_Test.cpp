@@ -178,7 +178,8 @@ TEST_F(Link_Search, Random_cellars_and_selections_are_found_as_a_plain_set_tells
     const bool crowded = cellar >= 6;
     const Long groups = crowded ? 6 : 40;
     const auto others = static_cast<Long>(crowded ? 80 + cellar : 1600);
-    const Texts with_rows = Rows("SELECT " + Text(searched.owner) + " FROM " + searched.owners);
+    const Texts with_rows =
+        Rows("SELECT " + Text(searched.owner) + " FROM " + searched.owners + " ORDER BY 1");
     Keys owners;
     for (const Text& owner : with_rows) {
       if (owners.size() < (crowded ? 10 : 400)) owners.push_back(To_Long(owner));

@@ -75,7 +75,8 @@ class Wine_Form : public Cellar_Wine_Screen {
   void Initialize_Form_Data();
   void Initialize_Display_Data();
   void Initialize_Own_Fields();
-  void Initialize_Own_Lists();
+  /// The lists that are the same for every wine, as they begin.
+  void Drop_Entries_Taken_In();
   void Initialize_Winery();
   void Initialize_Label();
   void Initialize_Classification();

@@ -22,18 +22,23 @@ void Add_Numbers(Forms::Combo_Box& combo, int first, int last) {
 // The fields whose lists and texts do not come from the reference tables.
 void Wine_Form::Initialize_Own_Fields() {
   const Ignoring_Events ignoring;
-  Initialize_Own_Lists();
+  Initialize_Vintage();
+  Initialize_Color();
   Boxes.Clear();
+  Initialize_Bootle_Size();
+  Initialize_Merit();
   for (Forms::Text_Box* box : Text_Fields()) box->Set_Text("");
   Pairing_List.Clear();
   Checks_Locked = false;
 }
 
-void Wine_Form::Initialize_Own_Lists() {
-  Initialize_Vintage();
-  Initialize_Color();
-  Initialize_Bootle_Size();
-  Initialize_Merit();
+// Only a list that took an entry in is filled anew: a pick shall not take longer for the others.
+void Wine_Form::Drop_Entries_Taken_In() {
+  constexpr int merits = 1 + highest_merit - lowest_merit + 1;
+  if (Vintage_Combo.ListCount() > vintages_back + 1) Initialize_Vintage();
+  if (Color_Combo.ListCount() > Color_Names.Bound()) Initialize_Color();
+  if (Bottle_Size_Combo.ListCount() > Bottle_Sizes.Bound()) Initialize_Bootle_Size();
+  if (Merit_Combo.ListCount() > merits) Initialize_Merit();
 }
 
 // The peak years follow from the choice.

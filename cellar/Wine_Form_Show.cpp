@@ -32,9 +32,11 @@ void Choose_Year(Forms::Combo_Box& combo, Integer year) {
     Choose(combo, To_Text(year), 1);
     return;
   }
-  int place = 0;
-  while (place < combo.ListCount() && To_Long(combo.List(place)) < year) ++place;
-  if (Place_Of(combo, To_Text(year), 0) != place) combo.AddItem(To_Text(year), place);
+  int place = Place_Of(combo, To_Text(year), 0);
+  if (place == combo.ListCount()) {
+    while (place > 0 && To_Long(combo.List(place - 1)) > year) --place;
+    combo.AddItem(To_Text(year), place);
+  }
   combo.Set_ListIndex(place);
 }
 
@@ -101,7 +103,7 @@ void Wine_Form::Choose_Varieties() {
 
 // The lists begin without what the wine picked before brought along.
 void Wine_Form::Choose_In_Lists() {
-  if (!Is_Kept(Fault::Unlisted_Year_Is_Lost)) Initialize_Own_Lists();
+  Drop_Entries_Taken_In();
   Choose_Year(Vintage_Combo, Wines.Vintage);
   Choose_Year(Peak_Year_Combo, Wines.Peak);
   if (Wines.Ranking == -1) {

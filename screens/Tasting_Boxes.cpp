@@ -1,6 +1,7 @@
 #include "screens/Tasting_Boxes.h"
 
 #include <array>
+#include <set>
 
 #include "core/Globals.h"
 #include "core/Known_Faults.h"
@@ -120,7 +121,7 @@ Text Tasting_Boxes::Ticks() {
 
 void Tasting_Boxes::Offer(std::string_view english_color) {
   Clear();
-  Each([](Forms::Check_Box& box) { box.Set_Visible(false); });
+  std::set<const Forms::Check_Box*> offered;
   Open_Table(Wine_Taste_Type_Recordset, "Wine_Taste_Type", "Color");
   Wine_Taste_Type_Recordset.Seek("=", english_color);
   int taste_box = 0;
@@ -129,10 +130,11 @@ void Tasting_Boxes::Offer(std::string_view english_color) {
   for (; !none && !Wine_Taste_Type_Recordset.Eof(); Wine_Taste_Type_Recordset.MoveNext()) {
     Wine_Taste_Type_Description.Read(Wine_Taste_Type_Recordset, Wine_Taste_Type);
     if (Wine_Taste_Type.Color != english_color) break;
-    if (Wine_Taste_Type.Type == taste) Taste_Check[taste_box++].Set_Visible(true);
-    if (Wine_Taste_Type.Type == aroma) Aroma_Check[aroma_box++].Set_Visible(true);
+    if (Wine_Taste_Type.Type == taste) offered.insert(&Taste_Check[taste_box++]);
+    if (Wine_Taste_Type.Type == aroma) offered.insert(&Aroma_Check[aroma_box++]);
   }
   Close_Table(Wine_Taste_Type_Recordset);
+  Each([&offered](Forms::Check_Box& box) { box.Set_Visible(offered.contains(&box)); });
 }
 
 void Tasting_Boxes::Show_Marks_of(Long wine_id) {

@@ -273,14 +273,19 @@ TEST_F(Fields, Values_that_were_not_given_or_that_no_list_holds) {
     EXPECT_EQ(Shown_Text(field), " ") << field;
   }
   EXPECT_TRUE(Shown_Rows(grapes).empty());
-  Click("Exit_Command");
-  Pick("Wine_Mod");
-  for (const auto& [picked, vintage, peak, size] :
-       {std::tuple{odd, "2001", "2009", ""}, {early, "2016", "2024", "1.5 Lt"}}) {
-    Pick_Wine(picked);
-    EXPECT_THAT((Texts{Shown_Text("Vintage_Combo"), Shown_Text("Peak_Year_Combo"),
+  for (const bool mended : {false, true}) {
+    const Faults_Mended faults(mended);
+    Start_With("Wine_Mod");
+    for (const auto& [picked, years_and_size, mended_ones] :
+         {std::tuple{odd, Texts{"2001", "2009", ""}, Texts{"1976", "1999", "1 keg"}},
+          {early, Texts{"2016", "2024", "1.5 Lt"}, Texts{"2016", "2016", "1.5 Lt"}}}) {
+      Pick_Wine(picked);
+      EXPECT_EQ((Texts{Shown_Text("Vintage_Combo"), Shown_Text("Peak_Year_Combo"),
                        Shown_Text("Bottle_Size_Combo")}),
-                ElementsAre(vintage, peak, size));
+                mended ? mended_ones : years_and_size);
+    }
+    EXPECT_EQ(Shown_Rows("Bottle_Size_Combo").size(), 14U);
+    EXPECT_EQ(Shown_Rows("Peak_Year_Combo").size(), 16U);
   }
 }
 

@@ -216,11 +216,11 @@ TEST_F(Search_Results, A_bottle_uncorked_is_stored_and_the_list_goes_by_the_pair
   EXPECT_FALSE(Is_Usable(button));
   EXPECT_EQ(Bottles_of(not_asked), "3");
   const Faults_Mended faults;  // the results stay, with what has changed
-  Start_With_Found({Food(2), Food(1)});
+  Start_With_Found({Food(0), Food(2)});
   Pick_Wine(not_asked);
   Uncork();
-  EXPECT_THAT(Wines_Listed(), ElementsAre(wine, not_asked));
-  EXPECT_THAT(Shown_Column(list, 8), ElementsAre("0", "2"));
+  EXPECT_THAT(Wines_Listed(), ElementsAre(asked, wine, not_asked));
+  EXPECT_THAT(Shown_Column(list, 8), ElementsAre("3", "0", "2"));
   EXPECT_EQ(Bottles_of(not_asked), "2");
   EXPECT_EQ(Selected_Wine(), not_asked);
   EXPECT_EQ(Shown_Text("Total_Bottles_Text"), "2");

@@ -105,6 +105,11 @@ TEST_F(Tasting, A_color_offers_as_many_boxes_as_the_file_has_rows_of_it_and_none
     EXPECT_THAT(Ticked_Boxes(), ElementsAre("Taste_Check_1", "Aroma_Check_0", "Aroma_Check_2"));
   }
   Expect_End(3021, [] { Choose("Color_Combo", "Rosé"); });
+  const Faults_Mended faults;
+  Start_With("Wine_Add");
+  Choose_Winery();
+  Choose("Color_Combo", "Rosé");
+  EXPECT_EQ(Shown("Taste_Check_"), 0);
 }
 
 TEST_F(Tasting, Marks_of_a_wine_are_shown_and_locked_boxes_stay_as_they_are) {

@@ -17,6 +17,7 @@
 #include <optional>
 #include <vector>
 
+#include "links/Used_Counters.h"
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Values.h"
 #include "screens/Cellar_Wine_Screen.h"
@@ -156,12 +157,14 @@ class Wine_Form : public Cellar_Wine_Screen {
   void From_Form_to_Memory(const Numbers& numbers);
   void Varieties_to_Memory();
   Long Store_Data_Text(Forms::Text_Box& box, Long key);
-  void Remove_Tasting();
   void Store_Varieties();
   void Remove_Varieties();
   void Store_Pairings();
-  void Count_Wine_In();
-  void Count_Wine_Out();
+  void Store_Links_And_Count();
+  void Count_Names_In();
+  void Count_Names_Out();
+  static Uses Uses_Counted();
+  void Remove_Rows_of_Wine();
 
   Text stored_;
   Text chosen_winery_;  ///< the key

@@ -7,6 +7,7 @@
 #include "core/tables/Catalogue.h"
 #include "links/Link_Store.h"
 #include "links/Used_Counters.h"
+#include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
 #include "screens/Field_States.h"
 
@@ -22,7 +23,7 @@ void Wine_Form::Multi_Functional_Command_Click() {
 void Wine_Form::Save_Wine() {
   Store_New_Wine();
   Boxes.Store_Marks_of(Wines.Wine_ID);
-  Count_Wine_In();
+  Store_Links_And_Count();
   Take_as_Stored();
   Winery_Combo.Set_ListIndex(0);
   Display_Current_Cellar();
@@ -52,18 +53,25 @@ void Wine_Form::Store_New_Wine() {
   Close_Table(Wines_Recordset);
 }
 
+// As designed a part of what the wine uses is counted on the way.
+void Wine_Form::Store_Links_And_Count() {
+  const bool on_the_way = Is_Kept(Fault::Wrong_Rows_Are_Counted);
+  if (on_the_way) Count_Names_In();
+  Store_Varieties();
+  if (on_the_way && Variety_Combo.ListIndex() >= 1) Count_Variety(Varieties.Variety_ID, 1);
+  Store_Pairings();
+  if (!on_the_way) Count_Difference({}, Uses_of_Wine());
+}
+
 // The label's and the classification's counters go by their memory records, and of all grapes only
 // the one read last is counted, where the list of grapes has a current line.
-void Wine_Form::Count_Wine_In() {
+void Wine_Form::Count_Names_In() {
   Count_Winery(Wines.Winery_ID, 1);
   Count_Region(Wineries.Region_ID, 1);
   if (Label_Combo.ListIndex() > 1) Count_Label(Labels.Label_ID, 1);
   if (Classification_Combo.ListIndex() > 1) {
     Count_Classification(Classification.Classification_ID, 1);
   }
-  Store_Varieties();
-  if (Variety_Combo.ListIndex() >= 1) Count_Variety(Varieties.Variety_ID, 1);
-  Store_Pairings();
 }
 
 // ---- MODIFY ----
@@ -71,15 +79,17 @@ void Wine_Form::Count_Wine_In() {
 void Wine_Form::Modify_Wine() {
   const Numbers numbers = Numbers_of_Form();
   Seek_Wine();
+  const Uses before = Uses_Counted();
   From_Form_to_Memory(numbers);
   Wines_Recordset.Edit();
   Write_Wines_Record();
   Close_Table(Wines_Recordset);
-  Remove_Tasting();
+  Boxes.Remove_Marks_of(Wines.Wine_ID);
   Boxes.Store_Marks_of(Wines.Wine_ID);
   Remove_Varieties();
   Store_Varieties();
   Store_Pairings();
+  Count_Difference(before, Uses_Counted());
   Lock_Top_Window();
   Display_Current_Cellar();
   Multi_Functional_Command.Set_Enabled(false);
@@ -89,28 +99,14 @@ void Wine_Form::Modify_Wine() {
   Wait_for_Pick();
 }
 
-// Begins with the lowest key of the table, whichever wine that is: only the marks of that wine are
-// ever removed. An empty table has no row to begin with (3021).
-void Wine_Form::Remove_Tasting() {
-  Open_Table(Wine_Tasting_Recordset, "Wine_Tasting", "Wine_ID");
-  do {
-    if (Wine_Tasting_Recordset.Fields("Wine_ID").As_Long() != Wines.Wine_ID) break;
-    Wine_Tasting_Recordset.Edit();
-    Wine_Tasting_Recordset.Delete();
-    Wine_Tasting_Recordset.MoveNext();
-  } while (!Wine_Tasting_Recordset.Eof());
-  Close_Table(Wine_Tasting_Recordset);
-}
-
-// A wine without a row has none to begin with (3021).
+// As designed a wine without a row has none to begin with (3021).
 void Wine_Form::Remove_Varieties() {
   Open_Table(Varieties_of_Wines_Recordset, "Varieties_of_Wines", "Wine_ID");
   Varieties_of_Wines_Recordset.Seek("=", Wines.Wine_ID);
-  do {
-    if (Varieties_of_Wines_Recordset.Fields("Wine_ID").As_Long() != Wines.Wine_ID) break;
-    Varieties_of_Wines_Recordset.Delete();
-    Varieties_of_Wines_Recordset.MoveNext();
-  } while (!Varieties_of_Wines_Recordset.Eof());
+  if (Is_Kept(Fault::Nothing_To_Remove_Ends_The_Run)) {
+    Varieties_of_Wines_Recordset.Fields("Wine_ID").As_Long();
+  }
+  Remove_Rows_Of(Varieties_of_Wines_Recordset, "Wine_ID", Wines.Wine_ID);
   Close_Table(Varieties_of_Wines_Recordset);
 }
 
@@ -124,15 +120,18 @@ void Wine_Form::Remove_Wine() {
     Close_Table(Wines_Recordset);
     return;
   }
+  const Uses uses = Uses_Counted();
   Wines_Recordset.Edit();
   Wines_Recordset.Delete();
   Close_Table(Wines_Recordset);
-  Count_Wine_Out();
+  if (Is_Kept(Fault::Wrong_Rows_Are_Counted)) Count_Names_Out();
+  Count_Difference(uses, {});
+  if (!Is_Kept(Fault::Rows_Of_Removed_Wine_Stay)) Remove_Rows_of_Wine();
   Forms::Message_Box("This wine was REMOVED from your Wine Cellar.", "WINE DELETE NOTICE");
   Leave();
 }
 
-void Wine_Form::Count_Wine_Out() {
+void Wine_Form::Count_Names_Out() {
   Count_Winery(Wines.Winery_ID, -1);
   Count_Region(Wineries.Region_ID, -1);
   if (Label_Combo.ListIndex() > 1) Count_Label(To_Long(Label_Combo.Key()), -1);
@@ -142,7 +141,20 @@ void Wine_Form::Count_Wine_Out() {
   if (Variety_Combo.ListIndex() > 0) Count_Variety(To_Long(Variety_Combo.Key()), -1);
 }
 
+void Wine_Form::Remove_Rows_of_Wine() {
+  Boxes.Remove_Marks_of(Wines.Wine_ID);
+  Remove_Varieties();
+  Selected_Count = 0;
+  Store_Wine_Maridages();
+  for (const Long text : {Wines.Description, Wines.Comments}) Remove_Data_Text(text);
+}
+
 // ---- what they share ----
+
+// As designed MODIFY counts nothing, and REMOVE what the screen names.
+Uses Wine_Form::Uses_Counted() {
+  return Is_Kept(Fault::Wrong_Rows_Are_Counted) ? Uses{} : Uses_of_Wine();
+}
 
 Wine_Form::Numbers Wine_Form::Numbers_of_Form() const {
   const Text price = Trim(Price_Text.Text());
@@ -212,7 +224,11 @@ void Wine_Form::Store_Varieties() {
   Close_Table(Varieties_of_Wines_Recordset);
 }
 
-// Where the list is empty, the stored pairings stay.
+// An empty list may stand beside a selection of another wine.
 void Wine_Form::Store_Pairings() {
-  if (Pairing_List.ListCount() > 0) Store_Wine_Maridages();
+  if (Pairing_List.ListCount() == 0) {
+    if (Is_Kept(Fault::Emptied_Pairings_Stay)) return;
+    Selected_Count = 0;
+  }
+  Store_Wine_Maridages();
 }

@@ -48,7 +48,8 @@ void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
   }
   Show_Stand_Ins(false);
   Checks_Locked = false;
-  Selected_Wine_ID = To_Integer(Wine_Cellar_ListView.Key_of(item));
+  const Text key = Wine_Cellar_ListView.Key_of(item);
+  Selected_Wine_ID = Is_Kept(Fault::Wine_Numbers_Have_16_Bits) ? To_Integer(key) : To_Long(key);
   Seek_Wine();
   Open_By_Key(Wineries_Table);
   Read_Winery_of_Wine();

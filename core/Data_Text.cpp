@@ -38,3 +38,10 @@ Long Change_Data_Text(Long key, std::string_view text, Edit_First edit) {
   Close_Table(Words_for_Data_Recordset);
   return key;
 }
+
+void Remove_Data_Text(Long key) {
+  Open_By_Key(Words_for_Data_Table);
+  Words_for_Data_Recordset.Seek("=", key);
+  if (!Words_for_Data_Recordset.NoMatch()) Words_for_Data_Recordset.Delete();
+  Close_Table(Words_for_Data_Recordset);
+}

@@ -20,3 +20,6 @@ enum class Edit_First { Yes, No };
 /// Stores `text` over that of the row in the language in force, and returns the key; adds a row,
 /// and returns its key, where there is none of this key.
 Long Change_Data_Text(Long key, std::string_view text, Edit_First edit = Edit_First::Yes);
+
+/// Removes the row, in all languages; nothing where there is none.
+void Remove_Data_Text(Long key);

@@ -3,6 +3,7 @@
 #include "core/Common_Words.h"
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
+#include "core/Known_Faults.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
@@ -29,6 +30,14 @@ void Set_Database_Paths() {
 
 namespace {
 
+// As designed three tables refer to a wine in 16 bits, and so they do in every file.
+void Widen_Wine_Numbers() {
+  if (Is_Kept(Fault::Wine_Numbers_Have_16_Bits)) return;
+  for (const char* table : {"Wine_Tasting", "Cheeses_Per_Wines", "Wines_Per_Cheeses"}) {
+    Wine_Cellar_DB->Widen(table, "Wine_ID");
+  }
+}
+
 // The logo follows: it spans the window.
 void Fit_Window_To_Language() {
   Read_By_Key(Languages_Available_Table, System_Language);
@@ -39,6 +48,7 @@ void Fit_Window_To_Language() {
 
 void Open_Databases() {
   Open_Wine_Cellar_DB();
+  Widen_Wine_Numbers();
   Hooks().commit = [] { Wine_Cellar_DB->Commit(); };
   Load_Countries();
   Open_Table(Words_Recordset, "Words");

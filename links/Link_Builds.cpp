@@ -1,14 +1,19 @@
 // A selection becomes addresses, and what belongs to each item is written.
 #include "links/Link_Builds.h"
 
+#include <algorithm>
 #include <array>
 #include <functional>
+#include <vector>
 
 #include "core/Globals.h"
+#include "core/Known_Faults.h"
 #include "core/Ownership.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Mobile_Wines_DB.h"
+#include "links/Link_Decoders.h"
 #include "links/Link_Table.h"
+#include "links/Used_Counters.h"
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
 
@@ -23,15 +28,17 @@ enum class Counting { Uses, Nothing };
 
 void Count_Use(Recordset& rows) {
   const Long used = rows.Fields("Used").As_Long();
-  if (used < 0) return;
+  if (!Counter_Moves(used, 1)) return;
   rows.Edit();
   rows.Fields("Used") = To_Integer(static_cast<double>(used) + 1);
   rows.Update();
 }
 
-// `extras` runs on each row, the current one of the table.
+// `extras` runs on each row, the current one of the table. A key without a row fails as designed
+// alone, and there not in every build.
 void Build(const Addressed_Table& from, const std::function<void()>& extras,
            Missing_Row missing = Missing_Row::Fails, Counting counting = Counting::Uses) {
+  if (!Is_Kept(Fault::Gone_Row_Ends_The_Run)) missing = Missing_Row::Is_Left_Out;
   Open_Table(from.rows, from.name, from.key);
   Sort_Count = 0;
   for (int item = 1; item <= Selected_Count; ++item) {
@@ -56,11 +63,27 @@ constexpr std::array cheeses_of_mobile_wines{
     Link_Table{Cheeses_Per_Mobile_Wines_Recordset, "Cheeses_Per_Mobile_Wines", "Mobile_Wines_ID"},
     Link_Table{Mobile_Wines_Per_Cheeses_Recordset, "Mobile_Wines_Per_Cheeses", "Mobile_Wines_ID"}};
 
-void Add_Pair(const Link_Table& pairs, Long wine_id) {
+void Add_Pair(const Link_Table& pairs, Long wine_id, Long cheese_id = Maridages.Cheese_ID) {
   pairs.rows.AddNew();
-  pairs.rows.Fields("Cheese_ID") = Maridages.Cheese_ID;
+  pairs.rows.Fields("Cheese_ID") = cheese_id;
   pairs.rows.Fields(pairs.owner) = wine_id;
   pairs.rows.Update();
+}
+
+// What stands rightly stays.
+void Make_Pairs_of_Wine(const Link_Table& pairs, std::vector<Long> cheeses) {
+  Open_Table(pairs.rows, pairs.name);
+  for (; !pairs.rows.Eof(); pairs.rows.MoveNext()) {
+    if (pairs.rows.Fields(pairs.owner).As_Long() != Wines.Wine_ID) continue;
+    const auto wanted = std::ranges::find(cheeses, pairs.rows.Fields("Cheese_ID").As_Long());
+    if (wanted == cheeses.end()) {
+      pairs.rows.Delete();
+    } else {
+      cheeses.erase(wanted);
+    }
+  }
+  for (const Long cheese : cheeses) Add_Pair(pairs, Wines.Wine_ID, cheese);
+  Close_Table(pairs.rows);
 }
 
 bool Pair_Stands(const Link_Table& pairs, Long wine_id) {
@@ -95,14 +118,28 @@ Integer Next_Mobile_Wines_per_Maridage_ID() {
 }  // namespace
 
 void Build_Wine_Maridage_Groups() {
-  Build(Addressed_Pairings, [] {
-    if (!Command_Is("WineAdd", "WineMod") || Maridages.Cheese_ID == -1) return;
+  const bool with_cheeses =
+      Command_Is("WineAdd", "WineMod") && Is_Kept(Fault::Cheese_Goes_By_Last_Record);
+  const bool counts = Is_Kept(Fault::Pairings_Count_Again) || Command_Is("CheeseAdd", "CheeseMod");
+  const auto extras = [with_cheeses] {
+    if (!with_cheeses || Maridages.Cheese_ID == -1) return;
     for (const Link_Table& pairs : cheeses_of_wines) {
       Open_Table(pairs.rows, pairs.name);
       Add_Pair(pairs, Wines.Wine_ID);
       Close_Table(pairs.rows);
     }
+  };
+  Build(Addressed_Pairings, extras, Missing_Row::Fails,
+        counts ? Counting::Uses : Counting::Nothing);
+}
+
+void Build_Cheeses_of_Wine() {
+  std::vector<Long> cheeses;
+  Each_Maridage_of_Wine([&cheeses] {
+    const Long cheese = Maridages_Recordset.Fields("Cheese_ID").As_Long();
+    if (cheese != -1) cheeses.push_back(cheese);
   });
+  for (const Link_Table& pairs : cheeses_of_wines) Make_Pairs_of_Wine(pairs, cheeses);
 }
 
 void Build_Mobile_Wine_Maridage_Groups() {

@@ -1,5 +1,6 @@
 #include "links/Link_Decoders.h"
 
+#include "core/Known_Faults.h"
 #include "core/Languages.h"
 #include "core/tables/Catalogue.h"
 #include "links/Link_Table.h"
@@ -29,7 +30,9 @@ void Each_Link(const Link_Table& links, Long owner, const Decode& decode) {
 
 using Maridages_Found = Bounded_Array<Decoded_Maridage, 100>;
 
+// As designed the place behind the last one is a failure.
 void Take_Maridage(Maridages_Found& found) {
+  if (Decoded_Count == found.Bound() && !Is_Kept(Fault::More_Pairings_End_The_Run)) return;
   Decoded_Maridage& maridage = found[++Decoded_Count];
   maridage.Maridage_ID = Maridages_Recordset.Fields("Maridage_ID").As_Long();
   maridage.Maridage_Name = Maridages_Recordset.Fields("Maridage_Name").As_Text();
@@ -39,24 +42,38 @@ void Take_Maridage(Maridages_Found& found) {
   }
 }
 
-// From the current row of `Maridages` on, past the end of the table too.
+bool In_Decoded_Group() {
+  return !Maridages_Recordset.Eof() &&
+         Maridages_Recordset.Fields("Maridage_Group").As_Long() == Decoded_Group;
+}
+
+// From the current row of `Maridages` on; as designed past the end of the group, and of the table
+// too.
 bool Find_Maridage(Long subgroup) {
+  const bool past_its_end = Is_Kept(Fault::Missing_Subgroup_Ends_The_Run);
   for (int row = 0; row < rows_looked_at; ++row) {
+    if (!past_its_end && !In_Decoded_Group()) return false;
     if (Maridages_Recordset.Fields("Maridage_SubGr").As_Long() == subgroup) return true;
     Maridages_Recordset.MoveNext();
   }
   return false;
 }
 
-void Load_Maridages(const Link_Table& links, Long owner, Maridages_Found& found) {
+// Calls `take()` on the row of each pairing. Both tables are open.
+template <class Take>
+void Each_Maridage(const Link_Table& links, Long owner, const Take& take) {
   Maridages_Recordset.Index("Maridage_GROUP");
   Each_Link(links, owner, [&] {
     Maridages_Recordset.Seek("=", Decoded_Group);
     while (!Maridages_Recordset.NoMatch() && Decoded_Mask >= 1) {
-      if (Find_Maridage(Next_Subgroup_of_Mask(Decoded_Mask))) Take_Maridage(found);
+      if (Find_Maridage(Next_Subgroup_of_Mask(Decoded_Mask))) take();
       Maridages_Recordset.Seek("=", Decoded_Group);
     }
   });
+}
+
+void Load_Maridages(const Link_Table& links, Long owner, Maridages_Found& found) {
+  Each_Maridage(links, owner, [&found] { Take_Maridage(found); });
 }
 
 void Fill_Lists(const Link_Table& links, void (*load)(), const Maridages_Found& found,
@@ -146,6 +163,14 @@ void Fill_Lists_with_Variety_Maridages(Forms::Item_List& texts, Forms::Item_List
 
 void Fill_Lists_with_Cheese_Maridages(Forms::Item_List& texts, Forms::Item_List& keys) {
   Fill_Lists(Pairings_of_Cheeses, Load_Maridages_of_Cheese, Decoded_Cheese_Maridages, texts, keys);
+}
+
+void Each_Maridage_of_Wine(const std::function<void()>& action) {
+  Open_Table(Maridages_Per_Wines_Recordset, "Maridages_Per_Wines");
+  Open_Table(Maridages_Recordset, "Maridages");
+  Each_Maridage(Pairings_of_Wines, Wines.Wine_ID, action);
+  Close_Table(Maridages_Per_Wines_Recordset);
+  Close_Table(Maridages_Recordset);
 }
 
 bool Wine_Has_Maridages() {

@@ -3,16 +3,19 @@
 // Each decoder takes the owner's key from its memory record and goes through the owner's group link
 // rows in storage order, and through the subgroups of each from the highest down. To find a
 // subgroup it looks at ten rows, beginning with the first row of the group. `Decoded_Count` tells
-// how many it found. Failure 9: a 101st item.
+// how many it found. A 101st item is failure 9; of pairings, as designed alone, otherwise it is
+// left out.
 #pragma once
+
+#include <functional>
 
 #include "platform/forms/Item_List.h"
 
 // ---- pairings, into `Decoded_Maridages`; the tables are open before and after ----
 
-/// For a subgroup that its group does not have, these look on into the next group, and take a
-/// pairing of this subgroup there; they fail with 3021 where the table ends first. A group without
-/// rows is left out.
+/// A group without rows is left out, and so is a subgroup that its group does not have. As designed
+/// these look on for it into the next group, and take a pairing of this subgroup there; they fail
+/// with 3021 where the table ends first.
 void Load_Maridages_of_Wine();
 void Load_Maridages_of_Mobile_Wine();
 void Load_Maridages_of_Variety();
@@ -25,6 +28,11 @@ void Load_Maridages_of_Cheese();
 void Fill_Lists_with_Wine_Maridages(Forms::Item_List& texts, Forms::Item_List& keys);
 void Fill_Lists_with_Variety_Maridages(Forms::Item_List& texts, Forms::Item_List& keys);
 void Fill_Lists_with_Cheese_Maridages(Forms::Item_List& texts, Forms::Item_List& keys);
+
+/// All pairings of the wine in the memory record, however many: `action()` is called for each,
+/// which is the current row of `Maridages` then and must stay so. Opens and closes the tables, and
+/// changes `Decoded_Count` to 0.
+void Each_Maridage_of_Wine(const std::function<void()>& action);
 
 /// Whether the wine in the memory record has pairings.
 bool Wine_Has_Maridages();

@@ -1,9 +1,14 @@
 // The owner's rows of a link table are replaced by the merged addresses.
 #include "links/Link_Store.h"
 
+#include <algorithm>
+#include <vector>
+
+#include "core/Known_Faults.h"
 #include "core/Ownership.h"
 #include "core/tables/Catalogue.h"
 #include "links/Link_Builds.h"
+#include "links/Link_Decoders.h"
 #include "links/Link_Table.h"
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
@@ -40,9 +45,25 @@ void Store(const Link_Table& links, Long owner, void (*build)(), const Text& ser
   Close_Table(links.rows);
 }
 
+// Whether the selection is what a list shows of the wine's stored pairings: the first hundred.
+bool Wine_Has_Selection() {
+  std::vector<Text> stored;
+  std::vector<Text> selected;
+  Each_Maridage_of_Wine([&stored] {
+    if (static_cast<int>(stored.size()) == Selected_IDs.Bound()) return;
+    stored.push_back(Maridages_Recordset.Fields("Maridage_ID").As_Text());
+  });
+  for (int item = 1; item <= Selected_Count; ++item) selected.push_back(Selected_IDs[item]);
+  return std::ranges::is_permutation(stored, selected);
+}
+
 }  // namespace
 
-void Store_Wine_Maridages() { Store(Pairings_of_Wines, Wines.Wine_ID, Build_Wine_Maridage_Groups); }
+void Store_Wine_Maridages() {
+  const bool kept_as_it_is = !Is_Kept(Fault::More_Pairings_End_The_Run) && Wine_Has_Selection();
+  if (!kept_as_it_is) Store(Pairings_of_Wines, Wines.Wine_ID, Build_Wine_Maridage_Groups);
+  if (!Is_Kept(Fault::Cheese_Goes_By_Last_Record)) Build_Cheeses_of_Wine();
+}
 
 // The new rows of the pair table are written by the build: the old ones go before it.
 void Store_Mobile_Wine_Maridages() {

@@ -7,9 +7,13 @@
 //
 // Failures: 3021 for a key without a row (the two builds for general wines leave it out instead); 6
 // where a key or counter is more than its field holds; 9 for a 101st item. What was written before
-// stays written, and the tables in use stay open.
+// stays written, and the tables in use stay open. Mended, a key without a row is left out, and a
+// full counter stays.
 #pragma once
 
+/// Mended, the link rows stay as they are where the selection is what lists show of them (these
+/// leave out what is behind the hundredth, and what has no row), and the wine's rows of cheeses
+/// follow the link rows. A selection of none then takes all of them away.
 void Store_Wine_Maridages();
 /// Removes the wine's rows of `Mobile_Wines_per_Maridage` too, and both before the build.
 void Store_Mobile_Wine_Maridages();

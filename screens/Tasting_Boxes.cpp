@@ -144,7 +144,8 @@ void Tasting_Boxes::Show_Marks_of(Long wine_id) {
   Open_Table(Wine_Tasting_Recordset, "Wine_Tasting", "Wine_ID");
   Each_Row_Of(Wine_Tasting_Recordset, "Wine_ID", wine_id, [this] {
     Read_Wine_Tasting_Record();
-    if (marks_of_ == Wine_List::General && Wine_Tasting.Cellar_Wine) return;
+    const bool any = marks_of_ == Wine_List::Cellar && Is_Kept(Fault::Marks_Of_General_Wines_Show);
+    if (!any && !Is_Own_Row()) return;
     Boxes* boxes = Wine_Tasting.Type_Taste == taste   ? &Taste_Check
                    : Wine_Tasting.Type_Taste == aroma ? &Aroma_Check
                                                       : nullptr;
@@ -157,9 +158,11 @@ void Tasting_Boxes::Show_Marks_of(Long wine_id) {
 }
 
 void Tasting_Boxes::Store_Marks_of(Long wine_id) {
+  const bool by_clicks = Is_Kept(Fault::Tastes_Go_By_Clicks);
   Open_Table(Wine_Tasting_Recordset, "Wine_Tasting");
   for (int box = 0; box < taste_boxes; ++box) {
-    if (Taste_Flags[box + 1]) Add_Row(wine_id, taste, box);
+    const bool marked = by_clicks ? Taste_Flags[box + 1] : Taste_Check[box].Value() == 1;
+    if (marked) Add_Row(wine_id, taste, box);
   }
   for (int box = 0; box < aroma_boxes; ++box) {
     if (Aroma_Check[box].Value() == 1) Add_Row(wine_id, aroma, box);
@@ -167,12 +170,30 @@ void Tasting_Boxes::Store_Marks_of(Long wine_id) {
   Close_Table(Wine_Tasting_Recordset);
 }
 
+// As designed this begins with the lowest key of the table, whichever wine that is: only the marks
+// of that wine are ever removed, and those of a general wine of its number with them.
+void Tasting_Boxes::Remove_Marks_of(Long wine_id) const {
+  const bool kept = Is_Kept(Fault::Old_Marks_Stay);
+  Open_Table(Wine_Tasting_Recordset, "Wine_Tasting", "Wine_ID");
+  if (!kept || Wine_Tasting_Recordset.Fields("Wine_ID").As_Long() == wine_id) {
+    Each_Row_Of(Wine_Tasting_Recordset, "Wine_ID", wine_id, [this, kept] {
+      if (kept || Is_Own_Row()) Wine_Tasting_Recordset.Delete();
+    });
+  }
+  Close_Table(Wine_Tasting_Recordset);
+}
+
+bool Tasting_Boxes::Is_Own_Row() const {
+  const bool of_cellar = Wine_Tasting_Recordset.Fields("Cellar_Wine").As_Boolean();
+  return of_cellar == (marks_of_ == Wine_List::Cellar);
+}
+
 void Tasting_Boxes::Add_Row(Long wine_id, const char* kind, int box) const {
   Wine_Tasting_Recordset.AddNew();
   Init_Wine_Tasting_Record();
   Wine_Tasting.Description = static_cast<Integer>(box);
   Wine_Tasting.Type_Taste = kind;
-  Wine_Tasting.Wine_ID = To_Integer(static_cast<double>(wine_id));
+  Wine_Tasting.Wine_ID = wine_id;
   Wine_Tasting.Cellar_Wine = marks_of_ == Wine_List::Cellar;
   Write_Wine_Tasting_Record();
 }

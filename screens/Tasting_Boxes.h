@@ -42,13 +42,16 @@ class Tasting_Boxes {
   /// `english_color` is written as in that table.
   void Offer(std::string_view english_color);
 
-  /// Ticks what the rows of `Wine_Tasting` with this key say, flags nothing. Mended, a ticked box
-  /// can be seen whatever the colour offers. Of the general list
-  /// only its own; for the cellar, a row of a wine of the other list with the same key shows as
-  /// well.
+  /// Ticks what the rows of `Wine_Tasting` with this key say, flags nothing. Only those of its own
+  /// list; as designed, for the cellar a row of a general wine with the same key shows as well.
+  /// Mended, a ticked box can be seen whatever the colour offers.
   void Show_Marks_of(Long wine_id);
-  /// Adds a row for each flagged taste box and each ticked aroma box. 6 for a key beyond 16 bits.
+  /// Adds a row for each ticked box; as designed, for each flagged taste box and each ticked aroma
+  /// box. 6 for a key beyond 16 bits.
   void Store_Marks_of(Long wine_id);
+  /// Removes the rows of the wine; as designed, only if it has the lowest key of the table. 3021
+  /// then where the table is empty.
+  void Remove_Marks_of(Long wine_id) const;
 
  private:
   using Boxes = Forms::Control_Array<Forms::Check_Box>;
@@ -61,6 +64,8 @@ class Tasting_Boxes {
   void Undo(Forms::Check_Box& box);
   void Exclude_Others(int index);
   void Add_Row(Long wine_id, const char* kind, int box) const;
+  /// Whether the current row of `Wine_Tasting` is of a wine of `marks_of_`.
+  bool Is_Own_Row() const;
 
   Wine_List marks_of_;
   std::function<int()> color_;

@@ -137,14 +137,15 @@ const Tables::Table<Cheeses_Per_Maridage_Record> Cheeses_Per_Maridage_Descriptio
 
 const Tables::Table<Cheeses_Per_Wines_Record> Cheeses_Per_Wines_Description = [] {
   using R = Cheeses_Per_Wines_Record;
-  return Tables::Table<R>{
-      "Cheeses_Per_Wines", {{"Cheese_ID", &R::Cheese_ID}, {"Wine_ID", &R::Wine_ID}}, {}};
+  return Tables::Table<R>{"Cheeses_Per_Wines",
+                          {{"Cheese_ID", &R::Cheese_ID}, {"Wine_ID", &R::Wine_ID, Tables::Small}},
+                          {}};
 }();
 
 const Tables::Table<Wines_Per_Cheeses_Record> Wines_Per_Cheeses_Description = [] {
   using R = Wines_Per_Cheeses_Record;
   return Tables::Table<R>{"Wines_Per_Cheeses",
-                          {{"Cheese_ID", &R::Cheese_ID}, {"Wine_ID", &R::Wine_ID}},
+                          {{"Cheese_ID", &R::Cheese_ID}, {"Wine_ID", &R::Wine_ID, Tables::Small}},
                           {{"Cheese_ID"}}};
 }();
 

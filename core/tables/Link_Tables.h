@@ -179,7 +179,7 @@ extern const Tables::Table<Cheeses_Per_Maridage_Record> Cheeses_Per_Maridage_Des
 
 struct Cheeses_Per_Wines_Record {
   Integer Cheese_ID{};
-  Integer Wine_ID{};
+  Long Wine_ID{};
 };
 
 inline Cheeses_Per_Wines_Record Cheeses_Per_Wines;
@@ -189,7 +189,7 @@ extern const Tables::Table<Cheeses_Per_Wines_Record> Cheeses_Per_Wines_Descripti
 
 struct Wines_Per_Cheeses_Record {
   Integer Cheese_ID{};
-  Integer Wine_ID{};
+  Long Wine_ID{};
 };
 
 inline Wines_Per_Cheeses_Record Wines_Per_Cheeses;

@@ -18,7 +18,7 @@
 
 namespace Tables {
 
-/// A place in a memory record. Its type is also the type of the stored field, but for counters.
+/// A place in a memory record. Its type is also the type of the stored field, but for marked ones.
 template <class Record>
 using Member = std::variant<bool Record::*, Integer Record::*, Long Record::*, Single Record::*,
                             Currency Record::*, Date Record::*, Text Record::*>;
@@ -38,9 +38,11 @@ constexpr Record_Store::Field_Type Type_Of() {
 // The marks a field can carry in its description.
 struct Counter_Mark {};
 struct Copy_Mark {};
+struct Small_Mark {};
 struct Never_Stored_Mark {};
 inline constexpr Counter_Mark Counter;            ///< the store gives it at AddNew; never written
 inline constexpr Copy_Mark Copy_Of_Counter;       ///< always the counter's value; never written
+inline constexpr Small_Mark Small;                ///< 16 bits in the store, unless it is widened
 inline constexpr Never_Stored_Mark Never_Stored;  ///< a member of the memory record alone
 
 /// One field of a table and its member of the memory record.
@@ -73,6 +75,14 @@ class Field {
   template <class Value>
   Field(std::string_view name, Value Record::*member, Copy_Mark) : Field(name, member) {
     schema_.copy_of_counter = true;
+  }
+
+  Field(std::string_view name, Long Record::*member, Small_Mark) : Field(name, member) {
+    schema_.type = Record_Store::Field_Type::Integer;
+  }
+  Field(std::string_view name, Long Record::*member, Small_Mark mark, Long initial)
+      : Field(name, member, mark) {
+    Set_Default(member, initial);
   }
 
   template <class Value, class Default>

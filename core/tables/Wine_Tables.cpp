@@ -79,7 +79,7 @@ const Tables::Table<Wine_Tasting_Record> Wine_Tasting_Description = [] {
   return Tables::Table<R>{"Wine_Tasting",
                           {{"Description", &R::Description, -1},
                            {"Type_Taste", &R::Type_Taste, "x"},
-                           {"Wine_ID", &R::Wine_ID, 0},
+                           {"Wine_ID", &R::Wine_ID, Tables::Small, 0},
                            {"Cellar_Wine", &R::Cellar_Wine, true}},
                           {{"Wine_ID"}}};
 }();

@@ -102,7 +102,7 @@ extern const Tables::Table<Wine_Taste_Type_Record> Wine_Taste_Type_Description;
 struct Wine_Tasting_Record {
   Integer Description{};  ///< the box, from 0
   Text Type_Taste;        ///< "Taste" or "Aroma"
-  Integer Wine_ID{};      ///< key in Wines or Mobile_Wines
+  Long Wine_ID{};         ///< key in Wines or Mobile_Wines
   bool Cellar_Wine{};     ///< True: of Wines; False: of Mobile_Wines
 };
 

@@ -16,9 +16,11 @@ void Database::Commit() { core_->Commit(); }
 std::vector<std::string> Database::Table_Names() const { return core_->Table_Names(); }
 
 Table_Schema Database::Schema_Of(std::string_view name) const {
-  const Stored_Table* table = core_->Find_Table(name);
-  if (table == nullptr) Fail(Failure::No_Such_Table, name);
-  return table->Schema();
+  return core_->Known_Table(name).Schema();
+}
+
+void Database::Widen(std::string_view table, std::string_view field) {
+  core_->Known_Table(table).Widen(field);
 }
 
 }  // namespace Record_Store

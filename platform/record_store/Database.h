@@ -43,6 +43,12 @@ class Database {
   /// read or written since the last one.
   void Commit();
 
+  /// From now on, for as long as this is open, an Integer field takes what a Long takes. The file
+  /// and its description stay as they are: a row holds any whole number, and wherever the field is
+  /// not widened such a one can still be sought and read as Long. 3078 and 3265 where there is no
+  /// such table or field.
+  void Widen(std::string_view table, std::string_view field);
+
   std::vector<std::string> Table_Names() const;
   /// The description under which the table was created; 3078 where there is none.
   Table_Schema Schema_Of(std::string_view table) const;

@@ -106,6 +106,12 @@ Stored_Table* Database_Core::Find_Table(std::string_view name) {
   return tables_.emplace(kept, std::move(table)).first->second.get();
 }
 
+Stored_Table& Database_Core::Known_Table(std::string_view name) {
+  Stored_Table* table = Find_Table(name);
+  if (table == nullptr) Fail(Failure::No_Such_Table, name);
+  return *table;
+}
+
 std::vector<std::string> Database_Core::Table_Names() {
   Begin_Read();
   const Statement statement =
@@ -124,9 +130,7 @@ Cursor& Database_Core::Open(std::string_view table_or_statement) {
     return Open_Table(*known->second);
   }
   if (!Is_Name(table_or_statement)) return Open_Query(table_or_statement);
-  Stored_Table* table = Find_Table(table_or_statement);
-  if (table == nullptr) Fail(Failure::No_Such_Table, table_or_statement);
-  return Open_Table(*table);
+  return Open_Table(Known_Table(table_or_statement));
 }
 
 Cursor& Database_Core::Open_Table(Stored_Table& table) {

@@ -42,7 +42,8 @@ class Database_Core {
 
   // ---- tables ----
 
-  Stored_Table* Find_Table(std::string_view name);  ///< nullptr where there is none
+  Stored_Table* Find_Table(std::string_view name);   ///< nullptr where there is none
+  Stored_Table& Known_Table(std::string_view name);  ///< 3078 where there is none
   std::vector<std::string> Table_Names();
 
   // ---- cursors ----

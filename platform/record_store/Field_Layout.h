@@ -37,6 +37,7 @@ class Field_Layout {
   /// -1 where there is none. Of two fields of one name the first.
   int Find(std::string_view name) const;
   int Counter() const { return counter_; }  ///< its ordinal, or -1
+  void Widen(int ordinal) { columns_[static_cast<std::size_t>(ordinal)].type = Field_Type::Long; }
 
  private:
   std::uint64_t number_ = 0;

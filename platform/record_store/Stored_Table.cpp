@@ -60,6 +60,12 @@ Stored_Table::Stored_Table(Table_Schema schema, Engine& engine)
   last_number_ = schema_.first_counter - 1;
 }
 
+void Stored_Table::Widen(std::string_view field) {
+  const int ordinal = layout_.Find(field);
+  if (ordinal < 0) Fail(Failure::No_Such_Item, field);
+  layout_.Widen(ordinal);
+}
+
 const Order* Stored_Table::Find_Order(std::string_view index) const {
   for (std::size_t i = 1; i < orders_.size(); ++i) {
     if (Same_Name(orders_[i].name, index)) return &orders_[i];

@@ -49,6 +49,8 @@ class Stored_Table {
 
   const Table_Schema& Schema() const { return schema_; }
   const Field_Layout& Layout() const { return layout_; }
+  /// Database.h. 3265 where there is no such field.
+  void Widen(std::string_view field);
   /// The column of a question that has the row's number: the counter, or one behind the fields.
   int Number_Column() const { return layout_.Counter() >= 0 ? layout_.Counter() : layout_.Count(); }
   int Width() const { return std::max(layout_.Count(), Number_Column() + 1); }

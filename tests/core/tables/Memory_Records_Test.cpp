@@ -23,8 +23,12 @@ void Set(Text& value, int n) { value = "'Rosé' 日本語 \"" + std::to_string(n
 template <class Record>
 [[gnu::noinline]] void Fill(const Tables::Table<Record>& table, Record& record) {
   int n = 0;
-  for (const auto& field : table.Fields())
+  for (const auto& field : table.Fields()) {
     std::visit([&](auto member) { Set(record.*member, ++n); }, field.Place());
+    const auto* whole = std::get_if<Long Record::*>(&field.Place());
+    const bool small = field.Schema().type == Record_Store::Field_Type::Integer;
+    if (whole != nullptr && small) record.** whole = 32000 + n;
+  }
 }
 
 template <class Record>

@@ -388,6 +388,10 @@ TEST_F(Cellar_Commit, A_modify_that_finds_no_grapes_or_no_marks_ends_behind_the_
     EXPECT_EQ(Texts_of("Description").size(), static_cast<std::size_t>(wine));
     EXPECT_EQ(Marks_of(wine), wine == 1 ? Texts{"Aroma|5"} : Texts{});
     EXPECT_EQ(Grapes_of(wine), grapes);
+    const Faults_Mended faults;
+    Start_With("Wine_Mod");
+    Pick_Wine(wine);
+    Modify();
   }
 }
 

@@ -72,22 +72,25 @@ TEST_F(Tasting, What_was_clicked_is_stored_and_a_click_that_clears_counts_as_wel
       {"Sparkling", {0, 5, 2}, {2}, {2}},
       {"Fortified", {3, 0, 1}, {0, 1, 3}, {0, 1, 3}},
   };
-  Start_With("Wine_Add");
-  Box_Script boxes;
   int wine = 0;
-  for (const Clicks& way : ways) {
-    Fill_Add({.color = way.color});
-    for (const int box : way.clicked) Click(Taste(box));
-    Texts ticked, stored;
-    for (const int box : way.ticked) ticked.push_back(Taste(box));
-    for (const int box : way.stored) stored.push_back(std::to_string(box));
-    EXPECT_EQ(Ticked_Boxes(), ticked) << way.color;
-    Click("Multi_Functional_Command");
-    EXPECT_EQ(
-        Stored("SELECT Description FROM Wine_Tasting WHERE Type_Taste = 'Taste' AND Wine_ID = " +
-               std::to_string(++wine) + " AND Cellar_Wine ORDER BY Description"),
-        stored)
-        << way.color;
+  for (const bool mended : {false, true}) {
+    const Faults_Mended faults(mended);
+    Start_With("Wine_Add");
+    const Box_Script boxes;
+    for (const Clicks& way : ways) {
+      Fill_Add({.color = way.color});
+      for (const int box : way.clicked) Click(Taste(box));
+      Texts ticked, stored;
+      for (const int box : way.ticked) ticked.push_back(Taste(box));
+      for (const int box : mended ? way.ticked : way.stored) stored.push_back(std::to_string(box));
+      EXPECT_EQ(Ticked_Boxes(), ticked) << way.color;
+      Click("Multi_Functional_Command");
+      EXPECT_EQ(
+          Stored("SELECT Description FROM Wine_Tasting WHERE Type_Taste = 'Taste' AND Wine_ID = " +
+                 std::to_string(++wine) + " AND Cellar_Wine ORDER BY Description"),
+          stored)
+          << way.color;
+    }
   }
 }
 
@@ -133,6 +136,10 @@ TEST_F(Tasting, Marks_of_a_wine_are_shown_and_locked_boxes_stay_as_they_are) {
   Pick("Wine_Add");
   Click("Aroma_Check_0");
   EXPECT_THAT(Ticked_Boxes(), IsEmpty());
+  const Faults_Mended faults;
+  Start_With("Cellar1_View");
+  Pick_Wine(wine);
+  EXPECT_THAT(Ticked_Boxes(), ElementsAre("Taste_Check_2"));
 }
 
 TEST_F(Tasting, A_picked_wine_offers_the_boxes_of_its_color_and_its_marks_where_that_is_mended) {

@@ -8,6 +8,7 @@
 #include "core/tables/Mobile_Wines_DB.h"
 #include "links/Link_Store.h"
 #include "tests/links/Linked_Rows.h"
+#include "tests/support/Faults_Mended.h"
 
 namespace {
 
@@ -125,6 +126,10 @@ TEST_F(Link_Decoders, A_subgroup_is_looked_for_among_ten_rows_whatever_their_gro
   EXPECT_THAT(Decode(of_wines, 30004), ElementsAre("Food 900009.4"));
   Link(of_wines, 30004, 900009, 1);  // nothing behind it
   EXPECT_FAILURE(3021, Decode(of_wines, 30004));
+  const Faults_Mended faults;
+  EXPECT_THAT(Decode(of_wines, 30001), ElementsAre("Food 900001.3"));
+  EXPECT_THAT(Decode(of_wines, 30002), IsEmpty());
+  EXPECT_THAT(Decode(of_wines, 30004), ElementsAre("Food 900009.4"));
 }
 
 TEST_F(Link_Decoders, A_hundred_are_decoded_and_one_more_is_a_failure) {
@@ -138,6 +143,23 @@ TEST_F(Link_Decoders, A_hundred_are_decoded_and_one_more_is_a_failure) {
   for (const Decoder* decoder : {&of_cheeses, &of_wines}) {
     EXPECT_EQ(Decode(*decoder, 30001).size(), 100U);
     EXPECT_FAILURE(9, Decode(*decoder, 30002));
+  }
+  // Mended, the first hundred show, and the rest stays until they are changed.
+  const Faults_Mended faults;
+  EXPECT_EQ(Decode(of_cheeses, 30002).size(), 100U);
+  EXPECT_EQ(Decode(of_wines, 30002).size(), 100U);
+  Keys shown;
+  for (int item = 1; item <= Decoded_Count; ++item) {
+    shown.push_back(Decoded_Maridages[item].Maridage_ID);
+  }
+  std::reverse(shown.begin(), shown.end());
+  for (const std::size_t rest : {1U, 0U}) {
+    Select(shown);
+    Store_Wine_Maridages();
+    EXPECT_EQ(Rows("SELECT 1 FROM Maridages_Per_Wines WHERE Wine_ID = 30002 AND [GROUP] = 9000110")
+                  .size(),
+              rest);
+    shown.pop_back();
   }
 }
 

@@ -5,6 +5,7 @@
 #include "links/Link_Builds.h"
 #include "links/Used_Counters.h"
 #include "tests/links/Linked_Rows.h"
+#include "tests/support/Faults_Mended.h"
 
 namespace {
 
@@ -217,6 +218,9 @@ TEST_F(Link_Store, A_key_without_a_row_is_a_failure_and_what_was_written_stays) 
     EXPECT_EQ(Used_Of(links, second), "0");
     EXPECT_EQ(Links_Of(links, "30001"), old);
     EXPECT_EQ(Pairs(links).size(), *links.pairs == '\0' ? 0U : 1U);
+    const Faults_Mended faults;
+    links.store();
+    EXPECT_THAT(Links_Of(links, "30001"), ElementsAre(StartsWith("9000010|11")));
   }
 }
 
@@ -239,8 +243,14 @@ TEST_F(Link_Store, Bounds_of_arrays_and_numbers) {
     EXPECT_FAILURE(6, links.store());
     Select({Add_Item(links, 214748365, 1, 0)});  // times ten is more than a Long
     EXPECT_FAILURE(6, links.store());
-    Select({Add_Item(links, 900001, 1, 32767)});
+    const Long full = Add_Item(links, 900001, 1, 32767);
+    Select({full});
     EXPECT_FAILURE(6, links.store());
+    {
+      const Faults_Mended faults;
+      links.store();
+      EXPECT_EQ(Used_Of(links, full), "32767");
+    }
     if (Text(links.items) == "Varieties") {
       links.set_owner(32768);
       Select({key});

@@ -88,6 +88,16 @@ TEST_F(Program, A_wine_is_entered_by_keyboard_and_can_be_uncorked_after_a_restar
   ASSERT_TRUE(program.Sees_Window("WINE UNCORKED"));
   program.Kill();
   EXPECT_THAT(Stored("Wines", "Total_Bottles"), ElementsAre("5"));
+  // As designed the pick ends the run: the wine has no label.
+  program.Start({"--mended"});
+  ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
+  program.Press({"alt+w", "c", "m"});
+  ASSERT_TRUE(program.Sees_Window("MODIFY Wine Information"));
+  program.Press({"space", "alt+c", "Down", "alt+o"});
+  ASSERT_TRUE(program.Answer_Box("WINE INFORMATION UPDATED"));
+  program.Kill();
+  EXPECT_THAT(Stored("Wines", "Label"), ElementsAre("x"));
+  EXPECT_THAT(Stored("Wines", "Color"), ElementsAre("Rosé"));
 }
 
 TEST_F(Program, A_wine_with_its_pairings_is_found_by_one_of_them_and_uncorked_from_the_results) {

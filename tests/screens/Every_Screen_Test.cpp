@@ -14,6 +14,7 @@
 #include <QTreeView>
 
 #include "platform/forms/Form_Data.h"
+#include "tests/support/Faults_Mended.h"
 
 namespace {
 
@@ -127,6 +128,7 @@ class Screens_in : public Every_Screen, public testing::WithParamInterface<Integ
 
 TEST_P(Screens_in, every_font_fit_the_smallest_desktop) {
   Each_Screen(GetParam(), japanese_font, 11, Expect_Fits);
+  const Faults_Mended faults;
   Each_Screen(GetParam(), "", 12, Expect_Fits);
   if (GetParam() != english) return;
   for (const int points : {9, 10, 11}) Each_Screen(english, "", points, Expect_Fits);

@@ -96,7 +96,7 @@ Program::Program(const Display& display) : display_(display) {
 
 Program::~Program() { Kill(); }
 
-void Program::Start() {
+void Program::Start(const QStringList& options) {
   process_ = std::make_unique<QProcess>();
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert("DISPLAY", display_.Name());
@@ -104,7 +104,7 @@ void Program::Start() {
   environment.remove("WAYLAND_DISPLAY");
   process_->setProcessEnvironment(environment);
   process_->setProcessChannelMode(QProcess::ForwardedChannels);
-  process_->start(QDir(folder_.path()).filePath("wine_cellar"), QStringList());
+  process_->start(QDir(folder_.path()).filePath("wine_cellar"), options);
   if (!process_->waitForStarted(patience)) throw std::runtime_error("the program does not start");
 }
 

@@ -45,7 +45,7 @@ class Program {
   explicit Program(const Display& display);
   ~Program();
 
-  void Start();
+  void Start(const QStringList& options = {});
   /// Ends it at once, as nothing else does.
   void Kill();
   /// Waits for its own end; the exit status, or -1 after ten seconds.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <memory>
 
 #include "core/Gereral_Processes.h"
 #include "main_window/Main_Window_Screens.h"
@@ -109,16 +108,24 @@ void Program_Folder::Stand_In(const Text& name, const Texts& fields) {
   stand_ins_.push_back(name);
 }
 
+// One connection for the life of the test: to open one takes as long as a hundred statements.
+Record_Store::Database& Program_Folder::File() const {
+  if (!file_) {
+    file_ = Record_Store::OpenDatabase(Data_File(), false, false, Connect_Text(Data_File()));
+  }
+  return *file_;
+}
+
 Texts Program_Folder::Stored(const Text& statement) const {
-  return Rows_of(*Record_Store::OpenDatabase(Data_File(), false, true, Connect_Text(Data_File())),
-                 statement);
+  Texts rows = Rows_of(File(), statement);
+  if (changes_ == 0) File().Commit();
+  return rows;
 }
 
 void Program_Folder::Change(const std::function<void(Record_Store::Database&)>& change) const {
-  const auto file =
-      Record_Store::OpenDatabase(Data_File(), false, false, Connect_Text(Data_File()));
-  change(*file);
-  file->Commit();
+  ++changes_;
+  change(File());
+  if (--changes_ == 0) File().Commit();
 }
 
 Long Program_Folder::Put(const char* table, const Row& row) const {

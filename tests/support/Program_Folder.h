@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include <concepts>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -70,7 +71,8 @@ class Program_Folder : public testing::Test {
   /// The first of them.
   Text One(const Text& statement) const { return Stored(statement).at(0); }
 
-  /// Changes the data file from outside.
+  /// Changes the data file from outside: all that `change` does, what it calls here included, is
+  /// committed at once.
   void Change(const std::function<void(Record_Store::Database&)>& change) const;
   /// Adds a row, and returns its first field.
   Long Put(const char* table, const Row& row) const;
@@ -94,6 +96,10 @@ class Program_Folder : public testing::Test {
   void Name_Cellars_In_File() const;
 
  private:
+  Record_Store::Database& File() const;
+
   Temporary_Folder folder_;
+  mutable std::unique_ptr<Record_Store::Database> file_;
+  mutable int changes_ = 0;
   Texts stand_ins_;
 };

@@ -1,14 +1,7 @@
-// Whatever a user types on the screen of the cellar gives its message or is stored and shown again;
-// and a long walk of clicks at random ends in nothing but the failures that are known.
+// Whatever a user types on the screen of the cellar gives its message or is stored and shown again.
 
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QClipboard>
-#include <QComboBox>
+#include <QString>
 #include <map>
-#include <memory>
-#include <random>
-#include <set>
 
 #include "tests/support/Cellar_Program.h"
 
@@ -18,14 +11,6 @@ constexpr const char* button = "Multi_Functional_Command";
 
 std::string Repeated(const char* text, int times) {
   return QString(text).repeated(times).toStdString();
-}
-
-void Paste_Into(const std::string& field, const Text& text) {
-  QApplication::clipboard()->setText(QString::fromStdString(text));
-  Click(field);
-  Press("Ctrl+A");
-  Press("Delete");
-  Press("Ctrl+V");
 }
 
 using Cellar_Fuzz = Cellar_Program;
@@ -159,124 +144,6 @@ TEST_F(Cellar_Fuzz, A_text_is_stored_to_the_letter_and_shown_again) {
     const auto& box = Forms::Screen("Wine_Form").Get<Forms::Text_Box>("Description_Text");
     EXPECT_TRUE(box.Text() == (texts[place] == "x" ? " " : texts[place])) << place;
   }
-}
-
-// ---- a long walk ----
-
-class Cellar_Walk : public Cellar_Program {
- protected:
-  int Random(std::size_t count) { return static_cast<int>(random_() % count); }
-  template <class List>
-  auto One_of(const List& list) {
-    return list[static_cast<std::size_t>(Random(list.size()))];
-  }
-
-  void Step(bool kept_in_field) {
-    if (Is_Seen("Wine_Cellar_Form")) {
-      Begin();
-    } else if (kept_in_field) {
-      Paste_Into(Focused(), One_of(Texts{"", "", "6"}));
-    } else if (const int choice = Random(10); choice < 2 && Is_Usable(button)) {
-      Click(button);
-    } else if (choice < 3) {
-      Click("Exit_Command");
-    } else if (choice < 5 && Current_Command != "WineAdd") {
-      Use(Find("Wine_Cellar_ListView"));
-    } else if (choice < 6) {
-      Use(Find(One_of(Texts{"Total_Bottles_Text", "Price_Text", "Alcohol_Text"})));
-    } else {
-      Use(*One_of(Usable_Controls()));
-    }
-  }
-
- private:
-  void Begin() {
-    Pick(One_of(Texts{"Wine_Add", "Wine_Mod", "Wine_Mod", "Wine_Mod", "Wine_Uncork", "Wine_Del",
-                      "Cellar1_View", "Cellar2_View"}));
-    if (Current_Command != "WineAdd" || !Is_Seen("Wine_Form")) return;
-    const int winery = Random(2);
-    const Text& label = Sample(winery).label;
-    Fill_Add({One_of(Texts{"No Label", label, label, label}),
-              One_of(Texts{"NO Classification", Sample(winery).classification}),
-              {1, 2}},
-             winery);
-  }
-
-  static std::vector<QWidget*> Usable_Controls() {
-    std::vector<QWidget*> usable;
-    for (QWidget* widget : Find("Wine_Form").findChildren<QWidget*>()) {
-      const QString name = widget->objectName();
-      const bool control =
-          !name.isEmpty() && !name.startsWith("qt_") && widget->focusPolicy() != Qt::NoFocus;
-      if (control && widget->isVisible() && widget->isEnabled()) usable.push_back(widget);
-    }
-    return usable;
-  }
-
-  void Use(QWidget& control) {
-    const std::string name = control.objectName().toStdString();
-    if (qobject_cast<QComboBox*>(&control) != nullptr) {
-      control.setFocus();
-      Press(One_of(Texts{"Down", "Up", "End", "Home", "PgDown", "S"}));
-    } else if (const auto* list = qobject_cast<QAbstractItemView*>(&control)) {
-      const auto rows = static_cast<std::size_t>(list->model()->rowCount());
-      if (name == "Wine_Cellar_ListView" && Random(8) == 0) {
-        Click_Header(name, Random(10));
-      } else if (rows > 0) {
-        name == "Variety_Combo" ? Click_Tick(name, Random(rows)) : Click_Row(name, Random(rows));
-      }
-    } else if (name.ends_with("_Text")) {
-      Paste_Into(name, One_of(Texts{"", " ", "7", "8", "12.5", "-1", "abc", "40000", "x",
-                                    "1/1/2020", "It's", "🍷", "1e400"}));
-    } else {
-      Click(name);
-    }
-  }
-
-  std::mt19937 random_{3};
-};
-
-TEST_F(Cellar_Walk, Ends_in_known_failures_alone_and_leaves_every_wine_whole) {
-  Put_Wine(Sample_Wine(), {});  // the one that no modify gets past
-  for (int wine = 0; wine < 5; ++wine) Put_Wine(Sample_Wine());
-  std::vector<bool> answers(2000);
-  for (std::size_t box = 0; box < answers.size(); ++box) answers[box] = Random(3) > 0;
-  const Box_Script boxes(answers);
-  std::set<Text> ends;
-  auto end = std::make_unique<End_Watch>();
-  Start();
-  long added = 0;
-  long removed = 0;
-  long modified = 0;
-  const auto count = [&] {
-    const auto told = [texts = boxes.Texts()](const char* text) {
-      return std::count(texts.begin(), texts.end(), text);
-    };
-    added = told("This Wine was successfully ADDED to your Wine Cellar.");
-    removed = told("This wine was REMOVED from your Wine Cellar.");
-    modified = told("Wine information was Modified.");
-    return std::min({added, removed, modified});
-  };
-  // Where it leads depends on fonts too: it goes on until it has been everywhere.
-  for (int step = 0; step < 500 || (step < 5000 && count() == 0); ++step) {
-    const bool kept = !boxes.Boxes().empty() && boxes.Boxes().back().title.starts_with("ILLEGAL") &&
-                      Focused().ends_with("_Text");
-    Step(kept && Random(4) > 0);
-    if (!end->Ended()) continue;
-    ends.insert(Current_Command + boxes.Texts().back().substr(14, 7));
-    end = nullptr;
-    Start();
-    end = std::make_unique<End_Watch>();
-  }
-  EXPECT_THAT(ends, testing::IsSubsetOf({"WineMod '380':", "WineMod '3020'", "WineMod '3021'"}));
-  EXPECT_GT(count(), 0);
-  EXPECT_EQ(static_cast<long>(Stored("SELECT Wine_ID FROM Wines").size()), 6 + added - removed);
-  EXPECT_THAT(Stored("SELECT Wine_ID FROM Wines w WHERE Winery_ID NOT IN (SELECT Winery_ID FROM "
-                     "Wineries) OR Vintage NOT BETWEEN 1977 AND 2026 OR Peak NOT BETWEEN Vintage "
-                     "AND Vintage + 15 OR Total_Bottles < 0 OR Bottle_Size = 'x' OR Color = 'x' "
-                     "OR Clasification = 'x' OR (Wine_ID > 1 AND (Variety IN ('', 'x') OR "
-                     "Wine_ID NOT IN (SELECT Wine_ID FROM Varieties_of_Wines)))"),
-              IsEmpty());
 }
 
 }  // namespace

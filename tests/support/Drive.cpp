@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDeadlineTimer>
 #include <QHeaderView>
@@ -139,6 +140,12 @@ QRect Place_Of(const QWidget* bar_or_menu, QAction* action) {
   if (const auto* menu = qobject_cast<const QMenu*>(bar_or_menu))
     return menu->actionGeometry(action);
   return qobject_cast<const QMenuBar*>(bar_or_menu)->actionGeometry(action);
+}
+
+void Empty(std::string_view name) {
+  Click(name);
+  Press("Ctrl+A");
+  Press("Delete");
 }
 
 template <class Kind>
@@ -305,10 +312,14 @@ void Choose(std::string_view name, std::string_view entry) {
 }
 
 void Type_Into(std::string_view name, std::string_view text) {
-  Click(name);
-  Press("Ctrl+A");
-  Press("Delete");
+  Empty(name);
   Type(text);
+}
+
+void Paste_Into(std::string_view name, std::string_view text) {
+  QApplication::clipboard()->setText(To_Qt(text));
+  Empty(name);
+  Press("Ctrl+V");
 }
 
 void Type(std::string_view text) {

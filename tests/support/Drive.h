@@ -49,6 +49,8 @@ void Click_Header(std::string_view name, int column);
 void Choose(std::string_view name, std::string_view entry);
 /// Clicks into the field, empties it and types.
 void Type_Into(std::string_view name, std::string_view text);
+/// The same with a text from the clipboard.
+void Paste_Into(std::string_view name, std::string_view text);
 /// Types into whatever has the focus.
 void Type(std::string_view text);
 /// Presses a key, named as in "Tab", "Shift+Tab", "Return", "Esc", "Alt+S", "Ctrl+C". One that is

@@ -1,0 +1,177 @@
+#include "tests/screens/Random_User.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QTreeView>
+
+#include "platform/forms/Forms.h"
+#include "platform/forms/Screens.h"
+#include "platform/run_time/Guard.h"
+#include "tests/forms/Row_Clicks.h"
+#include "tests/support/Program_Folder.h"
+
+namespace {
+
+constexpr const char* main_window = "Wine_Cellar_Form";
+
+// Those that lead to most come more than once.
+const Texts entries = Cells_of(
+    "Wine_Add Wine_Add Wine_Add Wine_Mod Wine_Mod Wine_Mod Wine_Uncork Wine_Del Wine_Del "
+    "Cellar1_View Cellar2_View Wines_Cellar_List Pairing_Search_Cellar Pairing_Search_Cellar "
+    "Pairing_Search_General Pairing_Add Pairing_Mod Pairings_List Cellar_Add Cellar_Mod "
+    "Cellar_View Help_Comments",
+    " ");
+
+// Screens that wait for the entry that is to lead to them, and the commands under which they change
+// nothing but what is chosen in them.
+const std::vector<std::pair<const char*, const char*>> without_entry{
+    {"Search_General_Pairings_Form", "GeneralPairings"},
+    {"Select_Mult_Varieties_Form", "GeneralPairings"},
+    {"Select_Mult_Wines_Form", "CheeseAdd"}};
+
+const Texts numbers{"0", "1", "2", "7", " 12 ", "1,250", "1e3", "40", "32767"};
+const Texts dates{"1/1/2020", "2020-02-29", "6/15/2026 14:30:05", "12/31/2006 23:59", ""};
+const Texts hostile = Cells_of(
+    "~ ~x~x ~-1~12.5~-0~1e400~NaN~It's \"x\"; -- ' OR 1=1~first\r\nsecond\r\n\r\n fourth ~\r\n~"
+    "\t\\0 %s &amp; <b>&</b>~🍷👨‍👩‍👧 \u202eabc\u202c שלום مرحبا~à la "
+    "fin\u00a0: "
+    "12\u202f%~１２~|~" +
+        QString("Ünï🍇").repeated(150).toStdString(),
+    "~");
+
+const Texts keys{"Tab", "Shift+Tab", "Return", "Esc", "Space", "Delete", "Ctrl+Return"};
+
+// What the buttons have in common that store something or lead on with it.
+const Texts commits{"Multi_Functional_Command", "MultSelect", "Cat_Add_Now", "General_Command"};
+
+std::vector<QWidget*> Usable_Controls(const std::string& form) {
+  std::vector<QWidget*> usable;
+  for (QWidget* widget : Find(form).findChildren<QWidget*>()) {
+    const QString name = widget->objectName();
+    const bool control =
+        !name.isEmpty() && !name.startsWith("qt_") && widget->focusPolicy() != Qt::NoFocus;
+    if (control && widget->isVisible() && widget->isEnabled()) usable.push_back(widget);
+  }
+  return usable;
+}
+
+}  // namespace
+
+std::string Random_User::Front() {
+  const QWidget* active = QApplication::activeWindow();
+  return active == nullptr ? main_window : active->objectName().toStdString();
+}
+
+void Random_User::Act(bool refused) {
+  const std::string form = Front();
+  if (form == main_window) {
+    Choose_Entry();
+  } else if (refused && Random(4) > 0) {
+    Paste_Into(Focused(), One_of(Texts{"", "", "6"}));
+  } else if (Random(20) == 0) {
+    const std::string key = One_of(keys);
+    about_to(key);
+    Press(key);
+  } else if ((Random(2) == 0 && Fill_Required(form)) || (Random(6) == 0 && Commit(form))) {
+    return;
+  } else {
+    const std::vector<QWidget*> usable = Usable_Controls(form);
+    const bool list =
+        Random(4) == 0 && Is_Usable("Wine_Cellar_ListView") && Current_Command != "WineAdd";
+    if (!usable.empty()) Use(list ? Find("Wine_Cellar_ListView") : *One_of(usable));
+  }
+}
+
+void Random_User::Choose_Entry() {
+  if (Random(20) == 0) {
+    const auto [screen, command] = One_of(without_entry);
+    about_to(screen);
+    Current_Command = command;
+    Run_Guarded([screen] { Forms::Screen(screen).Open(); });
+    Settle_Events();
+  } else if (const std::string entry = One_of(entries); Is_Usable(entry)) {
+    about_to(entry);
+    Pick(entry);
+  }
+}
+
+bool Random_User::Fill_Required(const std::string& form) {
+  std::vector<QWidget*> required;
+  for (QWidget* control : Usable_Controls(form)) {
+    const std::string name = control->objectName().toStdString();
+    const bool colored = name.ends_with("_Combo") || name.ends_with("Text");
+    if (colored && Color_of(name) == "required") required.push_back(control);
+  }
+  if (required.empty()) return false;
+  Use(*One_of(required));
+  return true;
+}
+
+bool Random_User::Commit(const std::string& form) {
+  for (const std::string& button : commits) {
+    const std::string name = form + "/" + button;
+    if (!Is_Usable(name)) continue;
+    about_to(name);
+    Click(name);
+    return true;
+  }
+  return false;
+}
+
+void Random_User::Use(QWidget& control) {
+  const std::string name = control.objectName().toStdString();
+  about_to(name);
+  if (qobject_cast<QComboBox*>(&control) != nullptr) {
+    Choose_By_Keys(name);
+  } else if (const auto* list = qobject_cast<QAbstractItemView*>(&control)) {
+    Use_List(name, list->model()->rowCount());
+  } else if (name.ends_with("Text")) {
+    Fill(name);
+  } else {
+    Click(name);
+  }
+}
+
+// The list of a combo box opens by a click; typing in it goes to what begins so. The first entry is
+// seldom a choice.
+void Random_User::Choose_By_Keys(const std::string& name) {
+  const Texts entries = Shown_Rows(name);
+  std::vector<std::string> wanted(entries.begin() + (entries.size() > 1 && Random(20) > 0 ? 1 : 0),
+                                  entries.end());
+  if (name == "Country_Combo" && Random(4) > 0) {
+    std::erase_if(wanted,
+                  [this](const std::string& country) { return !countries_.contains(country); });
+  }
+  Click(name);
+  if (!wanted.empty()) Type(QString::fromStdString(One_of(wanted)).left(6).toStdString());
+  Press(Random(20) > 0 ? "Return" : "Esc");
+}
+
+void Random_User::Use_List(const std::string& name, int rows) {
+  const bool has_header = qobject_cast<QTreeView*>(&Find(name)) != nullptr;
+  if (has_header && Random(10) == 0) {
+    Click_Header(name, Random(3));
+  } else if (rows > 0) {
+    const int row = Random(static_cast<std::size_t>(rows));
+    if (name == "Variety_Combo") {
+      Click_Tick(name, row);
+    } else {
+      Click_Row(name, row);
+      if (Random(3) == 0 && Is_Usable(name)) Double_Click_Row(name, row);
+    }
+  }
+}
+
+void Random_User::Fill(const std::string& name) {
+  static const std::set<std::string> of_numbers{"Total_Bottles_Text", "Price_Text", "Alcohol_Text"};
+  const bool of_a_date = name.starts_with("Date") || name.starts_with("Last_Date");
+  const Texts& fitting = of_a_date ? dates : of_numbers.contains(name) ? numbers : hostile;
+  std::string text = One_of(Random(4) > 0 ? fitting : hostile);
+  // A name that the bar of the menus has room for.
+  if (name.starts_with("Cellar")) text = QString::fromStdString(text).left(20).toStdString();
+  // No two pairings of one name: their names are what the test knows them by.
+  const bool numbered = name.starts_with("CAT") || name.starts_with("Cat");
+  Paste_Into(name, numbered ? text + " " + std::to_string(++typed_) : text);
+  if (Random(2) == 0) Press("Tab");
+}

@@ -53,18 +53,6 @@ class Program : public testing::Test {
   Real_Window::Program program{display};
 };
 
-TEST_F(Program, Names_the_cellars_by_keyboard_and_finds_them_after_a_restart) {
-  Name_Cellars_Up_To_The_Message();
-  ASSERT_TRUE(program.Answer_Box("CELLAR NAMES SAVED"));
-  ASSERT_TRUE(program.Sees_Window("My Current Cellar: Home"));
-  EXPECT_TRUE(program.Window_Has_Gone("Cellar Names Information"));
-  program.Press({"alt+x"});
-  EXPECT_EQ(program.Wait_For_End(), 0);
-  program.Start();
-  EXPECT_TRUE(program.Sees_Window("My Current Cellar: Home"));
-  EXPECT_THAT(Stored_Cellars(), ElementsAre("Home", "Office"));
-}
-
 TEST_F(Program, A_wine_is_entered_by_keyboard_and_can_be_uncorked_after_a_restart) {
   Name_Cellars_Up_To_The_Message();
   ASSERT_TRUE(program.Answer_Box("CELLAR NAMES SAVED"));
@@ -184,14 +172,6 @@ TEST_F(Program, A_click_into_the_inactive_window_leaves_the_field_before_it_save
   ASSERT_TRUE(program.Answer_Box("WINE ADDITION SUCCESSFULLY"));
   program.Kill();
   EXPECT_THAT(Stored("Wines", "Alcohol"), ElementsAre("12.5"));
-}
-
-TEST_F(Program, What_a_message_says_was_saved_survives_a_kill) {
-  Name_Cellars_Up_To_The_Message();
-  program.Kill();
-  EXPECT_THAT(Stored_Cellars(), ElementsAre("Home", "Office"));
-  program.Start();
-  EXPECT_TRUE(program.Sees_Window("My Current Cellar: Home"));
 }
 
 // A user who changes both names again and again, to "1 1", "2 2" and so on, and says "saved" as

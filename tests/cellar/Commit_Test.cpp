@@ -141,35 +141,6 @@ TEST_F(Cellar_Commit, A_wine_added_with_everything_is_stored_counted_and_shown_a
                                                    "Aroma_Check_1", "Aroma_Check_7"));
 }
 
-TEST_F(Cellar_Commit, A_second_wine_with_the_least_takes_nothing_over_from_the_first) {
-  Start_With("Wine_Add");
-  Fill_Add({Sample().label, Sample().classification, {1}, "3.0 Lt", "0", "Sparkling"});
-  Enter({{"Merit_Combo", "50"}, {"Price_Text", "7"}, {"Alcohol_Text", "7"}});
-  Enter({{"Description_Text", "First"}, {"Comments_Text", "First"}});
-  for (const char* box : {"Taste_Check_5", "Aroma_Check_0"}) Click(box);
-  Save();
-  for (const char* field : {"Winery_Combo", "Label_Combo", "Total_Bottles_Text", "Color_Combo"}) {
-    EXPECT_EQ(Color_of(field) + Tag_of(field), "locked0") << field;
-  }
-  EXPECT_FALSE(Is_Usable(button));
-  EXPECT_THAT(Ticked_Boxes(), IsEmpty());
-  EXPECT_EQ(Moved_Counters().size(), 5U);
-  now_ = Date::Of(2026, 6, 16);
-  Fill_Add({}, 1);
-  const Text grape = Ticked_Rows("Variety_Combo").at(0);
-  Save();
-  EXPECT_THAT(Wine_Rows(),
-              ElementsAre(_, "2|" + Sample(1).id + "|x|" + grape + "|" + Grapes_of(2).at(0) +
-                                 "|2001|2009|-1|-1|6|750 ml|Red|-1|NO Classification|" +
-                                 To_Text(No_Date) + "|" + To_Text(now_) + "|1"));
-  for (const char* field : {"Description", "Comments"}) EXPECT_EQ(Texts_of(field).size(), 1U);
-  EXPECT_THAT(Marks_of(2), IsEmpty());
-  EXPECT_THAT(Moved_Counters(),
-              UnorderedElementsAre(StartsWith("Winery|" + Sample(1).id + "|"),
-                                   StartsWith("Region|" + Sample(1).region_id + "|"),
-                                   StartsWith("Grape|")));
-}
-
 // ---- modify ----
 
 TEST_F(Cellar_Commit, A_modified_wine_keeps_its_old_marks_unless_it_has_the_lowest_number) {
@@ -426,25 +397,6 @@ TEST_F(Cellar_Commit, Uncorking_takes_bottle_by_bottle_down_to_none) {
     EXPECT_TRUE(Is_Seen(button));
     EXPECT_EQ(Is_Usable(button), key == 1);
   }
-}
-
-TEST_F(Cellar_Commit, Enter_held_on_uncork_takes_one_bottle_and_ends_in_the_list) {
-  Put_Wine(Sample_Wine());
-  Start_With("Wine_Uncork");
-  Pick_Wine(1);
-  Find(button).setFocus();
-  Act_In_Next_Box([] {
-    Repeat("Return");
-    EXPECT_NE(QApplication::activeModalWidget(), nullptr);
-    Press("Return");
-    Repeat("Return");
-  });
-  Press("Return");
-  Find("Wine_Form").activateWindow();  // no window manager does it when a box has gone
-  EXPECT_TRUE(Wait_Until([] { return Focused() == "Wine_Cellar_ListView"; }));
-  Repeat("Return");
-  EXPECT_EQ(Shown_Text("Total_Bottles_Text"), "2");
-  EXPECT_TRUE(Is_Seen(button));
 }
 
 TEST_F(Cellar_Commit, A_wine_is_removed_on_yes_alone_and_only_winery_and_region_count_it_out) {

@@ -155,17 +155,6 @@ class Words : public Program_Folder {
   }
 };
 
-TEST_F(Words, Are_put_on_the_controls_by_their_type) {
-  Add_Rows(1, "told_label", "Cap");
-  Add_Rows(1, "nobody", "Head");
-  Start();
-  Small_Form form;
-  Read_Language_Words("Small_Form", form);
-  EXPECT_EQ(form.Told_Label.Caption(), "word");
-  EXPECT_EQ(form.Caption(), "Small");
-  EXPECT_EQ(Word_Type[2], "Head");
-}
-
 TEST_F(Words, Of_one_form_are_150_at_most) {
   Add_Rows(150, "nobody", "Head");
   Start();

@@ -11,12 +11,10 @@
 #include <QTextDocumentFragment>
 #include <QWidget>
 
-#include "platform/forms/Contrast.h"
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Guard.h"
 #include "tests/support/Drive.h"
 #include "tests/support/Expect_Failure.h"
-#include "tests/support/Pixels.h"
 
 namespace {
 
@@ -103,14 +101,6 @@ TEST_F(Controls_Test, A_text_changes_by_keys_and_by_code_but_not_to_what_it_is) 
   EXPECT_EQ(form.Notes_Text.Text(), "one\r\ntwo\r\nx\r\n\r\n\r\n\r\n");
   Press("Tab");
   EXPECT_EQ(Focused(), "Taste_Check_0");
-}
-
-TEST_F(Controls_Test, A_check_box_clicks_on_each_change) {
-  Click("Taste_Check_1");
-  Press("Space");
-  for (const int value : {1, 1, 0}) form.Taste_Check[0].Set_Value(value);
-  EXPECT_EQ(Taken(),
-            Log({"Taste_Check_1 1", "Taste_Check_1 0", "Taste_Check_0 1", "Taste_Check_0 0"}));
 }
 
 TEST_F(Controls_Test, Places_that_share_a_cell_take_turns_and_nothing_around_them_moves) {
@@ -219,65 +209,6 @@ TEST_F(Controls_Test, A_tool_tip_is_plain_text_with_the_state_below_it) {
   EXPECT_EQ(shown(), "A <b>name</b> & more\nof   it\n" + Forms::Form_Texts().locked);
   form.Name_Text.Set_Tool_Tip("");
   EXPECT_EQ(shown(), Forms::Form_Texts().locked);
-}
-
-QPalette Dark() {
-  QPalette dark(QColor(60, 60, 60), QColor(45, 45, 45));
-  dark.setColor(QPalette::Base, QColor(30, 30, 30));
-  for (const auto role : {QPalette::Text, QPalette::WindowText}) dark.setColor(role, Qt::white);
-  return dark;
-}
-
-Pixels Pixels_Of(const char* name) {
-  Settle_Events();
-  QWidget& widget = Find(name);
-  const QImage image = widget.grab().toImage();
-  return {image, image.rect(), image.rect().adjusted(9, 5, -20, -5)};
-}
-
-TEST_F(Controls_Test, Colours_tell_their_state_and_can_be_read_on_light_and_dark) {
-  const QPalette light = QApplication::palette();
-  for (const QPalette& theme : {light, Dark()}) {
-    QApplication::setPalette(theme);
-    const QColor base = theme.color(QPalette::Base);
-    form.Name_Text.Set_Text("Hill");
-    form.Country_Combo.AddItem("Hill");
-    form.Country_Combo.Set_ListIndex(0);
-    form.Notes_Text.Set_Text("Hill");
-    const std::array<Forms::Placed_Control*, 3> fields{&form.Name_Text, &form.Country_Combo,
-                                                       &form.Notes_Text};
-    for (Forms::Placed_Control* field : fields) {
-      for (const Forms::Color back : {Forms::Required_Color, Forms::Active_List_Color,
-                                      Forms::Locked_Color, Forms::Window_Color}) {
-        SCOPED_TRACE(field->Name());
-        field->Set_BackColor(back);
-        const Pixels seen = Pixels_Of(field->Name().c_str());
-        const QColor exact(back.red, back.green, back.blue);
-        const bool locked = back == Forms::Locked_Color;
-        const QColor shown = back.of_the_theme ? base : exact;
-        EXPECT_EQ(seen.edge, shown);
-        EXPECT_EQ(seen.ground, locked ? Forms::Mixed(base, exact, 0.12) : shown);
-        EXPECT_GE(seen.Contrast_Of_Outline(), 3);
-        EXPECT_GE(seen.Contrast_Of_Content(), 7);
-      }
-    }
-  }
-  QApplication::setPalette(light);
-  form.Name_Text.Set_BackColor(Forms::Required_Color);
-  EXPECT_EQ(Find("Name_Text").accessibleDescription().toStdString(), Forms::Form_Texts().required);
-  form.Taste_Check[0].Set_BackColor(Forms::Open_Check_Color);
-  EXPECT_EQ(Pixels_Of("Taste_Check_0").edge, QColor(255, 255, 192));
-  form.Name_Text.Set_BackColor(Forms::Window_Color);
-  EXPECT_EQ(Find("Name_Text").accessibleDescription(), "");
-}
-
-TEST_F(Controls_Test, Every_control_has_an_accessible_name_and_labels_lead_to_their_fields) {
-  EXPECT_EQ(Find("Region_Image").accessibleName(), "Region Image");
-  EXPECT_EQ(Find("Taste_Check_0").accessibleName(), "Fruity");
-  form.Notes_Label.Set_Caption("Remarks");
-  EXPECT_EQ(Find("Notes_Text").accessibleName(), "Remarks");
-  Press("Alt+E");
-  EXPECT_EQ(Focused(), "Notes_Text");
 }
 
 }  // namespace

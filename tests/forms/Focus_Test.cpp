@@ -80,16 +80,6 @@ class Focus_Test : public testing::Test {
   static Log Taken() { return std::exchange(Entry_Form::log, {}); }
 };
 
-TEST_F(Focus_Test, Keys_click_the_button_in_focus_and_leave_fields) {
-  Click("General_Command");
-  for (const char* key : {"Return", "Enter", "Space"}) Press(key);
-  EXPECT_EQ(Taken(), Log({"Price LostFocus", "Click", "Click", "Click", "Click"}));
-  Click("Price_Text");
-  Press("Tab");
-  EXPECT_EQ(Focused(), "Name_Text");
-  EXPECT_EQ(Taken(), Log({"Price LostFocus"}));
-}
-
 // A focus that is not the program's, as long as it lives.
 class Other_Program : public QWidget {
  public:
@@ -282,13 +272,6 @@ TEST_F(Focus_Test, A_form_that_takes_no_input_answers_to_nothing_and_nobody) {
   Run_Guarded([] { Forms::Screen("Picker_Form").Unload(); });
   Click("General_Command");
   EXPECT_EQ(Taken(), Log({"Click"}));
-}
-
-TEST_F(Focus_Test, Another_window_takes_no_focus_away) {
-  Other_Program().close();
-  Find("Entry_Form").activateWindow();
-  EXPECT_TRUE(Wait_Until([] { return Focused() == "Price_Text"; }));
-  EXPECT_EQ(Taken(), Log());
 }
 
 TEST_F(Focus_Test, Code_that_sets_the_focus_raises_lost_focus_once_and_at_once) {

@@ -113,18 +113,6 @@ TEST_F(List_View_Test, Rows_and_sub_items_are_counted_from_one) {
   EXPECT_EQ(view.model()->index(0, 4).data(Qt::TextAlignmentRole), right);
 }
 
-TEST_F(List_View_Test, Sorts_without_regard_to_case_and_keeps_equal_rows_as_they_stood) {
-  list.Set_Sorted(true);
-  list.Set_SortKey(1);
-  list.Set_SortOrder(1);
-  EXPECT_EQ(Names(), Log({"Rioja", "Zitsa", "alsace", "Éclair", "Loire"}));
-  list.Add("Dão").Set_SubItems(1, "Portugal");
-  Settle_Events();
-  EXPECT_EQ(Shown_Rows("Regions_ListView")[1], "Dão | Portugal |  |  | ");
-  EXPECT_FAILURE(380, list.Set_SortKey(5));
-  EXPECT_FAILURE(380, list.Set_SortOrder(2));
-}
-
 TEST_F(List_View_Test, Agrees_with_a_plain_stable_sort_over_many_rows) {
   std::mt19937 random(7);
   std::vector<std::pair<std::string, int>> wanted;
@@ -181,27 +169,6 @@ TEST_F(List_View_Test, Selection_by_code_raises_nothing_and_follows_the_row) {
   EXPECT_FALSE(list.Has_Selection());
   EXPECT_EQ(Chosen_Row("Regions_ListView"), -1);
   EXPECT_EQ(Taken(), Log());
-}
-
-TEST_F(List_View_Test, Mouse_and_keys_pick_a_row) {
-  Click_Row("Regions_ListView", 1);
-  Click_Row("Regions_ListView", 1);
-  Click_Row("Regions_ListView", 1, true);
-  EXPECT_EQ(Taken(), Log({"LostFocus", "alsace", "alsace", "alsace"}));
-  EXPECT_TRUE(list.ListItems(2).Selected());
-  for (const char* key : {"Down", "Return", "Space", "End", "Up"}) Press(key);
-  EXPECT_EQ(Taken(), Log({"Éclair", "Éclair", "DblClick Éclair", "Éclair", "Zitsa", "Loire"}));
-  Double_Click_Row("Regions_ListView", 1);
-  EXPECT_EQ(Taken(), Log({"alsace", "alsace", "DblClick alsace"}));
-  Double_Click_Row("Regions_ListView", 99);
-  list.ColumnClick = {};
-  Double_Click_Row("Regions_ListView", 2, Qt::RightButton);
-  list.Set_Arrow_Keys_Pick(false);
-  Press("Home");
-  EXPECT_EQ(Taken(), Log());
-  EXPECT_EQ(list.SelectedItem().Text(), "Rioja");
-  Press("Space");
-  EXPECT_EQ(Taken(), Log({"Rioja"}));
 }
 
 TEST_F(List_View_Test, Browsing_goes_on_though_the_handler_moves_the_focus_deselects_or_removes) {

@@ -33,23 +33,6 @@ TEST_F(Lists_Test, Code_that_chooses_raises_click_and_code_that_adds_or_removes_
   }
 }
 
-TEST_F(Lists_Test, The_user_chooses_in_a_combo_box) {
-  Choose("Country_Combo", "Greece");
-  Choose("Country_Combo", "Greece");
-  EXPECT_EQ(Taken(), Log({"Combo Greece", "Combo Greece"}));
-  for (const char* key : {"Down", "Return", "Up", "Home"}) Press(key);
-  Hold_Down("Country_Combo", Qt::Key_Return);
-  EXPECT_EQ(Taken(), Log({"Combo Spain", "Combo Spain", "Combo Greece", "Combo Chile"}));
-  Turn_Wheel("Country_Combo");
-  EXPECT_EQ(Taken(), Log({"Combo France"}));
-  Click("Other_Text");
-  Turn_Wheel("Country_Combo");
-  EXPECT_EQ(Taken(), Log());
-  Double_Click("Country_Combo");
-  EXPECT_EQ(Taken(), Log({"Combo DblClick"}));
-  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-}
-
 TEST_F(Lists_Test, The_list_of_a_combo_box_shows_its_longest_entry_whole) {
   const std::string longest(50, 'W');
   combo.AddItem(longest);
@@ -79,26 +62,6 @@ TEST_F(Lists_Test, A_locked_combo_box_can_be_read_copied_and_set_but_not_changed
   EXPECT_EQ(QApplication::clipboard()->text(), "France");
   combo.Set_ListIndex(2);
   EXPECT_EQ(Taken(), Log({"Combo Greece"}));
-}
-
-TEST_F(Lists_Test, The_user_chooses_in_a_list) {
-  Click_Row("Cat_List", 1);
-  Click_Row("Cat_List", 1);
-  Press("Down");
-  Type("s");
-  EXPECT_EQ(Taken(), Log({"List France", "List France", "List Greece", "List Spain"}));
-  list.Set_Arrow_Keys_Pick(false);
-  Press("Home");
-  Type_Anew("fr");
-  EXPECT_EQ(Taken(), Log());
-  EXPECT_EQ(list.Text(), "France");
-  for (const char* key : {"Return", "Down", "Space"}) Press(key);
-  Click_Row("Cat_List", 3);
-  Hold_Down("Cat_List", Qt::Key_Return);
-  list.RemoveItem(0);
-  Press("Space");
-  EXPECT_EQ(Taken(), Log({"List France", "List Greece", "List Spain", "List Spain"}));
-  EXPECT_EQ(Chosen_Row("Cat_List"), 2);
 }
 
 TEST_F(Lists_Test, Enter_and_delete_are_events_of_a_list_in_which_an_entry_is_chosen) {

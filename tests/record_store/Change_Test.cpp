@@ -98,30 +98,6 @@ TEST_F(Change_Test, Only_Assigned_Fields_Are_Written) {
   EXPECT_EQ(first["Name"].As_Text() + first["Rack"].As_Text(), "z8");
 }
 
-TEST_F(Change_Test, What_Is_Not_Updated_Is_Dropped_In_Silence) {
-  Add_Bottles({"a", "b"});
-  using Action = std::function<void(Recordset&)>;
-  const std::vector<Action> droppers{
-      [](Recordset& rows) { rows.MoveNext(); },   [](Recordset& rows) { rows.MoveFirst(); },
-      [](Recordset& rows) { rows.MoveLast(); },   [](Recordset& rows) { rows.Index("Name"); },
-      [](Recordset& rows) { rows.Seek("=", 1); }, [](Recordset& rows) { rows.Close(); }};
-  for (const Action& begin : {Action([](Recordset& rows) { rows.Edit(); }),
-                              Action([](Recordset& rows) { rows.AddNew(); })}) {
-    for (const Action& drop : droppers) {
-      Recordset rows = database_->OpenRecordset("Bottles");
-      rows.Index("Bottle_ID");
-      begin(rows);
-      rows["Name"] = "dropped";
-      drop(rows);
-      if (rows.Is_Open()) {
-        EXPECT_EQ(Failure_Of([&] { rows.Update(); }), 3020);
-      }
-      Recordset all = database_->OpenRecordset("Bottles");
-      EXPECT_EQ(Walk(all), (Names{"a", "b"}));
-    }
-  }
-}
-
 TEST_F(Change_Test, Nothing_Is_Assigned_Or_Updated_Without_A_Beginning) {
   Add_Bottles({"a"});
   Recordset rows = database_->OpenRecordset("Bottles");
@@ -220,48 +196,6 @@ TEST_F(Seek_Test, What_Cannot_Be_Sought) {
   rows.AddNew();
   rows.Update();
   EXPECT_EQ(Failure_Of([&] { rows["Name"].As_Text(); }), 3021);
-}
-
-// Rows that are looked up again and again are remembered, which must not be seen.
-TEST_F(Seek_Test, Looking_Up_Again_Sees_Every_Change) {
-  for (const char* name : {"a", "b", "b", "c"}) Add_Bottle(name, 1);
-  Recordset rows = database_->OpenRecordset("Bottles");
-  Recordset other = database_->OpenRecordset("Bottles");
-  rows.Index("Name");
-  other.Index("Bottle_ID");
-  const auto seek = [&] {
-    for (int i = 0; i < 4; ++i) {
-      rows.Seek("=", "b");
-      other.Seek("=", 102);
-    }
-  };
-  const auto next = [&] {
-    rows.MoveNext();
-    other.MoveNext();
-    return rows["Bottle_ID"].As_Text() + other["Bottle_ID"].As_Text();
-  };
-  seek();
-  EXPECT_EQ(next(), "103103");
-  seek();
-  rows.MovePrevious();
-  EXPECT_EQ(rows["Name"].As_Text(), "a");
-  seek();
-  database_->Commit();
-  EXPECT_EQ(rows["Name"].As_Text() + next(), "b103103");
-  seek();
-  other.Edit();
-  other["Rack"] = 2;
-  other.Update();
-  EXPECT_EQ(rows["Rack"].As_Long(), 1);
-  seek();
-  EXPECT_EQ(rows["Rack"].As_Long(), 2);
-  EXPECT_EQ(next(), "103103");
-  seek();
-  other.Delete();
-  EXPECT_EQ(rows["Bottle_ID"].As_Long(), 102);
-  seek();
-  EXPECT_EQ(rows["Bottle_ID"].As_Long(), 103);
-  EXPECT_TRUE(other.NoMatch());
 }
 
 // ---- values ----

@@ -102,15 +102,6 @@ TEST_F(Query_Cursor_Test, Changing_A_Query_Fails) {
 
 using Recordset_Test = Store_Test;
 
-TEST_F(Recordset_Test, The_First_Row_Of_A_Table_Is_That_Of_The_Opening) {
-  Add_Bottles({"a", "b"});
-  Recordset rows = database_->OpenRecordset("Bottles");
-  database_->OpenRecordset("Bottles").Delete();
-  EXPECT_EQ(rows["Name"].As_Text(), "a");
-  rows.MoveNext();
-  EXPECT_EQ(rows["Name"].As_Text(), "b");
-}
-
 TEST_F(Recordset_Test, Empty_Closed_Replaced) {
   Add_Bottles({"a", "b"});
   Recordset rows;

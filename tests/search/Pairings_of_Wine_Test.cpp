@@ -162,15 +162,6 @@ TEST_F(Pairings_of_Wine, A_modify_stores_the_list_of_this_wine_however_often_it_
   EXPECT_EQ(Used(gone), used_gone);
 }
 
-TEST_F(Pairings_of_Wine, A_modify_that_leaves_the_pairings_alone_stores_the_same_and_counts) {
-  const Long wine = Put_Wine_with({Food_at(0, 1), Food_at(0, 3), Food(2)});
-  const int used = Used(Food(2));
-  Start_With_Picked(wine);
-  Modify();
-  EXPECT_THAT(Links_of(wine), ElementsAre(Link(Food(0), "101"), Link(Food(2), "1")));
-  EXPECT_EQ(Used(Food(2)), used + 1);
-}
-
 TEST_F(Pairings_of_Wine, An_empty_list_can_be_handed_back_and_leaves_what_is_stored) {
   const Long wine = Put_Wine_with({Food(0), Food(1)});
   const int used = Used(Food(0));

@@ -40,20 +40,4 @@ TEST_F(Descriptions, Columns_Reached_By_Ordinal_Stand_There) {
   }
 }
 
-TEST_F(Descriptions, Group_Index_Of_The_Pairings_Has_Two_Fields) {
-  Recordset rows = Open("Maridages");
-  Maridages_Description.Init(Maridages);
-  for (Long subgroup : {2, 1}) {
-    Maridages.Maridage_Group = 7;
-    Maridages.Maridage_SubGr = subgroup;
-    rows.AddNew();
-    Maridages_Description.Write(rows, Maridages);
-  }
-  rows.Index("Maridage_GROUP");
-  rows.Seek("=", 7);
-  EXPECT_EQ(rows.Fields("Maridage_SubGr").As_Long(), 1);
-  rows.Seek("=", 7, 2);
-  EXPECT_EQ(rows.Fields("Maridage_ID").As_Long(), 1);
-}
-
 }  // namespace

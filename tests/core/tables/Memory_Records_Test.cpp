@@ -91,39 +91,6 @@ TEST_F(Memory_Records, Init_Sets_Defaults_And_Leaves_Keys_Alone) {
   });
 }
 
-// A row made in two steps: a placeholder that gives the key, overwritten when all is known.
-TEST_F(Memory_Records, New_Row_In_Two_Steps) {
-  for (Long expected : {10001, 10002}) {
-    Open_By_Key(Wineries_Table);
-    Init_Wineries_Record();
-    Wineries_Recordset.AddNew();
-    Write_Wineries_Record();
-    Read_Last_Row(Wineries_Table);
-    EXPECT_EQ(Wineries.Winery_ID, std::to_string(expected));
-    EXPECT_EQ(Wineries.Winery_Name, "x");
-    Close_Table(Wineries_Recordset);
-  }
-  Open_By_Key(Wineries_Table);
-  Read_Row(Wineries_Table, "10001");
-  Wineries_Recordset.Edit();
-  Wineries.Winery_ID = "77";
-  Wineries.Winery_Name = "Quinta";
-  Write_Wineries_Record();
-  Read_Wineries_Record();
-  EXPECT_EQ(Wineries.Winery_ID, "10001") << "the key is never written";
-  EXPECT_EQ(Wineries.Winery_Name, "Quinta");
-  Close_Table(Wineries_Recordset);
-  EXPECT_FAILURE(3420, Close_Table(Wineries_Recordset));
-
-  EXPECT_FALSE(Find_By_Key(Wineries_Table, 10003));
-  EXPECT_EQ(Wineries.Winery_Name, "Quinta") << "a miss leaves the record as it was";
-  EXPECT_FALSE(Wineries_Recordset.Is_Open());
-  EXPECT_TRUE(Find_By_Key(Wineries_Table, 10002));
-  EXPECT_EQ(Wineries.Winery_Name, "x");
-  EXPECT_FAILURE(3021, Read_By_Key(Wineries_Table, 10003));
-  EXPECT_TRUE(Wineries_Recordset.Is_Open()) << "nothing is closed after a failure";
-}
-
 TEST_F(Memory_Records, Query_Row_Of_A_General_Wine_Keeps_Other_Members) {
   Open_Table(Mobile_Wines_Recordset, "Mobile_Wines");
   Init_Mobile_Wines_Record();

@@ -161,6 +161,8 @@ void Wine_Form::Load_for_General_List(const char* caption) {
 void Wine_Form::Wait_for_Country() {
   Lock_Top_Window();
   Checks_Locked = true;
+  chosen_country_.clear();
+  chosen_winery_.clear();
   Country_Combo.Set_Locked(false);
   Country_Combo.Set_BackColor(Forms::Required_Color);
   Winery_Add_Command.Set_Enabled(true);
@@ -202,6 +204,7 @@ void Wine_Form::Form_Activate() {
 void Wine_Form::Update_for_New_Winery() {
   const Wineries_Record winery = Wineries;
   Initialize_Winery();
+  chosen_winery_.clear();
   const int place = Winery_Combo.Place_Of(winery.Winery_ID, 1);
   if (place > 0) Winery_Combo.Set_ListIndex(place);
 }
@@ -234,12 +237,12 @@ Text Wine_Form::Entered() {
   for (const Forms::Combo_Box* combo : std::initializer_list<const Forms::Combo_Box*>{
            &Label_Combo, &Classification_Combo, &Vintage_Combo, &Peak_Year_Combo, &Merit_Combo,
            &Bottle_Size_Combo, &Color_Combo}) {
-    add(To_Text(combo->ListIndex()));
+    add(combo->Tag() == "0" ? "" : To_Text(combo->ListIndex()));  // a default is no choice
   }
   for (const Forms::Text_Box* box : std::initializer_list<const Forms::Text_Box*>{
            &Alcohol_Text, &Description_Text, &Comments_Text, &Total_Bottles_Text, &Price_Text,
            &Date_Added_Text, &Last_Date_Uncorked_Text}) {
-    add(box->Text());
+    add(Trim(box->Text()));
   }
   Each_Ticked_Variety([&](int grape) { add(Variety_Combo.Key(grape)); });
   add(Boxes.Ticks());
@@ -252,6 +255,10 @@ Text Wine_Form::Entered() {
 bool Wine_Form::May_Lose_Entered() {
   if (Is_Kept(Fault::Entered_Wine_Goes_Without_A_Word)) return true;
   if (!Command_Is({"WineAdd", "WineMod"}) || Entered() == stored_) return true;
+  return Leaves_Entered();
+}
+
+bool Wine_Form::Leaves_Entered() {
   return Forms::Ask_Yes_No(Hint_Text(Screen_Words::Leave_Entered_Wine), "WINE NOT STORED",
                            Forms::Answer::No);
 }

@@ -54,6 +54,10 @@ class Wine_Form : public Cellar_Wine_Screen {
   void Take_as_Stored() { stored_ = Entered(); }
   /// Whether to go on where that throws away what was entered. Asks if there is such.
   bool May_Lose_Entered();
+  static bool Leaves_Entered();
+  /// Whether to go by the chosen place of origin, which others bring along: mended, not where it is
+  /// the one before, and only after a question where the others were chosen already. Keeps its key.
+  bool Is_Followed(Keyed_Combo_Box& place, Text& before);
   void Winery_Add_Command_Click();
   void Label_Add_Command_Click();
   void Pairings_Add_Command_Click();
@@ -167,14 +171,15 @@ class Wine_Form : public Cellar_Wine_Screen {
   void Remove_Rows_of_Wine();
 
   Text stored_;
-  Text chosen_winery_;  ///< the key
+  /// The keys of what is being entered; "" while it is to be chosen.
+  Text chosen_country_;
+  Text chosen_winery_;
+  std::map<const Forms::Text_Box*, Text> shown_dates_;
 
   Forms::Command_Button Winery_Add_Command{*this, "Winery_Add_Command", "Add"};
   Forms::Command_Button Label_Add_Command{*this, "Label_Add_Command", "Add"};
   Forms::Command_Button Variety_Add_Command{*this, "Variety_Add_Command", "Add"};
   Forms::Command_Button Pairings_Add_Command{*this, "Pairings_Add_Command", "Add Pairings"};
   Forms::Command_Button Classification_Add_Command{*this, "Classification_Add_Command", "Add"};
-  std::map<const Forms::Text_Box*, Text> shown_dates_;
-
   Forms::Label Wine_Cellar_Name_Label{*this, "Wine_Cellar_Name_Label"};
 };

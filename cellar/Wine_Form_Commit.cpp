@@ -144,8 +144,7 @@ void Wine_Form::Count_Names_Out() {
 void Wine_Form::Remove_Rows_of_Wine() {
   Boxes.Remove_Marks_of(Wines.Wine_ID);
   Remove_Varieties();
-  Selected_Count = 0;
-  Store_Wine_Maridages();
+  Remove_Wine_Maridages();
   for (const Long text : {Wines.Description, Wines.Comments}) Remove_Data_Text(text);
 }
 

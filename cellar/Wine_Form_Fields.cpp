@@ -60,9 +60,23 @@ constexpr const char* illegal_number = "ILLEGAL NUMBER";
 
 }  // namespace
 
+bool Wine_Form::Is_Followed(Keyed_Combo_Box& place, Text& before) {
+  const bool mended = !Is_Kept(Fault::Entered_Wine_Goes_Without_A_Word);
+  if (mended && place.Key() == before) return false;
+  const bool others_chosen = Label_Combo.ListIndex() > 0 || Classification_Combo.ListIndex() > 0 ||
+                             Variety_Combo.SelCount() > 0;
+  if (mended && !before.empty() && others_chosen && !Leaves_Entered()) {
+    place.Choose(before);
+    return false;
+  }
+  before = place.Key();
+  return true;
+}
+
 void Wine_Form::Country_Combo_Click() {
   Fill_In(Country_Combo);
-  if (Country_Combo.Locked()) return;
+  if (Country_Combo.Locked() || !Is_Followed(Country_Combo, chosen_country_)) return;
+  chosen_winery_.clear();
   const Text country = Country_Combo.Key();
   Load_Wineries_in_Country(country);
   Require(Winery_Combo);
@@ -73,15 +87,14 @@ void Wine_Form::Country_Combo_Click() {
 }
 
 void Wine_Form::Winery_Combo_Click() {
-  if (Winery_Combo.ListIndex() >= 1) {
-    Winery_Chosen();
-  } else {
+  if (Winery_Combo.ListIndex() < 1) {
     New_Winery_Chosen();
+  } else if (Is_Followed(Winery_Combo, chosen_winery_)) {
+    Winery_Chosen();
   }
 }
 
 void Wine_Form::Winery_Chosen() {
-  chosen_winery_ = Winery_Combo.Key();
   Winery_Add_Command.Set_Enabled(false);
   Read_Winery_By_ID(To_Integer(Winery_Combo.Key()));
   Load_Region_Unique();
@@ -105,6 +118,7 @@ void Wine_Form::New_Winery_Chosen() {
     Winery_Combo.Choose(chosen_winery_);
     return;
   }
+  chosen_winery_.clear();
   Winery_Add_Command.Set_Enabled(!Winery_Combo.Locked());
   Reset_Values();
   Take_as_Stored();

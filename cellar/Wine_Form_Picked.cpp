@@ -62,8 +62,11 @@ void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
 }
 
 void Wine_Form::Picked_for_Mod() {
-  Remove_Message();
+  // Without the message all aromas show: mended, those of the colour are offered after that.
+  const bool all_aromas = Is_Kept(Fault::Color_Goes_By_Word);
+  if (!all_aromas) Remove_Message();
   Memory_to_Form_for_Mod();
+  if (all_aromas) Remove_Message();
   UnLock_Top_Window();
   Multi_Functional_Command.Set_Caption("MODIFY");
   for (Forms::Lockable_Control* field : std::initializer_list<Forms::Lockable_Control*>{

@@ -19,12 +19,12 @@ enum class Fault {
   /// A grape that the region does not grow is neither shown nor stored again / it stands as a last
   /// entry, ticked.
   Unlisted_Grape_Is_Lost,
-  /// A colour stored in another language leaves the colour as it was / it is known by its place in
-  /// any language.
+  /// A colour stored in another language leaves the colour as it was, and every colour the boxes /
+  /// it is known by its place in any language, and the boxes are its own and those ticked.
   Color_Goes_By_Word,
   /// A blank alcohol and an old date of adding, shown and left as they are, are refused / accepted.
   Shown_Value_Is_Refused,
-  /// Another pick, "New Winery" and EXIT throw away what was entered / they ask first.
+  /// Another pick, another country or winery and EXIT throw away what was entered / they ask first.
   Entered_Wine_Goes_Without_A_Word,
 
   // ---- what SAVE, MODIFY and REMOVE store ----

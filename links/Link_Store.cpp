@@ -92,4 +92,9 @@ void Store_Cheese_Varieties() {
         Serial_of_User(To_Text(Cheeses.Cheese_ID)));
 }
 
+void Remove_Wine_Maridages() {
+  Remove_All(Pairings_of_Wines, Wines.Wine_ID);
+  Build_Cheeses_of_Wine();
+}
+
 void Remove_Variety_Maridages() { Remove_All(Pairings_of_Varieties, Varieties.Variety_ID); }

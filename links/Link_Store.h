@@ -15,6 +15,8 @@
 /// leave out what is behind the hundredth, and what has no row), and the wine's rows of cheeses
 /// follow the link rows. A selection of none then takes all of them away.
 void Store_Wine_Maridages();
+/// All link rows of the wine, of whatever they lead to, and its rows of cheeses.
+void Remove_Wine_Maridages();
 /// Removes the wine's rows of `Mobile_Wines_per_Maridage` too, and both before the build.
 void Store_Mobile_Wine_Maridages();
 void Store_Variety_Maridages();

@@ -26,8 +26,10 @@ Wine_Search_Results_Form::Wine_Search_Results_Form()
 
 Wine_Search_Results_Form::Wine_Search_Results_Form(Cellar_Names cellars)
     : Cellar_Wine_Screen("Wine_Search_Results_Form", "Wine Information",
-                         {7, 16, 14, 12, 16, 9, 5, 5, 5}, Words_of_Headers(),
-                         cellars.empty() ? Columns() : Columns{{"Cellar", 10, false, false, 1}}),
+                         cellars.empty() ? Widths{7, 16, 14, 12, 16, 9, 5, 5, 5}
+                                         : Widths{7, 13, 12, 10, 12, 8, 5, 5, 5},
+                         Words_of_Headers(),
+                         cellars.empty() ? Columns() : Columns{{"Cellar", 8, false, true, 1}}),
       cellars_(std::move(cellars)) {
   Lay_Out();
   Wine_Cellar_ListView.ItemClick = [this](Forms::List_Item item) {

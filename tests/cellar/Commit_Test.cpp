@@ -443,6 +443,15 @@ TEST_F(Cellar_Commit, A_wine_is_removed_on_yes_alone_and_only_winery_and_region_
   Click(button);
   EXPECT_THAT(Wine_Rows(), IsEmpty());
   EXPECT_THAT(Moved_Counters(), ElementsAre(StartsWith(region)));
+  const Faults_Mended faults;
+  const Long wine = Put_Wine(described);
+  Put("Maridages_Per_Wines", {{"Wine_ID", wine}, {"GROUP", 10}, {"SUBCATEGO", 0}});  // to nothing
+  Start_With("Wine_Del");
+  Pick_Wine(wine);
+  Click(button);
+  const Text its_rows = " WHERE Wine_ID = " + To_Text(wine);
+  EXPECT_THAT(Stored("SELECT 1 FROM Maridages_Per_Wines" + its_rows), IsEmpty());
+  EXPECT_THAT(Grapes_of(wine), IsEmpty());
 }
 
 }  // namespace

@@ -295,6 +295,18 @@ TEST_F(Modes, What_was_entered_is_left_after_a_question_where_that_is_mended) {
     if (mended) leave(new_winery, true);
     EXPECT_EQ(Shown_Text("Comments_Text"), "");
     EXPECT_THAT(Told_By(exit), IsEmpty());
+    Pick("Wine_Add");
+    Choose_Winery();
+    Choose("Label_Combo", Sample().label);
+    EXPECT_THAT(Told_By([this] { Choose("Winery_Combo", Sample().name); }), IsEmpty());
+    EXPECT_EQ(Shown_Text("Label_Combo"), mended ? Sample().label : "New Label");
+    Choose("Label_Combo", Sample().label);
+    leave([this] { Choose("Country_Combo", Sample(1).country_name); }, false);
+    EXPECT_EQ(Shown_Text("Country_Combo"), Sample(mended ? 0 : 1).country_name);
+    EXPECT_EQ(Shown_Text("Label_Combo"), mended ? Sample().label : "New Label");
+    if (mended) leave([this] { Choose_Winery(1); }, true);
+    EXPECT_THAT(Told_By([] { Type_Into("Comments_Text", " "); }), IsEmpty());
+    EXPECT_THAT(Told_By(exit), IsEmpty());
     Pick("Wine_Mod");
     Press("Esc");
     Pick_Wine(1);

@@ -64,11 +64,6 @@ TEST_F(Look_Ups, Countries_of_wines_stand_once_and_countries_of_cheeses_once_a_r
   EXPECT_EQ(Cheese_Countries[3], "FRA");
 }
 
-TEST_F(Look_Ups, More_than_200_countries_are_a_subscript_failure) {
-  Add_Rows("World_Contries", "Short_Name", Texts(200, "ZZZ"));
-  EXPECT_FAILURE(9, Load_Countries());
-}
-
 TEST_F(Look_Ups, Names_and_short_names_of_countries) {
   EXPECT_EQ(Country_Short_Name("France"), "FRA");
   EXPECT_EQ(Country_Short_Name("UNITED STATES OF AMERICA"), "USA");

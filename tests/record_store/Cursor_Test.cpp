@@ -146,11 +146,3 @@ TEST_F(Recordset_Test, What_Cannot_Be_Opened) {
   }
   EXPECT_EQ(database_->OpenRecordset(" select * from BOTTLES where name='A' ;").RecordCount(), 1);
 }
-
-TEST_F(Recordset_Test, Tables_Are_Known_By_Their_Descriptions) {
-  EXPECT_EQ(database_->Table_Names(), (std::vector<std::string>{"Bottles", "Notes", "Shelves"}));
-  for (const Table_Schema& table : Test_Tables()) {
-    EXPECT_EQ(database_->Schema_Of(table.name), table) << table.name;
-  }
-  EXPECT_EQ(Failure_Of([&] { static_cast<void>(database_->Schema_Of("Cellars")); }), 3078);
-}

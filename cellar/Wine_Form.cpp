@@ -4,7 +4,6 @@
 #include "core/Common_Words.h"
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
-#include "core/Known_Faults.h"
 #include "core/MultiLanguage_Processes.h"
 #include "core/tables/Catalogue.h"
 #include "links/Varieties_Processes.h"
@@ -230,38 +229,6 @@ void Wine_Form::Show_Requested_Wine() {
 }
 
 // ---- leaving ----
-
-Text Wine_Form::Entered() {
-  Text entered;
-  const auto add = [&entered](const Text& part) { entered += part + "\n"; };
-  for (const Forms::Combo_Box* combo : std::initializer_list<const Forms::Combo_Box*>{
-           &Label_Combo, &Classification_Combo, &Vintage_Combo, &Peak_Year_Combo, &Merit_Combo,
-           &Bottle_Size_Combo, &Color_Combo}) {
-    add(combo->Tag() == "0" ? "" : To_Text(combo->ListIndex()));  // a default is no choice
-  }
-  for (const Forms::Text_Box* box : std::initializer_list<const Forms::Text_Box*>{
-           &Alcohol_Text, &Description_Text, &Comments_Text, &Total_Bottles_Text, &Price_Text,
-           &Date_Added_Text, &Last_Date_Uncorked_Text}) {
-    add(Trim(box->Text()));
-  }
-  Each_Ticked_Variety([&](int grape) { add(Variety_Combo.Key(grape)); });
-  add(Boxes.Ticks());
-  for (int pairing = 0; pairing < Pairing_List.ListCount(); ++pairing) {
-    add(Pairing_List.List(pairing));
-  }
-  return entered;
-}
-
-bool Wine_Form::May_Lose_Entered() {
-  if (Is_Kept(Fault::Entered_Wine_Goes_Without_A_Word)) return true;
-  if (!Command_Is({"WineAdd", "WineMod"}) || Entered() == stored_) return true;
-  return Leaves_Entered();
-}
-
-bool Wine_Form::Leaves_Entered() {
-  return Forms::Ask_Yes_No(Hint_Text(Screen_Words::Leave_Entered_Wine), "WINE NOT STORED",
-                           Forms::Answer::No);
-}
 
 void Wine_Form::Winery_Add_Command_Click() {
   if (!Screen("Wineries_Form").Exists() || !May_Lose_Entered()) return;

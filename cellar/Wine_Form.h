@@ -7,8 +7,8 @@
 //
 // The sources: Wine_Form.cpp the life and the modes, _Layout the places, _Locks the states of the
 // fields, _Fills and _Own_Fills what the lists are filled with, _Fields what a choice or a value
-// brings about, _Show a stored wine on the fields, _Picked the cellar's list and what a pick in it
-// brings about, _Commit the writes.
+// brings about, _Entered what would be lost, _Show a stored wine on the fields, _Picked the
+// cellar's list and what a pick in it brings about, _Commit the writes.
 #pragma once
 
 #include <functional>

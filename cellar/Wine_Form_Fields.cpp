@@ -60,19 +60,6 @@ constexpr const char* illegal_number = "ILLEGAL NUMBER";
 
 }  // namespace
 
-bool Wine_Form::Is_Followed(Keyed_Combo_Box& place, Text& before) {
-  const bool mended = !Is_Kept(Fault::Entered_Wine_Goes_Without_A_Word);
-  if (mended && place.Key() == before) return false;
-  const bool others_chosen = Label_Combo.ListIndex() > 0 || Classification_Combo.ListIndex() > 0 ||
-                             Variety_Combo.SelCount() > 0;
-  if (mended && !before.empty() && others_chosen && !Leaves_Entered()) {
-    place.Choose(before);
-    return false;
-  }
-  before = place.Key();
-  return true;
-}
-
 void Wine_Form::Country_Combo_Click() {
   Fill_In(Country_Combo);
   if (Country_Combo.Locked() || !Is_Followed(Country_Combo, chosen_country_)) return;

@@ -99,14 +99,6 @@ TEST_F(Look_Ups, E_mail_addresses) {
   }
 }
 
-TEST_F(Look_Ups, The_folder_above_the_program) {
-  Forms::Set_App_Path_For_Tests("/opt/corvale/wine");
-  EXPECT_EQ(Parent_Folder(), "/opt/corvale");
-  Forms::Set_App_Path_For_Tests("wine");
-  EXPECT_EQ(Parent_Folder(), "");
-  EXPECT_EQ(Shared_DB_Path, Folder() + "/dbase/Marlune2003.mdb");
-}
-
 TEST_F(Look_Ups, Ordered_queries) {
   Open_Regions_Of_Country("fra");
   const auto regions = Column(Regions_Query, "Region_Name");

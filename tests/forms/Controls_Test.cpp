@@ -11,10 +11,12 @@
 #include <QTextDocumentFragment>
 #include <QWidget>
 
+#include "platform/forms/Contrast.h"
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Guard.h"
 #include "tests/support/Drive.h"
 #include "tests/support/Expect_Failure.h"
+#include "tests/support/Pixels.h"
 
 namespace {
 
@@ -196,6 +198,24 @@ TEST_F(Controls_Test,
   EXPECT_EQ(boxes, 4);
   form.Message_Label.Set_Caption(text);
   EXPECT_EQ(Shown_Text("Message_Label"), lines);
+}
+
+TEST_F(Controls_Test, A_field_is_painted_in_the_colour_of_its_state) {
+  const QColor base = QApplication::palette().color(QPalette::Base);
+  for (Forms::Placed_Control* field : std::initializer_list<Forms::Placed_Control*>{
+           &form.Name_Text, &form.Country_Combo, &form.Notes_Text}) {
+    for (const Forms::Color back :
+         {Forms::Required_Color, Forms::Locked_Color, Forms::Window_Color}) {
+      field->Set_BackColor(back);
+      Settle_Events();
+      const QImage image = Find(field->Name()).grab().toImage();
+      const Pixels seen(image, image.rect(), image.rect().adjusted(9, 5, -20, -5));
+      const QColor exact(back.red, back.green, back.blue);
+      const QColor shown = back.of_the_theme ? base : exact;
+      EXPECT_EQ(seen.edge, shown) << field->Name();
+      EXPECT_EQ(seen.ground, back == Forms::Locked_Color ? Forms::Mixed(base, exact, 0.12) : shown);
+    }
+  }
 }
 
 TEST_F(Controls_Test, A_tool_tip_is_plain_text_with_the_state_below_it) {

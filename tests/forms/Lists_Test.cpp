@@ -46,6 +46,23 @@ TEST_F(Lists_Test, The_list_of_a_combo_box_shows_its_longest_entry_whole) {
   Press("Escape");
 }
 
+TEST_F(Lists_Test, The_user_chooses_in_a_combo_box) {
+  Choose("Country_Combo", "Greece");
+  Choose("Country_Combo", "Greece");
+  EXPECT_EQ(Taken(), Log({"Combo Greece", "Combo Greece"}));
+  for (const char* key : {"Down", "Return", "Up", "Home"}) Press(key);
+  Hold_Down("Country_Combo", Qt::Key_Return);
+  EXPECT_EQ(Taken(), Log({"Combo Spain", "Combo Spain", "Combo Greece", "Combo Chile"}));
+  Turn_Wheel("Country_Combo");
+  EXPECT_EQ(Taken(), Log({"Combo France"}));
+  Click("Other_Text");
+  Turn_Wheel("Country_Combo");
+  EXPECT_EQ(Taken(), Log());
+  Double_Click("Country_Combo");
+  EXPECT_EQ(Taken(), Log({"Combo DblClick"}));
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
 TEST_F(Lists_Test, A_locked_combo_box_can_be_read_copied_and_set_but_not_changed) {
   combo.Set_ListIndex(1);
   combo.Set_Locked(true);

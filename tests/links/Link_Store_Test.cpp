@@ -259,18 +259,6 @@ TEST_F(Link_Store, Bounds_of_arrays_and_numbers) {
   }
 }
 
-TEST_F(Link_Store, A_removal_takes_the_rows_of_the_variety_alone) {
-  const Stored_Links& links = all_stores[2];
-  for (const Long owner : {30001, 30000, 30001, 30002, 30001}) Link(links, owner, 20, 1);
-  const Text all = Rows("SELECT count(*) FROM " + Text(links.table))[0];
-  links.set_owner(30001);
-  Remove_Variety_Maridages();
-  EXPECT_THAT(Links_Of(links, "30001"), IsEmpty());
-  EXPECT_EQ(Links_Of(links, "30000,30002").size(), 2U);
-  Remove_Variety_Maridages();
-  EXPECT_EQ(Rows("SELECT count(*) FROM " + Text(links.table))[0], To_Text(To_Long(all) - 3));
-}
-
 TEST_F(Link_Store, A_grape_with_a_negative_counter_is_not_counted_and_none_falls_below_0) {
   for (const auto& [used, step, after] : std::vector<std::tuple<Long, int, const char*>>{
            {-1, 1, "-1"}, {-1, -1, "-1"}, {0, -1, "0"}, {0, 1, "1"}, {7, -1, "6"}}) {

@@ -149,15 +149,4 @@ TEST_F(Catalogue, Boxes_and_labels_by_language) {
   }
 }
 
-TEST_F(Catalogue, Words_of_an_addition_and_of_a_change) {
-  Open("Pairing_Add", german);
-  EXPECT_EQ(Shown_Text("Cate_Add_Form"), "Neue Kategorien oder Menüthemen hinzufügen");
-  EXPECT_EQ(Shown_Text("Cat_Add_Now"), "HINZUFÜGEN");
-  EXPECT_EQ(Shown_Text("CatLabel"), "Bitte geben Sie die neue Kategorie ein");
-  Open("Pairing_Mod", german);
-  EXPECT_EQ(Shown_Text("Cat_Add_Now"), "ÄNDERN");
-  EXPECT_EQ(Shown_Text("CatLabel"),
-            "Bitte wählen Sie die zu ändernde Kategorie und geben Sie ihren neuen Text ein");
-}
-
 }  // namespace

@@ -238,10 +238,12 @@ class Cursor_Model_Test : public Store_Test, public testing::WithParamInterface<
 
   void Edit(Model_Cursor& model, Recordset& rows) {
     const Row values{0, Any_Name(), Any_Rack()};
+    const bool dropped = Pick(6) == 0;
     Both(
-        "Edit " + values.name.value_or("-"),
+        "Edit " + values.name.value_or("-") + (dropped ? " dropped" : ""),
         [&] {
           model.Change([&](Row& row) {
+            if (dropped) return;
             if (values.name) row.name = values.name;
             if (values.rack) row.rack = values.rack;
           });
@@ -249,8 +251,9 @@ class Cursor_Model_Test : public Store_Test, public testing::WithParamInterface<
         [&] {
           rows.Edit();
           Assign(rows, values);
-          rows.Update();
+          if (!dropped) rows.Update();
         });
+    if (dropped) Move(model, rows);
   }
 
   void Move(Model_Cursor& model, Recordset& rows) {

@@ -69,15 +69,6 @@ TEST_F(Query_Test, Computed_Columns_Have_Values_Too) {
   EXPECT_TRUE(rows["Nothing"].Is_Null());
 }
 
-TEST_F(Query_Test, Sees_What_Its_Own_Burst_Wrote) {
-  Add_Bottle("a", 1);
-  Recordset query = database_->OpenRecordset("SELECT * FROM Bottles WHERE NOT Rack=-1  ");
-  EXPECT_EQ(query.RecordCount(), 1);
-  Add_Bottle("b", 1);
-  EXPECT_EQ(query.RecordCount(), 1);
-  EXPECT_EQ(database_->OpenRecordset("SELECT * FROM Bottles").RecordCount(), 2);
-}
-
 TEST(Query_Text_Test, Only_Plain_Names_Are_Ordered_By_Case_As_Well) {
   const std::vector<std::pair<std::string, std::string>> cases{
       {"SELECT a FROM T", ""},

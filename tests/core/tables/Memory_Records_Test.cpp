@@ -57,13 +57,6 @@ TEST_F(Memory_Records, Every_Table_Reads_What_It_Wrote) {
   Tables::For_Each_Table([](const auto& table) { Expect_Round_Trip(table); });
 }
 
-TEST_F(Memory_Records, Names_Decide_And_Not_Positions) {
-  auto schemas = Tables::All_Schemas();
-  for (auto& schema : schemas) std::reverse(schema.fields.begin(), schema.fields.end());
-  Make(schemas);
-  Tables::For_Each_Table([](const auto& table) { Expect_Round_Trip(table); });
-}
-
 // Members without a default keep what the last row left in them; of all keys only that of a variety
 // has a default. What is a function is asked anew.
 TEST_F(Memory_Records, Init_Sets_Defaults_And_Leaves_Keys_Alone) {

@@ -213,6 +213,7 @@ class Proceeding {
       if ((turn + 2) % 3 == turn / 3 % 3) Bare_Controls();
     }
     Print();
+    if (rows_ < 99) Run_Both_Ways();  // as many wines either way
     Pairing_Picker::Leave();
   }
 
@@ -283,6 +284,20 @@ class Proceeding {
     handler_.push_back(handler - committing);
     ours_.push_back(time - committing);
     paint_.push_back(time - handler);
+  }
+
+  void Run_Both_Ways() {
+    std::array<Times, 2> times;
+    for (int turn = 0; turn < 2 * rounds; ++turn) {
+      Mend_Known_Faults(turn % 2 == 1);
+      Ours();
+      times[turn % 2].push_back(ours_.back());
+    }
+    Mend_Known_Faults(false);
+    const double ratio = Median(times[1]) / Median(times[0]);
+    std::printf("%-18s %-24s designed %6.3f ms, mended %6.3f ms, ratio %.2f (at most 1.10) %s\n",
+                "", "PROCEED to painted", Median(times[0]), Median(times[1]), ratio,
+                Met(ratio <= 1.1));
   }
 
   void Print() {

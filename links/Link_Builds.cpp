@@ -70,8 +70,22 @@ void Add_Pair(const Link_Table& pairs, Long wine_id, Long cheese_id = Maridages.
   pairs.rows.Update();
 }
 
+// These tables have no index on the wine: the engine looks through all rows much faster than a
+// walk does.
+std::vector<Long> Cheeses_of_Wine(const Link_Table& pairs) {
+  std::vector<Long> cheeses;
+  for (Open_Query(pairs.rows, "SELECT Cheese_ID FROM " + Text(pairs.name) + " WHERE " +
+                                  pairs.owner + "=" + To_Text(Wines.Wine_ID));
+       !pairs.rows.Eof(); pairs.rows.MoveNext()) {
+    cheeses.push_back(pairs.rows.Fields(0).As_Long());
+  }
+  Close_Table(pairs.rows);
+  return cheeses;
+}
+
 // What stands rightly stays.
 void Make_Pairs_of_Wine(const Link_Table& pairs, std::vector<Long> cheeses) {
+  if (std::ranges::is_permutation(Cheeses_of_Wine(pairs), cheeses)) return;
   Open_Table(pairs.rows, pairs.name);
   for (; !pairs.rows.Eof(); pairs.rows.MoveNext()) {
     if (pairs.rows.Fields(pairs.owner).As_Long() != Wines.Wine_ID) continue;

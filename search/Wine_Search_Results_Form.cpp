@@ -27,9 +27,9 @@ Wine_Search_Results_Form::Wine_Search_Results_Form()
 Wine_Search_Results_Form::Wine_Search_Results_Form(Cellar_Names cellars)
     : Cellar_Wine_Screen("Wine_Search_Results_Form", "Wine Information",
                          cellars.empty() ? Widths{7, 16, 14, 12, 16, 9, 5, 5, 5}
-                                         : Widths{7, 13, 12, 10, 12, 8, 5, 5, 5},
+                                         : Widths{6, 12, 11, 10, 12, 7, 5, 5, 5},
                          Words_of_Headers(),
-                         cellars.empty() ? Columns() : Columns{{"Cellar", 8, false, true, 1}}),
+                         cellars.empty() ? Columns() : Columns{{"Cellar", 6, false, true}}),
       cellars_(std::move(cellars)) {
   Lay_Out();
   Wine_Cellar_ListView.ItemClick = [this](Forms::List_Item item) {
@@ -42,7 +42,7 @@ Wine_Search_Results_Form::Wine_Search_Results_Form(Cellar_Names cellars)
 
 void Wine_Search_Results_Form::Lay_Out() {
   using namespace Forms;
-  constexpr int requested_width = 22;
+  const int requested_width = cellars_.empty() ? 22 : 18;
   Requested_Pairings_Label.Set_Buddy(Requested_Pairings_List);
   const Place found =
       Column({Row({Current_Cellar_Label, One_Place({Message_Label}).Grow(), Wines_Number}),

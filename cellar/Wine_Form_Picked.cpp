@@ -36,7 +36,8 @@ void Wine_Form::Read_Winery_of_Wine() {
   if (!Find_Winery_of_Wine() && Is_Kept(Fault::Gone_Row_Ends_The_Run)) Wineries_Table.Read();
 }
 
-// This screen works on keys of 16 bits.
+// As designed this screen works on keys of 16 bits. No to the question leaves the wine on show
+// chosen.
 void Wine_Form::Wine_Cellar_ListView_ItemClick(Forms::List_Item item) {
   if (Command_Is("WineAdd")) {
     item.Set_Selected(false);

@@ -21,6 +21,7 @@
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Values.h"
 #include "screens/Cellar_Wine_Screen.h"
+#include "screens/Entry.h"
 
 class Wine_Form : public Cellar_Wine_Screen {
  public:
@@ -50,11 +51,8 @@ class Wine_Form : public Cellar_Wine_Screen {
   void Lay_Out();
   /// All that the user can enter but where the wine comes from, as it stands.
   Text Entered();
-  /// What stands there is stored, or was not entered: nothing of it would be lost.
-  void Take_as_Stored() { stored_ = Entered(); }
-  /// Whether to go on where that throws away what was entered. Asks if there is such.
-  bool May_Lose_Entered();
-  static bool Leaves_Entered();
+  void Take_as_Stored() { entry_.Take_as_Stored(); }
+  bool May_Lose_Entered() const;
   /// Whether to go by the chosen place of origin, which others bring along: mended, not where it is
   /// the one before, and only after a question where the others were chosen already. Keeps its key.
   bool Is_Followed(Keyed_Combo_Box& place, Text& before);
@@ -160,7 +158,8 @@ class Wine_Form : public Cellar_Wine_Screen {
   Numbers Numbers_of_Form() const;
   void From_Form_to_Memory(const Numbers& numbers);
   void Varieties_to_Memory();
-  Long Store_Data_Text(Forms::Text_Box& box, Long key);
+  /// The key of the row that holds the text of the box.
+  Long Store_Text(const Forms::Text_Box& box, Long key) const;
   void Store_Varieties();
   void Remove_Varieties();
   void Store_Pairings();
@@ -170,7 +169,9 @@ class Wine_Form : public Cellar_Wine_Screen {
   static Uses Uses_Counted();
   void Remove_Rows_of_Wine();
 
-  Text stored_;
+  Entry entry_{[this] { return Entered(); },
+               {Fault::Entered_Wine_Goes_Without_A_Word, Screen_Words::Leave_Entered_Wine,
+                "WINE NOT STORED"}};
   /// The keys of what is being entered; "" while it is to be chosen.
   Text chosen_country_;
   Text chosen_winery_;

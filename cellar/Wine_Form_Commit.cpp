@@ -179,11 +179,11 @@ void Wine_Form::From_Form_to_Memory(const Numbers& numbers) {
   Wines.Ranking = numbers.Ranking;
   Wines.Total_Bottles = numbers.Total_Bottles;
   Wines.Bottle_Size = Bottle_Size_Combo.Text();
-  Wines.Description = Store_Data_Text(Description_Text, Wines.Description);
+  Wines.Description = Store_Text(Description_Text, Wines.Description);
   Wines.Color = Color_Combo.Text();
   Wines.Alcohol = numbers.Alcohol;
   Wines.Clasification = Classification_Combo.Text();
-  Wines.Comments = Store_Data_Text(Comments_Text, Wines.Comments);
+  Wines.Comments = Store_Text(Comments_Text, Wines.Comments);
   Take_Changed_Date(Date_Added_Text, Wines.Date_Added, Wines.Date_Added);
   Take_Changed_Date(Last_Date_Uncorked_Text, Wines.Last_Date_Uncorked, No_Date);
 }
@@ -198,18 +198,12 @@ void Wine_Form::Varieties_to_Memory() {
   });
 }
 
-// The key of the row that holds the box's text, -1 for a new wine without one. Under WineMod a text
-// that is stored already cannot be changed: the row is not being edited (3020). Emptying the box is
-// such a change, and a wine without a text gets a row that says "x". Mended, a change is stored, an
-// emptied text as "x", and what stays as it was is not touched.
-Long Wine_Form::Store_Data_Text(Forms::Text_Box& box, Long key) {
-  const bool empty = Trim(box.Text()).empty();
-  if (box.Text() == "x" && !Is_Kept(Fault::Lone_X_Is_No_Text)) box.Set_Text("x ");
-  if (Command_Is("WineAdd")) return empty ? -1 : Add_Data_Text(box.Text());
+// As designed a text that is stored already cannot be changed: the row is not being edited (3020).
+Long Wine_Form::Store_Text(const Forms::Text_Box& box, Long key) const {
   const bool kept = Is_Kept(Fault::Stored_Text_Cannot_Change);
-  if (!kept && Data_Text(key) == (empty ? " " : box.Text())) return key;
-  if (empty) box.Set_Text("x");
-  return Change_Data_Text(key, box.Text(), kept ? Edit_First::No : Edit_First::Yes);
+  return Store_Data_Text(key, box.Text(),
+                         Command_Is("WineAdd") ? Text_Of::New_Row : Text_Of::Stored_Row,
+                         kept ? Edit_First::No : Edit_First::Yes);
 }
 
 void Wine_Form::Store_Varieties() {

@@ -1,6 +1,5 @@
 // What the user entered for a wine and has not stored, and the question before it goes.
 #include "cellar/Wine_Form.h"
-#include "core/Common_Words.h"
 #include "core/Known_Faults.h"
 #include "platform/run_time/Conversions.h"
 
@@ -21,15 +20,8 @@ Text Wine_Form::Entered() {
   return entered;
 }
 
-bool Wine_Form::May_Lose_Entered() {
-  if (Is_Kept(Fault::Entered_Wine_Goes_Without_A_Word)) return true;
-  if (!Command_Is({"WineAdd", "WineMod"}) || Entered() == stored_) return true;
-  return Leaves_Entered();
-}
-
-bool Wine_Form::Leaves_Entered() {
-  return Forms::Ask_Yes_No(Hint_Text(Screen_Words::Leave_Entered_Wine), "WINE NOT STORED",
-                           Forms::Answer::No);
+bool Wine_Form::May_Lose_Entered() const {
+  return !Command_Is({"WineAdd", "WineMod"}) || entry_.May_Be_Lost();
 }
 
 bool Wine_Form::Is_Followed(Keyed_Combo_Box& place, Text& before) {
@@ -37,7 +29,7 @@ bool Wine_Form::Is_Followed(Keyed_Combo_Box& place, Text& before) {
   if (asks && place.Key() == before) return false;
   const bool others_chosen = Label_Combo.ListIndex() > 0 || Classification_Combo.ListIndex() > 0 ||
                              Variety_Combo.SelCount() > 0;
-  if (asks && !before.empty() && others_chosen && !Leaves_Entered()) {
+  if (asks && !before.empty() && others_chosen && !entry_.Is_Left()) {
     place.Choose(before);
     return false;
   }

@@ -21,5 +21,21 @@ enum class Edit_First { Yes, No };
 /// and returns its key, where there is none of this key.
 Long Change_Data_Text(Long key, std::string_view text, Edit_First edit = Edit_First::Yes);
 
+/// Whether the row that the text belongs to is being added or stands already.
+enum class Text_Of { New_Row, Stored_Row };
+
+/// Stores what was entered and returns the key to keep, -1 for a new row without a text. Of a
+/// stored row an emptied text becomes "x", in a row of texts of its own where there was none;
+/// mended, a text that stays as it was is not touched, and a lone "x" is stored with a blank behind
+/// it.
+Long Store_Data_Text(Long key, const Text& entered, Text_Of of, Edit_First edit = Edit_First::Yes);
+
+// ---- short texts, of which "x" means that none was given ----
+
+/// One blank for "x".
+Text Given_Or_Blank(const Text& stored);
+/// "x" for blanks alone.
+Text Entered_Or_X(const Text& entered);
+
 /// Removes the row, in all languages; nothing where there is none.
 void Remove_Data_Text(Long key);

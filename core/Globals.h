@@ -25,6 +25,22 @@ inline bool First_Run = false;
 /// comes to the front.
 inline bool Region_Or_Label_Changed = false;
 
+// ---- what the catalogues of places hand to each other ----
+
+/// The short name of the country of the region, winery or class picked last, and the country that
+/// a region is to be added in.
+inline Text Current_Country_Short;
+/// The key of a region just added on the way to a winery.
+inline Integer New_Region_ID = 0;
+/// The region that is worked on.
+inline Long Selected_Region_ID = 0;
+/// The label clicked last; its text comes back changed from a renaming, which sets the flag.
+inline Integer Selected_Label_ID = 0;
+inline Text Selected_Label_Text;
+inline bool Label_Renamed_Flag = false;
+/// Set where a photo was added to a region.
+inline bool Photo_Added_Flag = false;
+
 /// A text handed from a list screen to the screen that called it.
 inline Text Selected_Text;
 

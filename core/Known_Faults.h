@@ -105,6 +105,44 @@ enum class Fault {
   Cellar_Can_Be_Named_X,
   /// Naming the cellars anew adds a row each time / it changes those that are there.
   Second_Naming_Adds_A_Row,
+
+  // ---- the catalogues of regions, labels and wineries ----
+
+  /// A label opened from a wine: SAVE is 424; EXIT deletes the region with the highest key, then
+  /// 424 / the label is stored and chosen for the wine; EXIT goes back to the wine.
+  Label_For_Wine_Ends_The_Run,
+  /// EXIT of a region opened from a winery deletes its own row, then 424 / goes back to the winery.
+  Region_For_Winery_Ends_The_Run,
+  /// "New Region" of a winery that is modified, or made for a general wine, opens a screen that
+  /// stores nothing / a region is added as for a new winery.
+  New_Region_Needs_New_Winery,
+  /// SAVE of a winery opened from the general list does nothing / it is stored and handed over.
+  Winery_For_General_List_Is_Not_Stored,
+  /// PROCEED for a region that shows a grape of a sub-region is 35600 / such grapes are skipped.
+  Grape_Of_Sub_Region_Ends_The_Run,
+  /// What a delivered row is changed in makes it the user's / it stays a delivered row.
+  Changed_Row_Becomes_The_Users,
+  /// A double is looked for under English and in its own case, and not among wineries / in each
+  /// language and case, of regions, labels and wineries.
+  Double_Name_Goes_By_Case,
+  /// A row can be named as one that is not confirmed yet, "x" or "No Label" / such names are
+  /// refused.
+  Row_Can_Be_Named_X,
+  /// A row whose counter is 0 can be deleted, whatever refers to it / it is refused as a used one.
+  Deletion_Goes_By_Counter,
+  /// The texts, grapes and photos of a deleted row stay / they go with it.
+  Rows_Of_Deleted_Row_Stay,
+  /// The grapes of a region are counted again with each PROCEED, once by the picker and twice by
+  /// the screen, and never less; the picker only adds to the way back / each grape is counted once,
+  /// one taken out is counted out, and both tables hold the same.
+  Grapes_Of_Region_Count_Again,
+  /// A row clicked while another one is added takes the place of what was entered / it is only
+  /// marked.
+  Pick_Replaces_New_Row,
+  /// What was entered in a catalogue goes without a word / a question comes first.
+  Entered_Row_Goes_Without_A_Word,
+  /// A row that was being added when the run was killed stays / it goes at the next start.
+  Unconfirmed_Row_Stays,
 };
 
 /// Whether the program behaves as designed in this. True for all, or False for all, from the start

@@ -38,13 +38,16 @@ inline constexpr Hint One_Removed{"One_Removed", "%1 of the wines found was remo
 inline constexpr Hint Several_Removed{"Several_Removed", "%1 of the wines found were removed."};
 inline constexpr Hint Leave_Entered_Wine{
     "Leave_Entered_Wine", "What was entered for this wine is not stored. Leave it unstored?"};
+inline constexpr Hint Leave_Entered_Row{"Leave_Entered_Row",
+                                        "What was entered is not stored. Leave it unstored?"};
 inline constexpr Hint Faults_Mended{"Faults_Mended", "known faults mended"};
 
-inline constexpr std::array<Hint, 19> Hints{
-    {No_Wines_Yet, First_Wine, No_Wines_Found, No_Wines_Fit, Nothing_Chosen, No_Suggestions,
-     No_Pairings_of_Wine, First_Pairing, No_Pairings_Yet, Pairings_First, Name_Cellars_First,
-     Picker_Keys, Picker_Full, Picker_Full_Title, First_Shown, One_Removed, Several_Removed,
-     Leave_Entered_Wine, Faults_Mended}};
+inline constexpr std::array<Hint, 20> Hints{
+    {No_Wines_Yet,    First_Wine,         No_Wines_Found,      No_Wines_Fit,
+     Nothing_Chosen,  No_Suggestions,     No_Pairings_of_Wine, First_Pairing,
+     No_Pairings_Yet, Pairings_First,     Name_Cellars_First,  Picker_Keys,
+     Picker_Full,     Picker_Full_Title,  First_Shown,         One_Removed,
+     Several_Removed, Leave_Entered_Wine, Leave_Entered_Row,   Faults_Mended}};
 inline constexpr auto Hints_Rows = Rows_Named_As(Hints);
 
 }  // namespace Screen_Words

@@ -1,5 +1,5 @@
 #include "catalogue/Catalogue_Screens.h"
 
-#include "platform/forms/Screens.h"
+#include "catalogue/List_Screens.h"
 
-void Register_Catalogue_Screens() {}
+void Register_Catalogue_Screens() { Register_List_Screens(); }

@@ -74,15 +74,15 @@ void Load_Wineries(Row_List& list) {
   });
 }
 
-void Load_Classifications(Row_List& list) {
-  constexpr int short_name = 3;
+void Load_Classifications(Row_List& list, const std::function<void(List_Item row)>& action) {
   list.Clear();
   Country_Names countries = Names_at(Country_Name_Column());
   Each_Row(Classification_Table, [&] {
     if (Classification.Description == "x") return;
-    list.Add_Row(To_Text(Classification.Classification_ID),
-                 {Classification.Description, countries[Classification.Country]})
-        .Set_SubItems(short_name, Classification.Country);
+    const List_Item row =
+        list.Add_Row(To_Text(Classification.Classification_ID),
+                     {Classification.Description, countries[Classification.Country]});
+    if (action) action(row);
   });
 }
 

@@ -15,8 +15,10 @@
 void Load_Regions(Row_List& list);
 /// Name, country by its English name, region as the winery names it.
 void Load_Wineries(Row_List& list);
-/// Description, country in the language in force; its short name in the third cell.
-void Load_Classifications(Row_List& list);
+/// Description, country in the language in force. `action` is called with the row of each, which is
+/// in the memory record then.
+void Load_Classifications(Row_List& list,
+                          const std::function<void(Forms::List_Item row)>& action = {});
 /// Name, colour.
 void Load_Varieties(Row_List& list);
 

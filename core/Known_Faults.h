@@ -136,6 +136,9 @@ enum class Fault {
   /// the screen, and never less; the picker only adds to the way back / each grape is counted once,
   /// one taken out is counted out, and both tables hold the same.
   Grapes_Of_Region_Count_Again,
+  /// The rows of the tables of regions and grapes are numbered up to 32,767, no number twice, and
+  /// what would need more is failure 6 / their numbers do not end.
+  Link_Numbers_Have_16_Bits,
   /// A row clicked while another one is added takes the place of what was entered / it is only
   /// marked.
   Pick_Replaces_New_Row,

@@ -38,6 +38,13 @@ void Widen_Wine_Numbers() {
   }
 }
 
+// The same of the rows that tie regions and grapes: nothing refers to these numbers.
+void Widen_Link_Numbers() {
+  if (Is_Kept(Fault::Link_Numbers_Have_16_Bits)) return;
+  Wine_Cellar_DB->Widen("Varieties_Per_Region", "Varieties_Per_Region_ID");
+  Wine_Cellar_DB->Widen("Regions_Per_Variety", "Regions_Per_Variety_ID");
+}
+
 // The logo follows: it spans the window.
 void Fit_Window_To_Language() {
   Read_By_Key(Languages_Available_Table, System_Language);
@@ -49,6 +56,7 @@ void Fit_Window_To_Language() {
 void Open_Databases() {
   Open_Wine_Cellar_DB();
   Widen_Wine_Numbers();
+  Widen_Link_Numbers();
   Hooks().commit = [] { Wine_Cellar_DB->Commit(); };
   Load_Countries();
   Open_Table(Words_Recordset, "Words");

@@ -10,8 +10,10 @@
 #include "links/Link_Builds.h"
 #include "links/Link_Decoders.h"
 #include "links/Link_Table.h"
+#include "links/Region_Varieties.h"
 #include "links/Varieties_Processes.h"
 #include "platform/run_time/Conversions.h"
+#include "platform/run_time/Run_Time_Error.h"
 
 namespace {
 
@@ -57,6 +59,25 @@ bool Wine_Has_Selection() {
   return std::ranges::is_permutation(stored, selected);
 }
 
+// ---- grapes of a region, as designed ----
+
+void Require_Numbers(const Link_Table& links, int rows) {
+  Open_Table(links.rows, links.name);
+  if (links.rows.Numbers_Left() < rows) Fail(Failure::Overflow);
+  Close_Table(links.rows);
+}
+
+// The selection has a row for each group, so at most one for each grape.
+void Require_Numbers_for_Region(int pairs_of_each) {
+  Require_Numbers(Varieties_of_Regions, Selected_Count);
+  Require_Numbers(Pairs_of_Regions, Selected_Count * pairs_of_each);
+}
+
+void Add_Region_Varieties() {
+  Store(Varieties_of_Regions, Regions.Region_ID, Build_Region_Variety_Groups,
+        Serial_of_User(To_Text(Regions.Region_ID)));
+}
+
 }  // namespace
 
 void Store_Wine_Maridages() {
@@ -83,9 +104,27 @@ void Store_Cheese_Maridages() {
 }
 
 void Store_Region_Varieties() {
-  Store(Varieties_of_Regions, Regions.Region_ID, Build_Region_Variety_Groups,
-        Serial_of_User(To_Text(Regions.Region_ID)));
+  if (!Is_Kept(Fault::Grapes_Of_Region_Count_Again)) {
+    Make_Varieties_of_Region(Selected_Count);
+    return;
+  }
+  Require_Numbers_for_Region(1);
+  Add_Region_Varieties();
 }
+
+void Replace_Region_Varieties() {
+  if (!Is_Kept(Fault::Grapes_Of_Region_Count_Again)) {
+    Make_Varieties_of_Region(Selected_Count);
+    return;
+  }
+  Require_Numbers_for_Region(2);
+  Remove_All(Varieties_of_Regions, Regions.Region_ID);
+  Add_Region_Varieties();
+  Remove_All(Pairs_of_Regions, Regions.Region_ID);
+  Build_Region_Variety_Groups();
+}
+
+void Remove_Region_Varieties() { Make_Varieties_of_Region(0); }
 
 void Store_Cheese_Varieties() {
   Store(Varieties_of_Cheeses, Cheeses.Cheese_ID, Build_Cheese_Variety_Groups,

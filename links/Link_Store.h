@@ -21,8 +21,19 @@ void Remove_Wine_Maridages();
 void Store_Mobile_Wine_Maridages();
 void Store_Variety_Maridages();
 void Store_Cheese_Maridages();
+/// Adds to `Regions_Per_Variety` and counts every grape once more, whether the region had it or
+/// not. Nothing is touched where the numbers left for rows of either table do not suffice (6).
+/// Mended, both tables hold each grape of the selection once, what stands rightly stays, and a
+/// grape is counted when the region has it newly, or no longer; `Decoded_Items` and the memory
+/// record of `Varieties` change.
 void Store_Region_Varieties();
+/// The same, but the region's old rows go from both tables, and every grape is counted twice.
+/// Mended there is no difference.
+void Replace_Region_Varieties();
 void Store_Cheese_Varieties();
+
+/// Mended alone: the store of an empty selection, which it leaves as it is.
+void Remove_Region_Varieties();
 
 /// The variety's group link rows; the pair rows of the way back stay.
 void Remove_Variety_Maridages();

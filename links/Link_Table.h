@@ -25,6 +25,9 @@ inline constexpr Link_Table Pairings_of_Cheeses{Maridages_Per_Cheeses_Recordset,
                                                 "Maridages_Per_Cheeses", "Cheese_ID"};
 inline constexpr Link_Table Varieties_of_Regions{Varieties_Per_Region_Recordset,
                                                  "Varieties_Per_Region", "Region_ID"};
+/// Pair rows: the way back.
+inline constexpr Link_Table Pairs_of_Regions{Regions_Per_Variety_Recordset, "Regions_Per_Variety",
+                                             "Region_ID"};
 inline constexpr Link_Table Varieties_of_Cheeses{Varieties_Per_Cheeses_Recordset,
                                                  "Varieties_Per_Cheeses", "Cheese_ID"};
 

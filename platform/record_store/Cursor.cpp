@@ -51,6 +51,7 @@ void Cursor::Put_Null(int ordinal) {
 
 void Cursor::Index(std::string_view) { Fail(Failure::Invalid_Operation); }
 void Cursor::Seek(std::string_view, std::span<const Key>) { Fail(Failure::Invalid_Operation); }
+Long Cursor::Numbers_Left() { Fail(Failure::Invalid_Operation); }
 void Cursor::Add_New() { Fail(Failure::Invalid_Operation); }
 void Cursor::Edit() { Fail(Failure::Invalid_Operation); }
 void Cursor::Update() { Fail(Failure::Invalid_Operation); }

@@ -47,6 +47,7 @@ class Cursor {
   virtual Long Count() = 0;
 
   // These are for tables; a query fails with 3219.
+  virtual Long Numbers_Left();
   virtual void Index(std::string_view name);
   virtual void Seek(std::string_view comparison, std::span<const Key> keys);
   virtual void Add_New();

@@ -59,6 +59,7 @@ void Recordset::MoveLast() { Open_Cursor().Move_Last(); }
 void Recordset::MoveNext() { Open_Cursor().Move_Next(); }
 void Recordset::MovePrevious() { Open_Cursor().Move_Previous(); }
 Long Recordset::RecordCount() const { return Open_Cursor().Count(); }
+Long Recordset::Numbers_Left() const { return Open_Cursor().Numbers_Left(); }
 
 Field Recordset::Fields(std::string_view name) const {
   Cursor& cursor = Open_Cursor();

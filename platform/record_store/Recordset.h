@@ -94,6 +94,8 @@ class Recordset {
 
   /// Rows in the table, or in the query.
   Long RecordCount() const;
+  /// How many more rows AddNew can begin (tables; of a query: 3219).
+  Long Numbers_Left() const;
 
   // ---- reading ----
 

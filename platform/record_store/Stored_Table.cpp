@@ -179,7 +179,7 @@ sqlite3_stmt* Stored_Table::Update_Statement(const std::vector<bool>& assigned) 
 
 // ---- numbers of rows ----
 
-std::int64_t Stored_Table::Next_Number(std::uint64_t file_state) {
+std::int64_t Stored_Table::Numbers_Left(std::uint64_t file_state) {
   if (numbered_in_state_ != file_state) {
     if (!counter_) {
       counter_ = engine_->Prepare(layout_.Counter() >= 0
@@ -195,8 +195,12 @@ std::int64_t Stored_Table::Next_Number(std::uint64_t file_state) {
   }
   const bool small =
       layout_.Counter() >= 0 && layout_.At(layout_.Counter()).type == Field_Type::Integer;
-  const std::int64_t highest = small ? INT16_MAX : INT32_MAX;
-  if (layout_.Counter() >= 0 && last_number_ >= highest) Fail(Failure::Overflow);
+  return (small ? INT16_MAX : INT32_MAX) - last_number_;
+}
+
+std::int64_t Stored_Table::Next_Number(std::uint64_t file_state) {
+  const std::int64_t left = Numbers_Left(file_state);
+  if (layout_.Counter() >= 0 && left <= 0) Fail(Failure::Overflow);
   return ++last_number_;
 }
 

@@ -81,6 +81,8 @@ class Stored_Table {
   /// The number for a new row: one above all that this file or this run has seen. 6 beyond the
   /// range of the counter.
   std::int64_t Next_Number(std::uint64_t file_state);
+  /// How many there are.
+  std::int64_t Numbers_Left(std::uint64_t file_state);
   void Has_Seen(std::int64_t number);
 
   /// Rows in the table. Counted once for each state of the table.

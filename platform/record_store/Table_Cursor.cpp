@@ -253,6 +253,11 @@ Long Table_Cursor::Count() {
   return static_cast<Long>(table_->Count(core->File_State()));
 }
 
+Long Table_Cursor::Numbers_Left() {
+  core->Begin_Read();
+  return static_cast<Long>(table_->Numbers_Left(core->File_State()));
+}
+
 // ---- changes ----
 
 // The file is taken for writing before the counter is read: another process could give the same

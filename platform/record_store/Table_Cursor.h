@@ -32,6 +32,7 @@ class Table_Cursor final : public Cursor {
   void Move_Next() override { Move(false); }
   void Move_Previous() override { Move(true); }
   Long Count() override;
+  Long Numbers_Left() override;
 
   void Index(std::string_view name) override;
   void Seek(std::string_view comparison, std::span<const Key> keys) override;

@@ -259,6 +259,80 @@ TEST_F(Link_Store, Bounds_of_arrays_and_numbers) {
   }
 }
 
+// Twice what is there already, as a killed run or the other program leaves it, goes too.
+TEST_F(Link_Store,
+       Grapes_of_a_region_are_counted_once_and_stand_alike_in_both_tables_where_mended) {
+  Keys grapes;
+  for (const Long subgroup : {1, 2, 3, 4}) grapes.push_back(Add_Variety(900001, subgroup));
+  const auto links = [] { return Links_Of(all_stores[4], "30001"); };
+  const auto pairs = [] {
+    return Rows(
+        "SELECT Regions_Per_Variety_ID, Variety_ID FROM Regions_Per_Variety WHERE "
+        "Region_ID=30001 AND SERIAL_NUMBER='CUS30001' ORDER BY Variety_ID");
+  };
+  const auto used = [&] {
+    Text all;
+    for (const Long grape : grapes) all += Used("Varieties", "Variety_ID", grape);
+    return all;
+  };
+  Set_Region(30001);
+  Select({grapes[0], grapes[1]});
+  Store_Region_Varieties();
+  Replace_Region_Varieties();
+  EXPECT_EQ(used(), "3300");
+  EXPECT_EQ(pairs().size(), 2U);
+  Select({grapes[1], grapes[2]});
+  Store_Region_Varieties();
+  EXPECT_EQ(pairs().size(), 4U);
+
+  const Faults_Mended faults;
+  Select({grapes[1], grapes[2], 32000, grapes[2], grapes[3]});
+  Store_Region_Varieties();
+  EXPECT_EQ(links(), Texts{"9000010|1110|CUS30001"});
+  EXPECT_EQ(used(), "3411");
+  const Texts stood = pairs();
+  EXPECT_EQ(stood.size(), 3U);
+  Replace_Region_Varieties();
+  EXPECT_EQ(pairs(), stood) << "rows that stand keep their numbers";
+  EXPECT_EQ(used(), "3411");
+  Remove_Region_Varieties();
+  EXPECT_THAT(links(), IsEmpty());
+  EXPECT_THAT(pairs(), IsEmpty());
+  EXPECT_EQ(used(), "3300");
+}
+
+TEST_F(Link_Store, Without_numbers_for_new_rows_a_region_keeps_its_grapes) {
+  const auto leave_numbers = [](const char* table, Long left) {
+    Record_Store::Recordset rows = Wine_Cellar_DB->OpenRecordset(table);
+    while (rows.Numbers_Left() > left + 1) rows.AddNew();
+    Add(table, {});
+  };
+  Keys grapes;
+  for (const Long subgroup : {1, 2, 3}) grapes.push_back(Add_Variety(900001, subgroup));
+  Set_Region(30001);
+  Select({grapes[0]});
+  Replace_Region_Varieties();
+  leave_numbers("Regions_Per_Variety", 5);
+  Select(grapes);
+  EXPECT_FAILURE(6, Replace_Region_Varieties());
+  EXPECT_EQ(Links_Of(all_stores[4], "30001"), Texts{"9000010|1|CUS30001"});
+  Store_Region_Varieties();
+  EXPECT_EQ(Links_Of(all_stores[4], "30001"), Texts{"9000010|111|CUS30001"});
+  leave_numbers("Varieties_Per_Region", 0);
+  Select({grapes[1]});
+  EXPECT_FAILURE(6, Store_Region_Varieties());
+  EXPECT_EQ(Links_Of(all_stores[4], "30001"), Texts{"9000010|111|CUS30001"});
+  Wine_Cellar_DB->Commit();
+
+  const Faults_Mended faults;
+  Start();
+  Set_Region(30001);
+  Store_Region_Varieties();
+  EXPECT_EQ(Links_Of(all_stores[4], "30001"), Texts{"9000010|10|CUS30001"});
+  EXPECT_THAT(Rows("SELECT Variety_ID FROM Regions_Per_Variety WHERE Region_ID=30001"),
+              ElementsAre(To_Text(grapes[1])));
+}
+
 TEST_F(Link_Store, A_grape_with_a_negative_counter_is_not_counted_and_none_falls_below_0) {
   for (const auto& [used, step, after] : std::vector<std::tuple<Long, int, const char*>>{
            {-1, 1, "-1"}, {-1, -1, "-1"}, {0, -1, "0"}, {0, 1, "1"}, {7, -1, "6"}}) {

@@ -42,6 +42,7 @@ TEST_F(Change_Test, A_Counter_Ends_With_Its_Type_And_Is_Not_Assigned) {
     EXPECT_EQ(Failure_Of([&] { rows["Number"] = 5; }), 3219);
     rows["Shelf"] = shelf;
     rows.Update();
+    EXPECT_EQ(rows.Numbers_Left(), shelf == Text("left") ? 1 : 0);
   }
   EXPECT_EQ(Failure_Of([&] { rows.AddNew(); }), 6);
   rows.MoveFirst();

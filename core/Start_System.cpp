@@ -4,6 +4,7 @@
 #include "core/Gereral_Processes.h"
 #include "core/Globals.h"
 #include "core/Known_Faults.h"
+#include "core/Unconfirmed_Rows.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
@@ -57,6 +58,7 @@ void Open_Databases() {
   Open_Wine_Cellar_DB();
   Widen_Wine_Numbers();
   Widen_Link_Numbers();
+  Remove_Unconfirmed_Rows();
   Hooks().commit = [] { Wine_Cellar_DB->Commit(); };
   Load_Countries();
   Open_Table(Words_Recordset, "Words");

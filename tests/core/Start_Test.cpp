@@ -12,6 +12,7 @@
 #include "core/MultiLanguage_Processes.h"
 #include "core/words/Form_Texts_Words.h"
 #include "platform/forms/Form_Texts.h"
+#include "tests/support/Faults_Mended.h"
 #include "tests/support/Program_Folder.h"
 
 namespace {
@@ -77,6 +78,43 @@ TEST_F(Start_Up, The_data_file_stays_one_file_and_is_not_written_by_a_start) {
   Stop();
   std::ifstream after(Data_File(), std::ios::binary);
   EXPECT_TRUE(bytes == std::string(std::istreambuf_iterator<char>(after), {}));
+}
+
+// Rows that somebody named so, changed, or uses are no such rows.
+TEST_F(Start_Up, Rows_that_a_killed_run_left_unconfirmed_go_where_mended) {
+  Start();
+  const auto add = [](const auto& table, auto&&... values) {
+    table.description.Init(table.record);
+    ((table.record.*values.first = values.second), ...);
+    Open_By_Key(table);
+    table.rows.AddNew();
+    table.Write();
+  };
+  using R = Regions_Record;
+  using L = Labels_Record;
+  using W = Wineries_Record;
+  add(Regions_Table);
+  add(Regions_Table, std::pair{&R::Country, "FRA"});
+  add(Regions_Table, std::pair{&R::Region_Name, "X"});
+  add(Labels_Table);
+  add(Labels_Table, std::pair{&L::Region_ID, Integer{7}});
+  add(Wineries_Table);
+  add(Wineries_Table, std::pair{&W::Used, Integer{1}});
+  add(Wineries_Table);
+  Wine_Cellar_DB->Commit();
+  const auto left = [this] {
+    return Stored(
+        "SELECT Region_Name, Country, Used FROM Regions WHERE Region_Name='x' UNION ALL "
+        "SELECT Label_Name, Region_ID, Used FROM Labels WHERE Label_Name='No Label' UNION "
+        "ALL SELECT Winery_Name, Country, Used FROM Wineries WHERE Winery_Name='x'");
+  };
+  const Texts delivered_and_added = left();
+  Start();
+  EXPECT_EQ(left(), delivered_and_added);
+  const Faults_Mended faults;
+  Start();
+  Stop();
+  EXPECT_THAT(left(), UnorderedElementsAre("x|FRA|0", "X|x|0", "No Label|7|0", "x|x|1"));
 }
 
 TEST_F(Start_Up, Without_a_sound_data_file_the_run_ends_with_one_message) {

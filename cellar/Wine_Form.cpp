@@ -195,6 +195,7 @@ void Wine_Form::Form_Activate() {
   const bool winery_or_label_is_new = Tag() == "1";
   if (winery_or_label_is_new) Update_for_New_Winery();
   Set_Tag("0");
+  if (!Label_Add_Command.Tag().empty()) Update_for_New_Label(Label_Add_Command.Tag());
   Should_Multi_Command_Be_Enabled();
   if (Pairings_Add_Command.Tag() == "1") Take_Over_Pairings();
   if (Command_Is("CheeseParingsCellar")) Show_Requested_Wine();
@@ -206,6 +207,16 @@ void Wine_Form::Update_for_New_Winery() {
   chosen_winery_.clear();
   const int place = Winery_Combo.Place_Of(winery.Winery_ID, 1);
   if (place > 0) Winery_Combo.Set_ListIndex(place);
+}
+
+// A label that was added for another region than the wine's stands behind those of the wine's.
+void Wine_Form::Update_for_New_Label(const Text& label_id) {
+  Load_Labels_for_Region(To_Integer(Region_Combo.Key()));
+  if (Label_Combo.Place_Of(label_id) < 0 && Find_By_Key(Labels_Table, label_id)) {
+    Label_Combo.Add(Labels.Label_Name, label_id);
+  }
+  Label_Combo.Choose(label_id);
+  Label_Add_Command.Set_Tag("");
 }
 
 // Under WineMod the keys keep their old lines ahead of the new ones; nothing reads them there.

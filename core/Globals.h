@@ -38,6 +38,8 @@ inline Long Selected_Region_ID = 0;
 inline Integer Selected_Label_ID = 0;
 inline Text Selected_Label_Text;
 inline bool Label_Renamed_Flag = false;
+/// The place of the class on show in the list, from 1.
+inline Integer Selected_Classification_Index = 0;
 /// Set where a photo was added to a region.
 inline bool Photo_Added_Flag = false;
 

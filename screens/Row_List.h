@@ -10,8 +10,8 @@
 #include "platform/forms/List_View.h"
 #include "platform/run_time/Values.h"
 
-/// The key of each row stands in the last column. A click on a header turns the order of the list
-/// and sorts it by that column.
+/// The key of each row stands in the last column, or in the one that is named. A click on a header
+/// turns the order of the list and sorts it by that column.
 class Row_List : public Forms::List_View {
  public:
   /// Each column answers to a header that reads as in the design; `words` tells what they answer to
@@ -19,6 +19,7 @@ class Row_List : public Forms::List_View {
   /// order and leaves the column as it is.
   Row_List(Forms::Form& form, std::string_view name, std::vector<Forms::List_Column> columns,
            std::vector<std::string> words = {});
+  void Set_Key_Column(int column) { key_column_ = column; }
 
   /// A row with the texts of its first columns. What is "" stays unset.
   Forms::List_Item Add_Row(std::string_view key, std::initializer_list<std::string_view> texts);

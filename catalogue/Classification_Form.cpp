@@ -35,6 +35,11 @@ Classification_Form::Classification_Form()
   Classification_ListView.ItemClick = [this](Forms::List_Item item) {
     Classification_ListView_ItemClick(item);
   };
+  const auto sort = Classification_ListView.ColumnClick;
+  Classification_ListView.ColumnClick = [this, sort](const Forms::Column_Header& header) {
+    sort(header);
+    Paging.Set_Previous_and_Next(Own_Row.Key());
+  };
   Exit_Command.Click = [this] { Leave(); };
 }
 
@@ -45,15 +50,17 @@ void Classification_Form::Lay_Out() {
   constexpr int text_width = 48;
   Classification_ListView.Set_Accessible_Name("Classifications");
   Classification_ListView.Set_Empty_Text("No classifications.");
+  Current_Classification_Label.Set_Buddy(Current_Classification_Combo);
   const Place fields =
       Fields({{Name_Label, Name_Text},
               {Description_Label, Place(Description_Text).Wide(text_width).High(8).Grow()},
-              {Country_Label, Country_Combo},
-              {Current_Classification_Label, Current_Classification_Combo}});
+              {Country_Label, Country_Combo}});
   const Place pages =
       Row({Classification_Form_Previous_Command, Classification_Form_Next_Command, Stretch()});
   Set_Content(Side_By_Side(Place(Classification_ListView).Wide(list_width).High(list_height).Grow(),
-                           Column({fields.Grow(), pages}).Grow()),
+                           Column({fields.Grow(), Current_Classification_Label,
+                                   Current_Classification_Combo, pages})
+                               .Grow()),
               Buttons({General_Command, Exit_Command}));
   Set_Exit(Exit_Command);
 }
@@ -99,6 +106,21 @@ void Classification_Form::Memory_to_Form() {
   if (Classification.Glossary_ID != -1) {
     Description_Text.Set_Text(Explanation(Classification.Glossary_ID));
   }
+  if (Is_Kept(Fault::Country_of_Class_Stays)) return;
+  Country_Combo.Set_ListIndex(Country_Combo.Place_Of(Classification.Country));
+  Initialize_Current_Classification();
+}
+
+void Classification_Form::Initialize_Current_Classification() {
+  auto& rows = Classification_Recordset;
+  Current_Classification_Combo.Clear();
+  Open_Table(rows, "Classification", "Country");
+  for (rows.Seek("=", Classification.Country); !rows.NoMatch() && !rows.Eof(); rows.MoveNext()) {
+    if (rows.Fields("Country").As_Text() != Classification.Country) break;
+    Current_Classification_Combo.AddItem(rows.Fields("Description").As_Text());
+  }
+  Close_Table(rows);
+  Current_Classification_Combo.Set_ListIndex(0);
 }
 
 void Classification_Form::Classification_ListView_ItemClick(Forms::List_Item item) {

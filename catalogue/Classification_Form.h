@@ -22,6 +22,8 @@ class Classification_Form : public Catalogue_Screen {
   /// Shows the row of this key, under the command that does so. Whether it is still there.
   bool Show_Row(const Text& key);
   void Memory_to_Form();
+  /// The classes of the country of the one in the memory record.
+  void Initialize_Current_Classification();
   void Classification_ListView_ItemClick(Forms::List_Item item);
   void Delete_Classification();
 

@@ -43,13 +43,17 @@ Regions_Add_Mod_Varieties_Form::Regions_Add_Mod_Varieties_Form()
 void Regions_Add_Mod_Varieties_Form::Lay_Out() {
   using namespace Forms;
   constexpr int list_height = 26;
+  constexpr int regions_width = 48;
+  constexpr int grapes_width = 38;
   Regions_ListView.Set_Accessible_Name("Wine Regions");
   Varieties_Selected_ListView.Set_Empty_Text("Select a region first.");
-  const auto list = [](Row_List& view) { return Place(view).High(list_height, 8).Grow(); };
+  const auto list = [](Row_List& view, int width) {
+    return Place(view).Wide(width).High(list_height, 8).Grow();
+  };
   const Place moves = Column({Stretch(), Add_Var_Command, Remove_Var_Command, Stretch()});
-  Set_Content(Row({list(Regions_ListView).Grow(3),
-                   Below(Avail_Label, list(Varieties_AvailableView)).Grow(2), moves,
-                   Below(Current_Label, list(Varieties_Selected_ListView)).Grow(2)}),
+  Set_Content(Row({list(Regions_ListView, regions_width).Grow(4),
+                   Below(Avail_Label, list(Varieties_AvailableView, grapes_width)).Grow(3), moves,
+                   Below(Current_Label, list(Varieties_Selected_ListView, grapes_width)).Grow(3)}),
               Buttons({General_Command, Exit_Command}));
   Set_Exit(Exit_Command);
   Stay_On_Esc();

@@ -69,7 +69,7 @@ enum class Fault {
   // ---- pickers and searches ----
 
   /// A picker takes 101 entries, which PROCEED fails with (9), and refuses the next one in a number
-  /// alone / it takes 100, and says so.
+  /// alone; the screen of a region's grapes any number / 100, and they say so.
   Picker_Takes_One_Too_Many,
   /// Two entries of one text cannot be chosen together / an entry is known by its key.
   Same_Text_Is_Chosen_Once,
@@ -120,6 +120,9 @@ enum class Fault {
   Winery_For_General_List_Is_Not_Stored,
   /// PROCEED for a region that shows a grape of a sub-region is 35600 / such grapes are skipped.
   Grape_Of_Sub_Region_Ends_The_Run,
+  /// The country beside a classification, and the others of that country, stay as they were when
+  /// the screen was opened / they are those of the one on show.
+  Country_of_Class_Stays,
   /// What a delivered row is changed in makes it the user's / it stays a delivered row.
   Changed_Row_Becomes_The_Users,
   /// A double is looked for under English and in its own case, and not among wineries / in each

@@ -192,6 +192,7 @@ void Wine_Form::Wait_for_Pick() {
 
 void Wine_Form::Form_Activate() {
   Command_Form::Form_Activate();
+  Have_Own_Records_Back();
   const bool winery_or_label_is_new = Tag() == "1";
   if (winery_or_label_is_new) Update_for_New_Winery();
   Set_Tag("0");
@@ -199,6 +200,17 @@ void Wine_Form::Form_Activate() {
   Should_Multi_Command_Be_Enabled();
   if (Pairings_Add_Command.Tag() == "1") Take_Over_Pairings();
   if (Command_Is("CheeseParingsCellar")) Show_Requested_Wine();
+}
+
+// Once: what is chosen here from then on is as new as what stands in the records.
+void Wine_Form::Have_Own_Records_Back() {
+  if (!own_records_) return;
+  Labels = own_records_->labels;
+  Classification = own_records_->classification;
+  Varieties = own_records_->varieties;
+  Wineries = own_records_->wineries;
+  Regions = own_records_->regions;
+  own_records_.reset();
 }
 
 void Wine_Form::Update_for_New_Winery() {
@@ -259,6 +271,7 @@ void Wine_Form::Pairings_Add_Command_Click() {
 
 void Wine_Form::Winery_Combo_DblClick() {
   if (!Screen("Wineries_Form").Exists()) return;
+  own_records_.emplace();
   Current_Command = "WineryList";
   Screen("Wineries_Form").Open();
 }

@@ -17,6 +17,7 @@
 #include <optional>
 #include <vector>
 
+#include "core/tables/Catalogue.h"
 #include "links/Used_Counters.h"
 #include "platform/forms/Forms.h"
 #include "platform/run_time/Values.h"
@@ -170,6 +171,18 @@ class Wine_Form : public Cellar_Wine_Screen {
   static Uses Uses_Counted();
   void Remove_Rows_of_Wine();
 
+  /// The memory records that the counters of a wine go by, while the screen of wineries is looked
+  /// at.
+  struct Own_Records {
+    Labels_Record labels = Labels;
+    Classification_Record classification = ::Classification;
+    Varieties_Record varieties = Varieties;
+    Wineries_Record wineries = Wineries;
+    Regions_Record regions = Regions;
+  };
+  void Have_Own_Records_Back();
+
+  std::optional<Own_Records> own_records_;
   Entry entry_{[this] { return Entered(); },
                {Fault::Entered_Wine_Goes_Without_A_Word, Screen_Words::Leave_Entered_Wine,
                 "WINE NOT STORED"}};

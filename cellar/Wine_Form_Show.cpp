@@ -9,17 +9,10 @@
 
 namespace {
 
-// Where an entry at or after `first` equals `wanted`; the number of entries where none does.
-int Place_Of(const Forms::Combo_Box& combo, const Text& wanted, int first) {
-  int place = first;
-  while (place < combo.ListCount() && combo.List(place) != wanted) ++place;
-  return place;
-}
-
 // Chooses the entry. What the list does not hold leaves the choice as it is, or becomes its last
 // entry.
 void Choose(Forms::Combo_Box& combo, const Text& wanted, int first) {
-  const int place = Place_Of(combo, wanted, first);
+  const int place = Place_of_Text(combo, wanted, first);
   if (place == combo.ListCount() && Is_Kept(Fault::Unlisted_Year_Is_Lost)) return;
   if (place == combo.ListCount()) combo.AddItem(wanted);
   combo.Set_ListIndex(place);
@@ -32,7 +25,7 @@ void Choose_Year(Forms::Combo_Box& combo, Integer year) {
     Choose(combo, To_Text(year), 1);
     return;
   }
-  int place = Place_Of(combo, To_Text(year), 0);
+  int place = Place_of_Text(combo, To_Text(year), 0);
   if (place == combo.ListCount()) {
     while (place > 0 && To_Long(combo.List(place - 1)) > year) --place;
     combo.AddItem(To_Text(year), place);
@@ -47,7 +40,7 @@ void Choose_Year(Forms::Combo_Box& combo, Integer year) {
 void Choose_Name(Keyed_Combo_Box& combo, const Text& name, const char* none) {
   const bool mended = !Is_Kept(Fault::Gone_Name_Ends_The_Run);
   const bool is_none = name == none || (mended && name == "x");
-  const int place = is_none ? 1 : Place_Of(combo, name, 2);
+  const int place = is_none ? 1 : Place_of_Text(combo, name, 2);
   if (mended && place == combo.ListCount()) combo.Add(name, "-1");
   combo.Set_ListIndex(place);
 }

@@ -1,5 +1,11 @@
 #include "screens/Keyed.h"
 
+int Place_of_Text(const Forms::Item_List& list, std::string_view text, int from) {
+  int place = from;
+  while (place < list.ListCount() && list.List(place) != text) ++place;
+  return place;
+}
+
 void Keyed_List::Add(std::string_view text, std::string_view key) {
   Shown().AddItem(text);
   Keys().AddItem(key);

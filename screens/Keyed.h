@@ -10,6 +10,9 @@
 #include "platform/record_store/Record_Store.h"
 #include "platform/run_time/Values.h"
 
+/// Where an entry at or after `from` reads so; the number of entries where none does.
+int Place_of_Text(const Forms::Item_List& list, std::string_view text, int from = 0);
+
 /// What every such list offers. Keys travel as text.
 class Keyed_List {
  public:

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 
 #include "platform/forms/Form.h"
+#include "platform/forms/Form_Data.h"
 #include "platform/forms/Handlers.h"
 #include "platform/forms/Qt_Text.h"
 
@@ -56,6 +57,7 @@ void Label::Set_Buddy(Placed_Control& field) {
   static_cast<QLabel*>(Widget())->setBuddy(field.Widget());
   field.Set_Label_Caption(Caption());
   Show_Caption();
+  if (Owner().Visible()) Assign_Mnemonics(Owner());
 }
 
 void Label::Show_Mnemonic(const std::string& text) {

@@ -103,7 +103,7 @@ Long Cellar_Program::Put_Text(const char* in_english, const char* in_spanish) co
 }
 
 void Cellar_Program::Choose_Winery(int winery) const {
-  Choose("Country_Combo", Sample(winery).country_name);
+  Choose("Wine_Form/Country_Combo", Sample(winery).country_name);
   Choose("Winery_Combo", Sample(winery).name);
 }
 

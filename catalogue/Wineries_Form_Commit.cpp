@@ -1,0 +1,95 @@
+// The writes: SAVE, MODIFY, and the deletion by a pick.
+#include "catalogue/Wineries_Form.h"
+#include "core/Data_Text.h"
+#include "core/Ownership.h"
+#include "core/tables/Catalogue.h"
+#include "core/tables/Cellar_DB_Processes.h"
+#include "core/tables/Recipes_Wines_Common_DB.h"
+#include "links/Referred_Rows.h"
+#include "platform/run_time/Conversions.h"
+
+using Forms::Screen;
+
+namespace {
+
+constexpr const char* refused = "WINERY ADD ERROR";
+
+}  // namespace
+
+void Wineries_Form::General_Command_Click() {
+  if (!Commits() || Is_Refused_Name(Name_Text, refused)) return;
+  if (Adds()) {
+    Save_Winery();
+  } else {
+    Modify_Winery();
+  }
+}
+
+// The wine screen finds the winery in the memory record.
+void Wineries_Form::Save_Winery() {
+  if (Is_Double()) return;
+  Own_Row.Store([this] {
+    Form_to_Memory();
+    Wineries.SERIAL_NUMBER = Serial_of_Installation(Trim(Wineries.Winery_ID));
+  });
+  Forms::Message_Box("Winery was created.", "WINERY CREATED");
+  if (Command_Is("WineAdd")) Screen("Wine_Form").Set_Tag("1");
+  if (Command_Is("WineOtherAdd")) Screen("Mobile_Wine_Form").Set_Tag("1");
+  Go_Back();
+}
+
+void Wineries_Form::Modify_Winery() {
+  const Kept_Winery kept;
+  Own_Row.Read();
+  if (Name_Text.Text() != Wineries.Winery_Name && Is_Double()) return;
+  Own_Row.Store([this] { Form_to_Memory(); });
+  Forms::Message_Box("Winery was ModIfied.", "WINERY MODIFIED");
+  Go_Back();
+}
+
+void Wineries_Form::Delete_Winery() {
+  constexpr Deletion deletion{
+      .in_use = "You have in your Cellar one or more wines from this winery.",
+      .remove_first =
+          "You have to remove those wines from your Cellar before you can delete this winery.",
+      .in_use_title = "DELETE WINERY ERROR",
+      .question = "Are you sure you want to DELETE this winery?",
+      .question_title = "DELETE WINERY WARNING",
+      .is_referred_to = Is_Winery_Referred_To,
+      .remove_rows = Remove_Rows_of_Winery};
+  const Kept_Winery kept;
+  Own_Row.Read();
+  if (Is_In_Use(deletion, Wineries.Used)) return;
+  Delete_If_Wanted(deletion);
+  Go_Back();
+}
+
+// As designed wineries may repeat.
+bool Wineries_Form::Is_Double() {
+  if (Is_Kept(Fault::Double_Name_Goes_By_Case)) return false;
+  bool found = false;
+  Open_Table(Wineries_Recordset, "Wineries");
+  for (const auto& row = Wineries_Recordset; !row.Eof() && !found; Wineries_Recordset.MoveNext()) {
+    found = row.Fields("Winery_ID").As_Text() != Own_Row.Key() &&
+            row.Fields("Country").As_Text() == Country_Combo.Key() &&
+            row.Fields("Region_ID").As_Text() == Region_Combo.Key() &&
+            Same_Name(row.Fields("Winery_Name").As_Text(), Name_Text.Text());
+  }
+  Close_Table(Wineries_Recordset);
+  if (!found) return false;
+  Forms::Message_Box("This Winery ALLREADY exists.", refused, Forms::Sign::Warning);
+  Name_Text.SetFocus();
+  return true;
+}
+
+void Wineries_Form::Form_to_Memory() {
+  Wineries.Winery_Name = Name_Text.Text();
+  for (const auto& [box, member] : Optional_Texts()) Wineries.*member = Entered_Or_X(box.Text());
+  const bool listed = State_Combo.ListCount() > 0;
+  Wineries.State = Entered_Or_X(listed ? State_Combo.Text() : Province_Text.Text());
+  Wineries.Country = Country_Combo.Key();
+  Wineries.Region = Region_Combo.Text();
+  Wineries.Region_ID = To_Long(Region_Combo.Key());
+  Wineries.History = To_Text(Store_Data_Text(History_Key(), History_Text.Text(),
+                                             Adds() ? Text_Of::New_Row : Text_Of::Stored_Row));
+}

@@ -3,6 +3,7 @@
 #include "core/Globals.h"
 #include "core/Ownership.h"
 #include "core/tables/Catalogue.h"
+#include "links/Referred_Rows.h"
 #include "platform/run_time/Conversions.h"
 
 using Forms::Screen;
@@ -57,7 +58,10 @@ void Label_Form::Add_Label() {
 // The region stays, and so do the fields that no screen shows.
 void Label_Form::Modify_Label() {
   if (Is_Refused_Name(Name_Text, error_title) || Is_Double()) return;
-  Own_Row.Store([this] { Labels.Label_Name = Name_Text.Text(); });
+  Own_Row.Store([this] {
+    Rename_Label_in_Wines(Name_Text.Text());
+    Labels.Label_Name = Name_Text.Text();
+  });
   Selected_Label_Text = Name_Text.Text();
   Region_Or_Label_Changed = true;
   Forms::Message_Box("Label was modified successfully.", "SUCCESSFULL LABEL MODIFICATION");

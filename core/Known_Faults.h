@@ -135,6 +135,11 @@ enum class Fault {
   Deletion_Goes_By_Counter,
   /// The texts, grapes and photos of a deleted row stay / they go with it.
   Rows_Of_Deleted_Row_Stay,
+  /// A label's wines name it by its text, and by the old one once it is renamed / they follow it.
+  Renamed_Label_Loses_Its_Wines,
+  /// A winery that is moved to another region or country leaves its wines counted in the old one /
+  /// they are counted where it is.
+  Moved_Winery_Leaves_Counters,
   /// The grapes of a region are counted again with each PROCEED, once by the picker and twice by
   /// the screen, and never less; the picker only adds to the way back / each grape is counted once,
   /// one taken out is counted out, and both tables hold the same.

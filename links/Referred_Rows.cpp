@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "core/Data_Text.h"
+#include "core/Known_Faults.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
@@ -21,13 +22,17 @@ bool Any_Names(const char* table, const char* field, const Text& key) {
   return Any(Text(table) + " WHERE " + field + "=" + key);
 }
 
-/// Whether a wine of the cellars names the row of `table` that stands under `key`, and its winery
+/// The wines of the cellars that name the row of `table` that stands under `key`, and whose winery
 /// stands in `place`, as that row does.
-bool Any_Wine_Names(const char* table, const char* key_field, Long key, const char* wine_field,
-                    const char* name, const char* place) {
-  return Any("Wines JOIN Wineries ON Wineries.Winery_ID=Wines.Winery_ID JOIN " + Text(table) +
-             " named ON named." + place + "=Wineries." + place + " AND named." + name + "=Wines." +
-             wine_field + " WHERE named." + key_field + "=" + To_Text(key));
+Text Wines_That_Name(const char* table, const char* key_field, Long key, const char* wine_field,
+                     const char* name, const char* place) {
+  return "Wines JOIN Wineries ON Wineries.Winery_ID=Wines.Winery_ID JOIN " + Text(table) +
+         " named ON named." + place + "=Wineries." + place + " AND named." + name + "=Wines." +
+         wine_field + " WHERE named." + key_field + "=" + To_Text(key);
+}
+
+Text Wines_of_Label() {
+  return Wines_That_Name("Labels", "Label_ID", Labels.Label_ID, "Label", "Label_Name", "Region_ID");
 }
 
 // The rows of another owner that has this key are told by `Photo_of`.
@@ -56,17 +61,30 @@ bool Is_Winery_Referred_To() {
 
 bool Is_Label_Referred_To() {
   const Text key = To_Text(Labels.Label_ID);
-  return Any_Wine_Names("Labels", "Label_ID", Labels.Label_ID, "Label", "Label_Name",
-                        "Region_ID") ||
-         Any_Names("Mobile_Wines", "Mobile_Wine_Label_ID", key) ||
+  return Any(Wines_of_Label()) || Any_Names("Mobile_Wines", "Mobile_Wine_Label_ID", key) ||
          Any_Names("Labels_per_Winery", "Label_ID", key);
 }
 
 bool Is_Classification_Referred_To() {
   const Long key = Classification.Classification_ID;
-  return Any_Wine_Names("Classification", "Classification_ID", key, "Clasification", "Description",
-                        "Country") ||
+  return Any(Wines_That_Name("Classification", "Classification_ID", key, "Clasification",
+                             "Description", "Country")) ||
          Any_Names("Labels", "Appellation_ID", To_Text(key));
+}
+
+void Rename_Label_in_Wines(const Text& name) {
+  if (Is_Kept(Fault::Renamed_Label_Loses_Its_Wines)) return;
+  Record_Store::Recordset named;
+  Open_Query(named, "SELECT Wines.Wine_ID FROM " + Wines_of_Label());
+  Open_By_Key(Wines_Table);
+  for (; !named.Eof(); named.MoveNext()) {
+    Wines_Recordset.Seek("=", named.Fields(0).As_Long());
+    if (Wines_Recordset.NoMatch()) continue;
+    Wines_Recordset.Edit();
+    Wines_Recordset.Fields("Label") = name;
+    Wines_Recordset.Update();
+  }
+  Close_Table(Wines_Recordset);
 }
 
 void Remove_Rows_of_Region() {

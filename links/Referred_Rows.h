@@ -5,6 +5,8 @@
 // Failures: 3075 where a record holds no key.
 #pragma once
 
+#include "platform/run_time/Values.h"
+
 /// Labels, wineries and sub-regions.
 bool Is_Region_Referred_To();
 /// Wines of the cellars and of the general list.
@@ -14,6 +16,9 @@ bool Is_Winery_Referred_To();
 bool Is_Label_Referred_To();
 /// Wines of the cellars, which name it and have a winery of its country; labels of the class.
 bool Is_Classification_Referred_To();
+
+/// Mended alone, the wines of the cellars that name the label in the memory record take this name.
+void Rename_Label_in_Wines(const Text& name);
 
 /// Its texts, its grapes (each counted out) and its rows of photos. Changes `Decoded_Items` and the
 /// memory record of `Varieties`.

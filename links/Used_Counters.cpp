@@ -94,6 +94,19 @@ Uses Uses_of_Wine() {
   return uses;
 }
 
+Uses Uses_of_Wines_of(Long winery_id) {
+  Record_Store::Recordset keys;
+  Open_Query(keys, "SELECT Wine_ID FROM Wines WHERE Winery_ID=" + To_Text(winery_id));
+  const Wines_Record before = Wines;
+  Uses all;
+  for (; !keys.Eof(); keys.MoveNext()) {
+    if (!Find_By_Key(Wines_Table, keys.Fields(0).As_Long())) continue;
+    std::ranges::copy(Uses_of_Wine(), std::back_inserter(all));
+  }
+  Wines = before;
+  return all;
+}
+
 void Count_Difference(Uses before, const Uses& after) {
   for (const Use& use : after) {
     const auto same = std::ranges::find(before, use);

@@ -2,6 +2,7 @@
 #include "links/Referred_Rows.h"
 
 #include "tests/links/Linked_Rows.h"
+#include "tests/support/Faults_Mended.h"
 
 namespace {
 
@@ -56,6 +57,22 @@ TEST_F(Referred_Rows, Each_way_of_referring_to_a_row_alone_counts_and_none_does_
     rows.MoveLast();
     rows.Delete();
   }
+}
+
+TEST_F(Referred_Rows, Wines_follow_the_name_of_their_label_where_mended) {
+  const Long here = Add("Wineries", {{"Region_ID", 30009}});
+  const Long there = Add("Wineries", {{"Region_ID", 30008}});
+  Labels.Label_ID = Add("Labels", {{"Label_Name", "Old's"}, {"Region_ID", 30009}});
+  for (const Long winery : {here, there, here}) {
+    Add("Wines", {{"Winery_ID", winery}, {"Label", "Old's"}});
+  }
+  Add("Wines", {{"Winery_ID", here}, {"Label", "Other"}});
+  const auto labels = [] { return Rows("SELECT Label FROM Wines ORDER BY Wine_ID DESC LIMIT 4"); };
+  Rename_Label_in_Wines("New");
+  EXPECT_THAT(labels(), ElementsAre("Other", "Old's", "Old's", "Old's"));
+  const Faults_Mended faults;
+  Rename_Label_in_Wines("New");
+  EXPECT_THAT(labels(), ElementsAre("Other", "New", "Old's", "New"));
 }
 
 TEST_F(Referred_Rows, Only_what_is_the_rows_own_goes_with_it) {

@@ -106,16 +106,20 @@ void Add_Labels_of_Region(Row_List& list, Long region_id,
   Close_Table(Labels_Recordset);
 }
 
-void Load_Grapes_of_Region(Row_List& list, Long region_id,
-                           const std::function<void()>& sub_region) {
-  constexpr int color = 1;
+void Load_Own_Grapes_of_Region(Row_List& list) {
   list.Clear();
-  Read_Row(Regions_Table, region_id);
   Load_Varieties_of_Region();
   for (int item = 1; item <= Decoded_Count; ++item) {
     const Decoded_Item& grape = Decoded_Items[item];
     list.Add_Row(To_Text(grape.ID), {grape.Name, Color_of(grape.Color)});
   }
+}
+
+void Load_Grapes_of_Region(Row_List& list, Long region_id,
+                           const std::function<void()>& sub_region) {
+  constexpr int color = 1;
+  Read_Row(Regions_Table, region_id);
+  Load_Own_Grapes_of_Region(list);
   Regions_Recordset.Index("Sub_Region_Of");
   Each_Row_Of(Regions_Recordset, "Sub_Region_Of", region_id, [&] {
     Read_Regions_Record();

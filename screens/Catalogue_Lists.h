@@ -28,6 +28,8 @@ void Load_Varieties(Row_List& list);
 /// each.
 void Add_Labels_of_Region(Row_List& list, Long region_id,
                           const std::function<void(Forms::List_Item row)>& action = {});
+/// The list anew: the grapes of the region in the memory record, with their keys.
+void Load_Own_Grapes_of_Region(Row_List& list);
 /// The list anew: the grapes of the region, with their keys, then those of its sub-regions that the
 /// list does not name yet, without. `Regions` stands open in the order of its keys, before and
 /// after; the memory record holds the region in the end. `sub_region` is called for each of these,

@@ -47,11 +47,11 @@ bool Catalogue_Screen::Is_In_Use(const Deletion& deletion, Integer used) {
   return refused;
 }
 
-bool Catalogue_Screen::Delete_If_Wanted(const Deletion& deletion) {
+bool Catalogue_Screen::Delete_If_Wanted(const Deletion& deletion, Catalogue_Row& row) {
   if (!Forms::Ask_Yes_No(deletion.question, deletion.question_title, Forms::Answer::No)) {
     return false;
   }
-  Own_Row.Delete();
+  row.Delete();
   const bool rows_go = !Is_Kept(Fault::Rows_Of_Deleted_Row_Stay);
   if (rows_go && deletion.remove_rows != nullptr) deletion.remove_rows();
   return true;

@@ -59,8 +59,9 @@ class Catalogue_Screen : public Command_Form {
   };
   /// Whether the row in the memory record, with this counter, may not be deleted; tells why.
   static bool Is_In_Use(const Deletion& deletion, Integer used);
-  /// Asks, and deletes `Own_Row` on Yes. Whether it was deleted.
-  bool Delete_If_Wanted(const Deletion& deletion);
+  /// Asks, and deletes the row, `Own_Row` where none is named, on Yes. Whether it was deleted.
+  static bool Delete_If_Wanted(const Deletion& deletion, Catalogue_Row& row);
+  bool Delete_If_Wanted(const Deletion& deletion) { return Delete_If_Wanted(deletion, Own_Row); }
 
   // ---- what was entered ----
 

@@ -42,6 +42,11 @@ void List_Item::Set_ForeColor(Color color) {
   view_->Changed(false);
 }
 
+void List_Item::Set_Note(std::string_view note) {
+  view_->rows_->Marks(row_).note = note;
+  view_->Changed(false);
+}
+
 bool List_Item::Selected() const { return view_->show_->selected.contains(row_); }
 
 void List_Item::Set_Selected(bool selected) { view_->Select(row_, selected); }

@@ -16,6 +16,7 @@ namespace Forms {
 struct Row_Marks {
   bool bold = false;
   Color fore_color = Window_Color;
+  std::string note;  ///< for assistive programs
 };
 
 /// A row is known by its number, counted from 0 in the order of adding, and keeps it: a removed

@@ -39,6 +39,9 @@ class List_Item {
   Color ForeColor() const;
   void Set_ForeColor(Color color);
 
+  /// What assistive programs tell of the row beside its texts, in words: what its look says.
+  void Set_Note(std::string_view note);
+
   bool Selected() const;
   /// From code: raises nothing. In a list of single selection any other row is deselected.
   void Set_Selected(bool selected);

@@ -43,6 +43,7 @@ QVariant Row_Model::data(const QModelIndex& index, int role) const {
   if (role == Qt::TextAlignmentRole) return Alignment(Column_Of(index.column()));
   const int row = rows_.Row_At(index.row());
   if (role == Qt::DisplayRole) return To_Qt(rows_.Cell(row, index.column()));
+  if (role == Qt::AccessibleDescriptionRole) return To_Qt(rows_.Marks(row).note);
   if (role == Qt::FontRole && rows_.Marks(row).bold) {
     QFont font;
     font.setBold(true);

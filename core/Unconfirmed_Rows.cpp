@@ -7,11 +7,15 @@
 
 namespace {
 
-// Such a row holds what Init gives, and nothing else.
+// Such a row holds what Init gives, and nothing else but, of a region, its place in the groups.
 template <class Record>
 bool Is_As_Begun(const Tables::Table<Record>& table, const Record& row) {
   Record begun;
   table.Init(begun);
+  if constexpr (requires { begun.Region_SubGr; }) {
+    begun.Region_Group = row.Region_Group;
+    begun.Region_SubGr = row.Region_SubGr;
+  }
   return std::ranges::all_of(table.Fields(), [&](const Tables::Field<Record>& field) {
     return !field.Is_Written() || field.Same(row, begun);
   });

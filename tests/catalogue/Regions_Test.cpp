@@ -19,6 +19,13 @@ class Regions_Screen : public Catalogue_Places_Program {
   Text Region(const Text& name, const Text& fields) const {
     return One("SELECT " + fields + " FROM Regions WHERE Region_Name = '" + name + "'");
   }
+  Text Put_General_Wine(Long label_id) const {
+    Mobile_Wines_Record wine;
+    Mobile_Wines_Description.Init(wine);
+    wine.Mobile_Wine_Label_ID = label_id;
+    Put(Mobile_Wines_Description, wine);
+    return One("SELECT MAX(Mobile_Wine_ID) FROM Mobile_Wines");
+  }
   /// Stands for the winery that waits behind, with its countries.
   void Put_Winery(const char* country) {
     Stand_In(wineries, {"Country_Combo", "Country_Short_Combo"});
@@ -109,8 +116,8 @@ TEST_F(Regions_Screen, A_region_on_the_way_to_a_winery) {
       const bool adds = mended || Text(command).ends_with("yAdd") || Text(command) == "WineAdd";
       const int rows = Rows_in("Regions");
       const auto open = [&] {
-        Put_Winery("ITA");
         Start();
+        Put_Winery("ITA");
         Current_Country_Short = "ITA";
         Open_Under(form, command);
         EXPECT_EQ(Rows_in("Regions"), adds ? rows + 1 : rows);
@@ -172,7 +179,7 @@ TEST_F(Regions_Screen, Double_names_names_of_none_and_delivered_rows) {
   for (const bool mended : {true, false}) {
     const Faults_Mended faults(mended);
     Open("Region_Mod_Other");
-    Click_Region("Own");
+    Click_Region(mended ? "Own" : "OWN");
     EXPECT_FALSE(Is_Seen("System_Region_Label"));
     Type_Into("Name_Text", "Delivered");
     EXPECT_THAT(Commit(), ElementsAre("REGION ADD ERROR: This Region ALREADY exists."));
@@ -264,7 +271,7 @@ TEST_F(Regions_Screen, Labels_are_reached_changed_and_deleted_from_here) {
   const Long mine = put("Mine", "CUS", 0);
   put("Used", "SYS", 1);
   put("Theirs", "SYS", 0);
-  Put("Mobile_Wines", {{"Mobile_Wine_Label_ID", mine}});
+  Put_General_Wine(mine);
   Stand_In("Label_Form");
   const auto open = [&](const char* entry) {
     Open(entry);
@@ -296,7 +303,7 @@ TEST_F(Regions_Screen, A_label_leads_to_its_general_wine_or_to_its_own_screen) {
   const Long own = Put(Regions_Description, Made_Up_Region("Own"));
   const Long leads = Put(Labels_Description, Made_Up_Label("Leads", own));
   Put(Labels_Description, Made_Up_Label("Nowhere", own));
-  const Long wine = Put("Mobile_Wines", {{"Mobile_Wine_Label_ID", leads}});
+  const Text wine = Put_General_Wine(leads);
   Open("Labels_View");
   Click_Region("Own");
   const QAbstractItemModel& rows = *View_Of(labels).model();
@@ -304,7 +311,7 @@ TEST_F(Regions_Screen, A_label_leads_to_its_general_wine_or_to_its_own_screen) {
   EXPECT_EQ(rows.index(1, 0).data(Qt::AccessibleDescriptionRole), "has no general wine");
   for (const char* label : {"Leads", "Nowhere"}) {
     Click_Line(labels, label);
-    EXPECT_EQ(Requested_Wine_Text, To_Text(wine));
+    EXPECT_EQ(Requested_Wine_Text, wine);
   }
   Stand_In("Label_Form");
   Open("Labels_Mod");

@@ -88,7 +88,7 @@ bool Regions_Form::Is_Refused_as_Double() {
     Forms::List_Item row = Regions_ListView.ListItems(place);
     if (row.SubItems(1) != country || !Same_Name(row.Text(), name)) continue;
     if (!own_too && Regions_ListView.Key_of(row) == Own_Row.Key()) continue;
-    Message_Box("This Region ALREADY exists.", refused, Forms::Sign::Warning);
+    Message_Box("This Region ALLREADY exists.", refused, Forms::Sign::Warning);
     Regions_ListView.Set_SelectedItem(row);
     row.EnsureVisible();
     Name_Text.SetFocus();

@@ -182,7 +182,7 @@ TEST_F(Regions_Screen, Double_names_names_of_none_and_delivered_rows) {
     Click_Region(mended ? "Own" : "OWN");
     EXPECT_FALSE(Is_Seen("System_Region_Label"));
     Type_Into("Name_Text", "Delivered");
-    EXPECT_THAT(Commit(), ElementsAre("REGION ADD ERROR: This Region ALREADY exists."));
+    EXPECT_THAT(Commit(), ElementsAre("REGION ADD ERROR: This Region ALLREADY exists."));
     EXPECT_EQ(Focused(), "Name_Text");
     Type_Into("Name_Text", mended ? "OWN" : "Own");
     Commit();

@@ -141,13 +141,17 @@ void Label_Form::Region_Combo_Click() {
   General_Command.Set_Enabled(Has_Name());
 }
 
-// As designed an emptied name has the region chosen again, not the name's own box.
+// An emptied name has the region chosen again, not a name entered: as designed even where the
+// region is locked, and nothing opens the button again.
 void Label_Form::Name_Text_Change() {
   const bool named = Has_Name();
+  const bool region_answers =
+      !Region_Combo.Locked() || Is_Kept(Fault::Emptied_Name_Leaves_Modify_Closed);
   if (named) {
     Name_Text.Set_BackColor(Window_Color);
   } else {
-    Region_Combo.Set_BackColor(Required_Color);
+    (region_answers ? static_cast<Forms::Placed_Control&>(Region_Combo) : Name_Text)
+        .Set_BackColor(Required_Color);
   }
   Name_Text.Set_Tag(named ? "1" : "0");
   General_Command.Set_Enabled(Commits() && named && Country_Combo.BackColor() != Required_Color &&

@@ -111,6 +111,9 @@ enum class Fault {
   /// A label opened from a wine: SAVE is 424; EXIT deletes the region with the highest key, then
   /// 424 / the label is stored and chosen for the wine; EXIT goes back to the wine.
   Label_For_Wine_Ends_The_Run,
+  /// Once the name of a label that is renamed was empty, MODIFY stays closed / the next name opens
+  /// it.
+  Emptied_Name_Leaves_Modify_Closed,
   /// EXIT of a region opened from a winery deletes its own row, then 424 / goes back to the winery.
   Region_For_Winery_Ends_The_Run,
   /// "New Region" of a winery that is modified, or made for a general wine, opens a screen that

@@ -76,11 +76,9 @@ class Regions_Form : public Catalogue_Screen {
   Catalogue_Row Own_Label{Labels_Table};
 
   Forms::Label Label_Message_Label{*this, "Label_Message_Label",
-                                   "Select Region first then select the Label you want",
-                                   Forms::Label::Kind::Paragraph};
+                                   "Select Region first then select the Label you want"};
   Forms::Label System_Message_Label{*this, "System_Message_Label",
-                                    "You CANNOT  Modify or Delete System provided Regions",
-                                    Forms::Label::Kind::Paragraph};
+                                    "You CANNOT  Modify or Delete System provided Regions"};
   Row_List Regions_ListView{*this,
                             "Regions_ListView",
                             {{"Wine Region Name", 20, false, false, 3},

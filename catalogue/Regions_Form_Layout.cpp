@@ -16,7 +16,7 @@ void Regions_Form::Lay_Out() {
   const Place fields =
       Fields({{Name_Label, Name_Text},
               {Country_Label, country},
-              {Descriptio_Label, Place(Description_Text).Wide(text_width).High(5, 2).Grow()},
+              {Descriptio_Label, Place(Description_Text).Wide(text_width).High(5, 2).Grow(2)},
               {History_Label, Place(History_Text).High(5, 2).Grow()}});
   const Place links =
       Row({Column({Labels_Label, Place(Labels_ListView).Wide(link_width).High(8, 4).Grow()}).Grow(),

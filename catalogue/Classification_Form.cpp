@@ -1,9 +1,9 @@
 #include "catalogue/Classification_Form.h"
 
+#include "catalogue/Deletions.h"
 #include "core/Data_Text.h"
 #include "core/Globals.h"
 #include "core/tables/Catalogue.h"
-#include "links/Referred_Rows.h"
 #include "platform/run_time/Conversions.h"
 #include "screens/Catalogue_Lists.h"
 #include "screens/Field_States.h"
@@ -133,15 +133,7 @@ void Classification_Form::Classification_ListView_ItemClick(Forms::List_Item ite
 }
 
 void Classification_Form::Delete_Classification() {
-  static constexpr Deletion deletion{
-      "You have in your Cellar one or more wines using this Classification.",
-      "You have to remove those wines from your Cellar before you can delete this Classification.",
-      "DELETE CLASSIFICATION ERROR",
-      "Are you sure you want to DELETE this Classification?",
-      "DELETE CLASSIFICATION WARNING",
-      Is_Classification_Referred_To,
-      nullptr};
-  if (Is_In_Use(deletion, Classification.Used)) return;
-  if (Delete_If_Wanted(deletion)) Load_List();
+  if (Is_In_Use(Deletion_of_Classification, Classification.Used)) return;
+  if (Delete_If_Wanted(Deletion_of_Classification)) Load_List();
   Unload();
 }

@@ -58,8 +58,15 @@ void List_Screen::Rows_ListView_ItemClick(Forms::List_Item item) {
   Own_Row.Pick(Rows_ListView.Key_of(item));
   item.Set_Selected(true);
   if (description_.country != nullptr) Current_Country_Short = *description_.country;
+  if (description_.deletion != nullptr && Command_Is(description_.deletes_under)) Delete_Row();
   const auto next = description_.screens.find(Command());
   if (next == description_.screens.end()) return;
   Screen(next->second).Show();
   Hide();
+}
+
+void List_Screen::Delete_Row() {
+  if (Is_In_Use(*description_.deletion, *description_.used)) return;
+  if (Delete_If_Wanted(*description_.deletion)) description_.load(Rows_ListView);
+  Leave();
 }

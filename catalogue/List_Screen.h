@@ -21,6 +21,10 @@ struct List_Description {
   std::function<void(Row_List& list)> load;
   std::map<Text, const char*> captions;  ///< under commands that have one of their own
   std::map<Text, const char*> screens;   ///< to which a click leads, by command
+  /// What a click deletes, under which command; the counter of the row in the memory record.
+  const char* deletes_under = "";
+  const Catalogue_Screen::Deletion* deletion = nullptr;
+  const Integer* used = nullptr;
   /// The country of the row in the memory record, where the next screen is to know it.
   const Text* country = nullptr;
   /// It lists what belongs to the region in the memory record, under the commands of `screens`
@@ -49,6 +53,7 @@ class List_Screen : public Catalogue_Screen {
   void Lay_Out();
   void Show_Region();
   void Rows_ListView_ItemClick(Forms::List_Item item);
+  void Delete_Row();
 
   List_Description description_;
   bool was_seen_ = false;

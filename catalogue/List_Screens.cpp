@@ -1,5 +1,6 @@
 #include "catalogue/List_Screens.h"
 
+#include "catalogue/Deletions.h"
 #include "catalogue/List_Screen.h"
 #include "core/tables/Geography_Tables.h"
 #include "platform/forms/Screens.h"
@@ -23,6 +24,9 @@ List_Description List_of_Regions() {
                       {"LabelAdd", "Label_Form"},
                       {"LabelView", "Label_List_Form"},
                       {"LabelMod", "Label_List_Form"}},
+          .deletes_under = "RegionsDel",
+          .deletion = &Deletion_of_Region,
+          .used = &Regions.Used,
           .country = &Regions.Country};
 }
 
@@ -56,6 +60,9 @@ List_Description List_of_Classifications() {
           .captions = {},
           .screens = {{"ClassificationMod", "Classification_Form"},
                       {"ClassificationView", "Classification_Form"}},
+          .deletes_under = "ClassificationDel",
+          .deletion = &Deletion_of_Classification,
+          .used = &Classification.Used,
           .country = &Classification.Country};
 }
 
@@ -73,7 +80,10 @@ List_Description List_of_Wineries() {
           .empty_text = "No wineries yet.",
           .load = Load_Wineries,
           .captions = {},
-          .screens = {{"WineryMod", "Wineries_Form"}, {"WineryView", "Wineries_Form"}}};
+          .screens = {{"WineryMod", "Wineries_Form"}, {"WineryView", "Wineries_Form"}},
+          .deletes_under = "WineryDel",
+          .deletion = &Deletion_of_Winery,
+          .used = &Wineries.Used};
 }
 
 template <class Record>

@@ -1,9 +1,9 @@
 // A region or a label is picked.
+#include "catalogue/Deletions.h"
 #include "catalogue/Regions_Form.h"
 #include "core/Globals.h"
 #include "core/Ownership.h"
 #include "core/tables/Catalogue.h"
-#include "links/Referred_Rows.h"
 #include "platform/run_time/Conversions.h"
 #include "screens/Catalogue_Lists.h"
 #include "screens/Field_States.h"
@@ -84,18 +84,9 @@ void Regions_Form::Show_Whose_Region() {
   delivered ? Lock(Name_Text) : Open(Name_Text);
 }
 
-// The message has the title of another screen, as designed.
 void Regions_Form::Delete_Region() {
-  static constexpr Deletion deletion{
-      "You have in your Cellar one or more wines from this Region.",
-      "You have to remove those wines from your Cellar before you can delete this Region.",
-      "DELETE WINERY ERROR",
-      "Are you sure you want to DELETE this Region?",
-      "DELETE REGION WARNING",
-      Is_Region_Referred_To,
-      Remove_Rows_of_Region};
-  if (Is_In_Use(deletion, Regions.Used)) return;
-  if (Delete_If_Wanted(deletion)) {
+  if (Is_In_Use(Deletion_of_Region, Regions.Used)) return;
+  if (Delete_If_Wanted(Deletion_of_Region)) {
     Load_Regions(Regions_ListView);
     Region_Or_Label_Changed = true;
   }
@@ -132,19 +123,11 @@ void Regions_Form::Open_Label() {
 }
 
 void Regions_Form::Delete_Label() {
-  static constexpr Deletion deletion{
-      "You have in your Cellar one or more wines with this Label.",
-      "You have to remove those wines from your Cellar before you can delete this Label.",
-      "DELETE LABEL ERROR",
-      "Are you sure you want to DELETE this Label?",
-      "DELETE LABEL WARNING",
-      Is_Label_Referred_To,
-      Remove_Rows_of_Label};
-  if (Is_In_Use(deletion, Labels.Used)) return;
+  if (Is_In_Use(Deletion_of_Label, Labels.Used)) return;
   if (Is_System_Row(Labels.SERIAL_NUMBER)) {
     Message_Box("This is a System Label, you CANNOT DELETE.", "ILLEGAL LABEL DELETE",
                 Forms::Sign::Warning);
-  } else if (Delete_If_Wanted(deletion, Own_Label)) {
+  } else if (Delete_If_Wanted(Deletion_of_Label, Own_Label)) {
     Region_Or_Label_Changed = true;
     Load_Labels(To_Long(Own_Row.Key()));
   }

@@ -1,11 +1,11 @@
 // The writes: SAVE, MODIFY, and the deletion by a pick.
+#include "catalogue/Deletions.h"
 #include "catalogue/Wineries_Form.h"
 #include "core/Data_Text.h"
 #include "core/Ownership.h"
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
-#include "links/Referred_Rows.h"
 #include "platform/run_time/Conversions.h"
 
 using Forms::Screen;
@@ -48,19 +48,10 @@ void Wineries_Form::Modify_Winery() {
 }
 
 void Wineries_Form::Delete_Winery() {
-  constexpr Deletion deletion{
-      .in_use = "You have in your Cellar one or more wines from this winery.",
-      .remove_first =
-          "You have to remove those wines from your Cellar before you can delete this winery.",
-      .in_use_title = "DELETE WINERY ERROR",
-      .question = "Are you sure you want to DELETE this winery?",
-      .question_title = "DELETE WINERY WARNING",
-      .is_referred_to = Is_Winery_Referred_To,
-      .remove_rows = Remove_Rows_of_Winery};
   const Kept_Winery kept;
   Own_Row.Read();
-  if (Is_In_Use(deletion, Wineries.Used)) return;
-  Delete_If_Wanted(deletion);
+  if (Is_In_Use(Deletion_of_Winery, Wineries.Used)) return;
+  Delete_If_Wanted(Deletion_of_Winery);
   Go_Back();
 }
 

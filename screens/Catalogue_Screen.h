@@ -15,6 +15,19 @@
 /// `Fill_In` (Field_States.h) change colour and tag together, and
 /// `Should_General_Command_be_Enabled` ends the handler of each such field.
 class Catalogue_Screen : public Command_Form {
+ public:
+  /// What is refused and asked, whether anything refers to the row in the memory record, and what
+  /// goes with it.
+  struct Deletion {
+    const char* in_use;        ///< first line of the refusal
+    const char* remove_first;  ///< its second line
+    const char* in_use_title;
+    const char* question;
+    const char* question_title;
+    bool (*is_referred_to)();
+    void (*remove_rows)();  ///< nothing goes with it where there is none
+  };
+
  protected:
   template <class Record>
   Catalogue_Screen(std::string_view name, std::string_view caption,
@@ -46,17 +59,6 @@ class Catalogue_Screen : public Command_Form {
 
   // ---- deletion ----
 
-  /// What is refused and asked, whether anything refers to the row in the memory record, and what
-  /// goes with it.
-  struct Deletion {
-    const char* in_use;        ///< first line of the refusal
-    const char* remove_first;  ///< its second line
-    const char* in_use_title;
-    const char* question;
-    const char* question_title;
-    bool (*is_referred_to)();
-    void (*remove_rows)();  ///< nothing goes with it where there is none
-  };
   /// Whether the row in the memory record, with this counter, may not be deleted; tells why.
   static bool Is_In_Use(const Deletion& deletion, Integer used);
   /// Asks, and deletes the row, `Own_Row` where none is named, on Yes. Whether it was deleted.

@@ -18,16 +18,17 @@ void Wineries_Form::Lay_Out() {
   const Place address = Fields({{Name_Label, field(Name_Text)},
                                 {Add1_Label, field(Add1_Text)},
                                 {Add2_Label, field(Add2_Text)},
-                                {City_Label, field(City_Text)},
-                                {Zip_Code_Label, field(Zip_Code_Text)},
-                                {Phone_Label, field(Phone_Text)}});
-  const Place origin =
-      Fields({{Country_Label, field(Country_Combo)},
-              {State_Label, One_Place({field(State_Combo), field(Province_Text)})},
-              {Region_Label,
-               Row({field(Region_Combo).Grow(), Place(Wine_Region_Add_Command).Wide(add_width)})},
-              {Web_Label, field(Web_Text)},
-              {E_Mail_Label, field(E_Mail_Text)}});
+                                {Phone_Label, field(Phone_Text)},
+                                {Web_Label, field(Web_Text)},
+                                {E_Mail_Label, field(E_Mail_Text)}});
+  // The word for a state is a long one in some countries.
+  const Place origin = Column(
+      {Fields({{Country_Label, field(Country_Combo)},
+               {Region_Label,
+                Row({field(Region_Combo).Grow(), Place(Wine_Region_Add_Command).Wide(add_width)})},
+               {City_Label, field(City_Text)},
+               {Zip_Code_Label, field(Zip_Code_Text)}}),
+       Below(State_Label, One_Place({field(State_Combo), field(Province_Text)}))});
   const Place labels =
       Below(Winery_Labels_Label, Place(Winery_Labels_List).Wide(field_width).High(8, 4).Grow());
   const Place wines = Below(Wines_for_Selected_Label_Label,

@@ -13,7 +13,7 @@ void Wineries_Form::Lay_Out() {
   Available_Wines_ListView.Set_Empty_Text("Shown in the list of wineries.");
   const auto field = [](Placed_Control& control) { return Place(control).Wide(field_width); };
   const Place list =
-      Column({Winery_List_Label, Place(Wineries_ListView).Wide(list_width).High(24, 8).Grow(),
+      Column({Winery_List_Label, Place(Wineries_ListView).Wide(list_width).High(20, 8).Grow(),
               Row({Wineries_Form_Previous_Command, Wineries_Form_Next_Command, Stretch()})});
   const Place address = Fields({{Name_Label, field(Name_Text)},
                                 {Add1_Label, field(Add1_Text)},

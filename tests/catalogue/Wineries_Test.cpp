@@ -1,8 +1,7 @@
 // The screen of wineries: each of its uses from the menu to the stored rows, and what other screens
 // do meanwhile.
-#include "catalogue/Catalogue_Screens.h"
 #include "screens/Row_List.h"
-#include "tests/support/Cellar_Program.h"
+#include "tests/catalogue/Catalogue_Places_Program.h"
 #include "tests/support/Faults_Mended.h"
 
 namespace {
@@ -17,10 +16,8 @@ constexpr const char* labels = "Winery_Labels_List";
 constexpr const char* all_texts = "SELECT Multi_Language_ID FROM Words_for_Data";
 constexpr const char* wines = "Available_Wines_ListView";
 
-class Wineries_Screen : public Cellar_Program {
+class Wineries_Screen : public Catalogue_Places_Program {
  protected:
-  Wineries_Screen() { Register_Catalogue_Screens(); }
-
   /// All rows, or one of them, of what a user can give.
   Texts Rows(const Text& condition = "1") const {
     return Stored(
@@ -166,6 +163,57 @@ TEST_F(Wineries_Screen, A_winery_is_added_modified_refused_and_deleted) {
     EXPECT_THAT(picked(true), ElementsAre(question));
     EXPECT_EQ(Rows(), before);
     EXPECT_EQ(Stored(all_texts).size(), texts + (mended ? 0 : 1));
+  }
+}
+
+// ---- a wine, its new winery, and that one's new region ----
+
+TEST_F(Wineries_Screen, A_wine_gets_a_new_winery_and_that_a_new_region) {
+  for (const bool mended : {false, true}) {
+    const Faults_Mended faults(mended);
+    const Text name = mended ? "Mended Hill" : "Designed Hill";
+    const auto add_region = [&](const Text& called) {
+      Choose(region, "New Region");
+      Click("Wine_Region_Add_Command");
+      EXPECT_FALSE(Is_Seen(screen));
+      Type_Into("Regions_Form/Name_Text", called);
+      const Texts said = Told_By([] { Click("Regions_Form/General_Command"); });
+      EXPECT_THAT(said, ElementsAre(StartsWith("SUCCESSFULL REGION CREATION")));
+      EXPECT_EQ(Shown_Text(region), called);
+    };
+    Start_With("Wine_Add");
+    Choose("Wine_Form/Country_Combo", Sample().country_name);
+    Click("Winery_Add_Command");
+    EXPECT_FALSE(Is_There("Wine_Form"));
+    Type_Into("Name_Text", name);
+    Choose(country, Sample().country_name);
+    add_region(name + " Valley");
+    const Text region_id = One("SELECT max(Region_ID) FROM Regions");
+    for (const Text& grapes : Stored("SELECT [GROUP], SUBCATEGO FROM Varieties_Per_Region "
+                                     "WHERE Region_ID = " +
+                                     Sample().region_id)) {
+      const Texts link = Cells_of(grapes);
+      Put("Varieties_Per_Region",
+          {{"Region_ID", region_id}, {"GROUP", link[0]}, {"SUBCATEGO", link[1]}});
+    }
+    EXPECT_THAT(Told_By([] { Click(button); }), ElementsAre(StartsWith("WINERY CREATED")));
+    EXPECT_EQ(Shown_Text("Winery_Combo"), name);
+    EXPECT_EQ(Shown_Text("Wine_Form/Region_Combo"), name + " Valley");
+    Fill_Bottle();
+    EXPECT_THAT(Told_By([] { Click("Multi_Functional_Command"); }), testing::SizeIs(1));
+    const Text id = One("SELECT max(Winery_ID) FROM Wineries");
+    EXPECT_EQ(One("SELECT max(Winery_ID) FROM Wines"), id);
+    const Text stored =
+        "SELECT y.Winery_Name, y.Used, r.Region_Name, r.Used FROM Wineries y JOIN "
+        "Regions r ON r.Region_ID = y.Region_ID WHERE y.Winery_ID = " +
+        id;
+    EXPECT_EQ(One(stored), name + "|1|" + name + " Valley|1");
+    if (!mended) continue;
+    Start_With("Winery_Mod");
+    Pick_Winery(id);
+    add_region("Other Valley");
+    EXPECT_THAT(Told_By([] { Click(button); }), ElementsAre(StartsWith("WINERY MODIFIED")));
+    EXPECT_EQ(One(stored), name + "|1|Other Valley|0");
   }
 }
 

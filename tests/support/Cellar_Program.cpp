@@ -107,9 +107,13 @@ void Cellar_Program::Choose_Winery(int winery) const {
   Choose("Winery_Combo", Sample(winery).name);
 }
 
-// The colour last: a number of bottles counts once its field has lost the focus.
 void Cellar_Program::Fill_Add(const New_Wine& wine, int winery) const {
   Choose_Winery(winery);
+  Fill_Bottle(wine);
+}
+
+// The colour last: a number of bottles counts once its field has lost the focus.
+void Cellar_Program::Fill_Bottle(const New_Wine& wine) {
   Choose("Label_Combo", wine.label);
   Choose("Classification_Combo", wine.classification);
   for (const int row : wine.ticks) Click_Tick("Variety_Combo", row);

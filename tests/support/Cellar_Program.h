@@ -50,6 +50,8 @@ class Cellar_Program : public Program_Folder {
 
   /// Country and winery of a new wine.
   void Choose_Winery(int winery = 0) const;
+  /// What it needs besides.
+  static void Fill_Bottle(const New_Wine& wine = {});
   /// All that a new wine needs, from the country to the colour, by mouse and keys.
   void Fill_Add(const New_Wine& wine = {}, int winery = 0) const;
   static void Pick_Wine(Long wine) {

@@ -23,6 +23,7 @@ class Regions_Screen : public Catalogue_Places_Program {
 
 // Its texts are there in the language in which they were written. As designed they stay behind.
 TEST_F(Regions_Screen, A_region_is_added_corrected_seen_and_deleted) {
+  Put(Labels_Description, Made_Up_Label("Own label", Put_Own()));
   for (const bool mended : {false, true}) {
     const Faults_Mended faults(mended);
     Set("Wine_System", {{"Installation_ID", " 77 "}, {"Country_Target", "FRA"}});
@@ -58,6 +59,10 @@ TEST_F(Regions_Screen, A_region_is_added_corrected_seen_and_deleted) {
     EXPECT_FALSE(Is_Seen("General_Command"));
 
     const int texts = Rows_in("Words_for_Data");
+    Open("Region_Del");
+    EXPECT_THAT(Denied_By([] { Click_Region("Own"); }),
+                ElementsAre(StartsWith(mended ? "DELETE WINERY ERROR: You have in your Cellar "
+                                              : "DELETE REGION WARNING? ")));
     Open("Region_Del");
     EXPECT_THAT(Denied_By([] { Click_Region("Neuland"); }),
                 ElementsAre("DELETE REGION WARNING? Are you sure you want to DELETE this Region?"));

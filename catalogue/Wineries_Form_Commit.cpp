@@ -6,6 +6,7 @@
 #include "core/tables/Catalogue.h"
 #include "core/tables/Cellar_DB_Processes.h"
 #include "core/tables/Recipes_Wines_Common_DB.h"
+#include "links/Used_Counters.h"
 #include "platform/run_time/Conversions.h"
 
 using Forms::Screen;
@@ -42,7 +43,10 @@ void Wineries_Form::Modify_Winery() {
   const Kept_Winery kept;
   Own_Row.Read();
   if (Name_Text.Text() != Wineries.Winery_Name && Is_Double()) return;
+  const bool counted = !Is_Kept(Fault::Moved_Winery_Leaves_Counters);
+  const Uses before = counted ? Uses_of_Wines_of(Own_Row.Key()) : Uses();
   Own_Row.Store([this] { Form_to_Memory(); });
+  if (counted) Count_Difference(before, Uses_of_Wines_of(Own_Row.Key()));
   Forms::Message_Box("Winery was ModIfied.", "WINERY MODIFIED");
   Go_Back();
 }

@@ -94,9 +94,9 @@ Uses Uses_of_Wine() {
   return uses;
 }
 
-Uses Uses_of_Wines_of(Long winery_id) {
+Uses Uses_of_Wines_of(const Text& winery_id) {
   Record_Store::Recordset keys;
-  Open_Query(keys, "SELECT Wine_ID FROM Wines WHERE Winery_ID=" + To_Text(winery_id));
+  Open_Query(keys, "SELECT Wine_ID FROM Wines WHERE Winery_ID=" + winery_id);
   const Wines_Record before = Wines;
   Uses all;
   for (; !keys.Eof(); keys.MoveNext()) {

@@ -37,7 +37,7 @@ Uses Uses_of_Wine();
 
 /// What all wines of the winery use. The memory record of `Wines` stays as it is, and that of
 /// `Wineries` is changed only where there are such wines.
-Uses Uses_of_Wines_of(Long winery_id);
+Uses Uses_of_Wines_of(const Text& winery_id);
 
 /// Counts what is in `after` alone in, and what is in `before` alone out.
 void Count_Difference(Uses before, const Uses& after);

@@ -88,6 +88,28 @@ TEST_F(Program, A_wine_is_entered_by_keyboard_and_can_be_uncorked_after_a_restar
   EXPECT_THAT(Stored("Wines", "Color"), ElementsAre("Rosé"));
 }
 
+TEST_F(Program, A_region_is_added_by_keyboard_and_one_that_a_kill_left_goes_at_the_next_start) {
+  const auto own_regions = [this] {
+    return Stored("SELECT Region_Name FROM Regions WHERE SERIAL_NUMBER LIKE 'CUS%'", "Region_Name");
+  };
+  program.Start();
+  ASSERT_TRUE(program.Sees_Window("Wine Cellar"));
+  program.Press({"alt+r", "a"});
+  ASSERT_TRUE(program.Sees_Window("ADD a new Wine Region"));
+  program.Type("Ridge");
+  program.Press({"ctrl+Return"});
+  ASSERT_TRUE(program.Answer_Box("SUCCESSFULL REGION CREATION"));
+  ASSERT_TRUE(program.Sees_Window("Wine Cellar"));
+  program.Press({"alt+r", "a"});
+  ASSERT_TRUE(program.Sees_Window("ADD a new Wine Region"));
+  program.Kill();
+  EXPECT_THAT(own_regions(), ElementsAre("Ridge", "x"));
+  program.Start({"--mended"});
+  ASSERT_TRUE(program.Sees_Window("Wine Cellar"));
+  program.Kill();
+  EXPECT_THAT(own_regions(), ElementsAre("Ridge"));
+}
+
 TEST_F(Program, A_wine_with_its_pairings_is_found_by_one_of_them_and_uncorked_from_the_results) {
   const auto Used = [this] {
     std::vector<int> counters;

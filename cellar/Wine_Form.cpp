@@ -255,8 +255,7 @@ void Wine_Form::Show_Requested_Wine() {
 
 void Wine_Form::Winery_Add_Command_Click() {
   if (!Screen("Wineries_Form").Exists() || !May_Lose_Entered()) return;
-  Unload();
-  Screen("Wineries_Form").Open();
+  if (Screen("Wineries_Form").Open()) Unload();
 }
 
 void Wine_Form::Label_Add_Command_Click() {

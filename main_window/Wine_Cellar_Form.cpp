@@ -53,8 +53,7 @@ void Wine_Cellar_Form::Let(Entry& entry, const char* command, const char* screen
 
 void Wine_Cellar_Form::Open_Screen(const char* screen, Main_Window main_window) {
   if (!Screen(screen).Exists()) return;
-  Screen(screen).Open();
-  if (main_window == Main_Window::Hides) Hide();
+  if (Screen(screen).Open() && main_window == Main_Window::Hides) Hide();
 }
 
 // Entries that are not named here have no action: they can be chosen and do nothing. (The two

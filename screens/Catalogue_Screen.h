@@ -39,6 +39,7 @@ class Catalogue_Screen : public Command_Form {
 
   /// A row that was not confirmed goes with its screen. An override calls it.
   void Form_Unload() override { Own_Row.Remove_Unconfirmed(); }
+  bool May_Be_Replaced() override { return May_Lose_Entered(); }
 
   // ---- the gate ----
 

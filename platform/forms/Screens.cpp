@@ -130,10 +130,13 @@ bool Screen::Is_Loaded() const { return Loaded(name_) != nullptr; }
 
 bool Screen::Visible() const { return Is_Loaded() && Loaded(name_)->Visible(); }
 
-void Screen::Open() const {
-  if (!Exists()) return;
-  Unload();
-  Load_Form(name_).Show();
+bool Screen::Open() const {
+  if (!Exists()) return true;
+  Form* form = Loaded(name_);
+  const bool stays = form != nullptr && form->Visible() && !form->May_Be_Replaced();
+  if (!stays) Unload();
+  Show();
+  return !stays;
 }
 
 void Screen::Open_Over(Form& caller) const {

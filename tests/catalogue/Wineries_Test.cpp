@@ -275,6 +275,12 @@ TEST_F(Wineries_Screen, What_other_screens_do_meanwhile_stays_theirs) {
     Start_With("Winery_Mod");
     Pick_Winery(Sample().id);
     Type_Into("City_Text", mended ? "Here" : "There");
+    if (mended) {
+      const Box_Script stays({false});
+      Pick("Winery_Add");
+      EXPECT_EQ(Shown_Text("City_Text"), "Here");
+      EXPECT_TRUE(Is_Seen("Wine_Cellar_Form"));
+    }
     Pick("Wine_Add");
     Fill_Add();
     EXPECT_THAT(Told_By([] { Click("Multi_Functional_Command"); }), testing::SizeIs(1));

@@ -196,7 +196,7 @@ void Wine_Form::Form_Activate() {
   const bool winery_or_label_is_new = Tag() == "1";
   if (winery_or_label_is_new) Update_for_New_Winery();
   Set_Tag("0");
-  if (!Label_Add_Command.Tag().empty()) Update_for_New_Label(Label_Add_Command.Tag());
+  if (const Text label = Label_Add_Command.Tag(); !label.empty()) Update_for_New_Label(label);
   Should_Multi_Command_Be_Enabled();
   if (Pairings_Add_Command.Tag() == "1") Take_Over_Pairings();
   if (Command_Is("CheeseParingsCellar")) Show_Requested_Wine();
@@ -222,13 +222,15 @@ void Wine_Form::Update_for_New_Winery() {
 }
 
 // A label that was added for another region than the wine's stands behind those of the wine's.
+// Before the winery is chosen there is no region, and its labels come with it.
 void Wine_Form::Update_for_New_Label(const Text& label_id) {
+  Label_Add_Command.Set_Tag("");
+  if (!Is_Numeric(Region_Combo.Key())) return;
   Load_Labels_for_Region(To_Integer(Region_Combo.Key()));
   if (Label_Combo.Place_Of(label_id) < 0 && Find_By_Key(Labels_Table, label_id)) {
     Label_Combo.Add(Labels.Label_Name, label_id);
   }
   Label_Combo.Choose(label_id);
-  Label_Add_Command.Set_Tag("");
 }
 
 // Under WineMod the keys keep their old lines ahead of the new ones; nothing reads them there.

@@ -20,7 +20,11 @@ const Texts entries = Cells_of(
     "Wine_Add Wine_Add Wine_Add Wine_Mod Wine_Mod Wine_Mod Wine_Uncork Wine_Del Wine_Del "
     "Cellar1_View Cellar2_View Wines_Cellar_List Pairing_Search_Cellar Pairing_Search_Cellar "
     "Pairing_Search_General Pairing_Add Pairing_Mod Pairings_List Cellar_Add Cellar_Mod "
-    "Cellar_View Help_Comments",
+    "Cellar_View Help_Comments Winery_Add Winery_Mod Winery_Mod Winery_Del Winery_Del Winery_List "
+    "Region_Add Region_Add "
+    "Region_Mod_Var Region_Mod_Other Region_Del Region_Pair_Varieties Labels_Add Labels_Mod "
+    "Labels_Mod Labels_Del Region_Mod_Var Region_Pair_Varieties Region_Del "
+    "Labels_Del Labels_View Classification_View",
     " ");
 
 // Screens that wait for the entry that is to lead to them, and the commands under which they change
@@ -58,9 +62,17 @@ std::vector<QWidget*> Usable_Controls(const std::string& form) {
 
 }  // namespace
 
+// Where the window with the focus has gone, a desktop gives it to another one.
 std::string Random_User::Front() {
   const QWidget* active = QApplication::activeWindow();
-  return active == nullptr ? main_window : active->objectName().toStdString();
+  if (active != nullptr) return active->objectName().toStdString();
+  if (Forms::Screen(main_window).Visible()) return main_window;
+  for (const std::string& name : Forms::Screens::Names_For_Tests()) {
+    if (!Forms::Screen(name).Visible()) continue;
+    Find(name).activateWindow();
+    return name;
+  }
+  return main_window;
 }
 
 void Random_User::Act(bool refused) {
@@ -77,9 +89,11 @@ void Random_User::Act(bool refused) {
     return;
   } else {
     const std::vector<QWidget*> usable = Usable_Controls(form);
-    const bool list =
-        Random(4) == 0 && Is_Usable("Wine_Cellar_ListView") && Current_Command != "WineAdd";
-    if (!usable.empty()) Use(list ? Find("Wine_Cellar_ListView") : *One_of(usable));
+    const char* of_labels = "Regions_Form/Labels_ListView";
+    const bool labels = Current_Command.starts_with("Label") && Is_Usable(of_labels);
+    const char* list = labels ? of_labels : "Wine_Cellar_ListView";
+    const bool picks = Random(4) == 0 && Is_Usable(list) && Current_Command != "WineAdd";
+    if (!usable.empty()) Use(picks ? Find(list) : *One_of(usable));
   }
 }
 
@@ -133,6 +147,16 @@ void Random_User::Use(QWidget& control) {
   }
 }
 
+// One of the first rows that this user has named, often; else any.
+int Random_User::One_of_Rows(const Texts& names) {
+  std::vector<int> own;
+  for (std::size_t row = 0; row < names.size(); ++row) {
+    if (names[row].starts_with('#')) own.push_back(static_cast<int>(row));
+  }
+  const std::size_t first_ones = std::min<std::size_t>(own.size(), 3);
+  return own.empty() || Random(3) == 0 ? Random(names.size()) : own[Random(first_ones)];
+}
+
 // The list of a combo box opens by a click; typing in it goes to what begins so. The first entry is
 // seldom a choice.
 void Random_User::Choose_By_Keys(const std::string& name) {
@@ -144,7 +168,12 @@ void Random_User::Choose_By_Keys(const std::string& name) {
                   [this](const std::string& country) { return !countries_.contains(country); });
   }
   Click(name);
-  if (!wanted.empty()) Type(QString::fromStdString(One_of(wanted)).left(6).toStdString());
+  if (!wanted.empty()) {
+    const std::string& entry = wanted[static_cast<std::size_t>(One_of_Rows(wanted))];
+    const auto dash = entry.starts_with('#') ? entry.find('-') : std::string::npos;
+    const bool own = dash != std::string::npos;
+    Type(own ? entry.substr(0, dash + 1) : QString::fromStdString(entry).left(6).toStdString());
+  }
   Press(Random(20) > 0 ? "Return" : "Esc");
 }
 
@@ -153,7 +182,9 @@ void Random_User::Use_List(const std::string& name, int rows) {
   if (has_header && Random(10) == 0) {
     Click_Header(name, Random(3));
   } else if (rows > 0) {
-    const int row = Random(static_cast<std::size_t>(rows));
+    const bool named = name.ends_with("ListView");
+    const int row =
+        named ? One_of_Rows(Shown_Column(name, 0)) : Random(static_cast<std::size_t>(rows));
     if (name == "Variety_Combo") {
       Click_Tick(name, row);
     } else {
@@ -170,8 +201,10 @@ void Random_User::Fill(const std::string& name) {
   std::string text = One_of(Random(4) > 0 ? fitting : hostile);
   // A name that the bar of the menus has room for.
   if (name.starts_with("Cellar")) text = QString::fromStdString(text).left(20).toStdString();
-  // No two pairings of one name: their names are what the test knows them by.
-  const bool numbered = name.starts_with("CAT") || name.starts_with("Cat");
-  Paste_Into(name, numbered ? text + " " + std::to_string(++typed_) : text);
+  // No two pairings of one name: their names are what the test knows them by. Other names are what
+  // this user finds its rows by.
+  const bool pairing = name.starts_with("CAT") || name.starts_with("Cat");
+  const bool numbered = pairing || (name == "Name_Text" && Random(10) > 0);
+  Paste_Into(name, numbered ? "#" + std::to_string(++typed_) + "-" + text : text);
   if (Random(2) == 0) Press("Tab");
 }

@@ -36,6 +36,7 @@ class Random_User {
   bool Fill_Required(const std::string& form);
   bool Commit(const std::string& form);
   void Use(QWidget& control);
+  int One_of_Rows(const Texts& names);
   void Choose_By_Keys(const std::string& name);
   void Use_List(const std::string& name, int rows);
   void Fill(const std::string& name);

@@ -52,7 +52,7 @@ Shown_Wine Shown_Wines::Shown() {
         "Color_Combo", "Merit_Combo", "Bottle_Size_Combo", "Peak_Year_Combo", "Total_Bottles_Text",
         "Alcohol_Text", "Price_Text", "Date_Added_Text", "Last_Date_Uncorked_Text",
         "Description_Text", "Comments_Text"}) {
-    shown[field] = As_Read(Shown_Text(field));
+    shown[field] = As_Read(Shown_Text(std::string("Wine_Form/") + field));
   }
   shown["grapes"] = Joined(Ticked_Rows("Variety_Combo"));
   shown["marks"] = Joined(Ticked_Boxes());

@@ -31,7 +31,8 @@ int Place_Of(std::string_view wanted, const Bounded_Array<Text, Last>& list, int
 Text Country_By(const char* index, std::string_view key, const char* wanted) {
   Open_Table(World_Contries_Recordset, "World_Contries", index);
   World_Contries_Recordset.Seek("=", key);
-  Text name = World_Contries_Recordset.Fields(wanted).As_Text();
+  const bool blank = World_Contries_Recordset.NoMatch() && !Is_Kept(Fault::Gone_Row_Ends_The_Run);
+  Text name = blank ? Text() : World_Contries_Recordset.Fields(wanted).As_Text();
   Close_Table(World_Contries_Recordset);
   return name;
 }

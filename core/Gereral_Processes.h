@@ -67,6 +67,7 @@ void Start_System();
 // ---- look-ups; a key or name without a row is failure 3021, raised by the read ----
 
 void Read_Winery_By_ID(Integer key);
+/// Where faults are mended a country without a row has no name.
 Text Country_Short_Name(std::string_view long_name);
 Text Country_Long_Name(std::string_view short_name);
 /// 0 to 4 for "Red", "White", "Rosé", "Sparkling", "Fortified", exactly so written; 0 for any

@@ -63,7 +63,7 @@ enum class Fault {
   Wine_Numbers_Have_16_Bits,
   /// The list of the cellar cannot be used after a SAVE / it can.
   List_Is_Dead_After_Save,
-  /// What a wine refers to and is no longer there is 3021 / it shows as a blank, counts nothing.
+  /// What a row refers to and is no longer there is 3021 / it shows as a blank, counts nothing.
   Gone_Row_Ends_The_Run,
 
   // ---- pickers and searches ----

@@ -1,15 +1,11 @@
 // Whatever a user types for a date gives its message or passes.
 
-#include <QString>
 #include <map>
 
 #include "tests/support/Cellar_Program.h"
+#include "tests/support/Hostile_Texts.h"
 
 namespace {
-
-std::string Repeated(const char* text, int times) {
-  return QString(text).repeated(times).toStdString();
-}
 
 using Cellar_Fuzz = Cellar_Program;
 

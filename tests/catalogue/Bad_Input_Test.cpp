@@ -15,17 +15,23 @@ constexpr const char* wineries = "Wineries_Form/Wineries_ListView";
 
 /// How a row is added, changed and found; the first of the fields is the name.
 struct Way {
-  const char *add, *change, *key;
+  const char *add, *change, *key, *list;
   Text screen;
   Texts fields;
   std::size_t key_column;
 };
 
 const std::array<Way, 3> ways{
-    Way{"Region_Add", "Region_Mod_Other", "max(Region_ID) FROM Regions", "Regions_Form",
+    Way{"Region_Add", "Region_Mod_Other", "max(Region_ID) FROM Regions", regions, "Regions_Form",
         Cells_of("Name_Text Description_Text History_Text", " "), 2},
-    Way{"Labels_Add", "Labels_Mod", "max(Label_ID) FROM Labels", "Label_Form", {"Name_Text"}, 1},
-    Way{"Winery_Add", "Winery_Mod", "max(Winery_ID) FROM Wineries", "Wineries_Form",
+    Way{"Labels_Add",
+        "Labels_Mod",
+        "max(Label_ID) FROM Labels",
+        labels,
+        "Label_Form",
+        {"Name_Text"},
+        1},
+    Way{"Winery_Add", "Winery_Mod", "max(Winery_ID) FROM Wineries", wineries, "Wineries_Form",
         Cells_of("Name_Text Add1_Text Add2_Text City_Text Province_Text Zip_Code_Text Phone_Text "
                  "Web_Text E_Mail_Text History_Text",
                  " "),
@@ -40,7 +46,8 @@ class Bad_Input : public Catalogue_Places_Program {
     }
     return held;
   }
-  /// Pasted over what stands there: no field is empty meanwhile. What the fields took.
+  /// Pasted over what stands there: no field is empty meanwhile. What the fields took: a line has
+  /// room for so many letters.
   static Texts Enter(const Way& way, const Text& text, const Text& name) {
     for (const Text& field : way.fields) {
       QApplication::clipboard()->setText(
@@ -49,7 +56,12 @@ class Bad_Input : public Catalogue_Places_Program {
       Press("Ctrl+A");
       Press("Ctrl+V");
     }
-    return Held(way);
+    const Texts held = Held(way);
+    EXPECT_EQ(held[0], name.substr(0, 32'767));
+    for (std::size_t at = 1; at < held.size(); ++at) {
+      EXPECT_EQ(held[at], text.substr(0, held[at].size() < 32'767 ? text.size() : held[at].size()));
+    }
+    return held;
   }
   static void Choose_By_Keys(const Text& list, const char* entry) {
     Click(list);
@@ -68,10 +80,7 @@ class Bad_Input : public Catalogue_Places_Program {
   static void Expect_Shown(const Way& way, const Text& key, const Texts& taken) {
     Pick(way.change);
     if (way.screen == "Label_Form") Click_Line(regions, "Own");
-    Click_Line(way.key_column == 1   ? labels
-               : way.key_column == 2 ? regions
-                                     : wineries,
-               key, way.key_column);
+    Click_Line(way.list, key, way.key_column);
     const Texts shown = Held(way);
     EXPECT_EQ(shown[0], way.screen == "Regions_Form" ? Trim(taken[0]) : taken[0]);
     for (std::size_t at = 1; at < taken.size(); ++at) {

@@ -126,7 +126,7 @@ enum class Fault {
   /// The country beside a classification, and the others of that country, stay as they were when
   /// the screen was opened / they are those of the one on show.
   Country_of_Class_Stays,
-  /// What a delivered row is changed in makes it the user's / it stays a delivered row.
+  /// A change makes a delivered row the user's / it stays a delivered row.
   Changed_Row_Becomes_The_Users,
   /// A double is looked for under English and in its own case, and not among wineries / in each
   /// language and case, of regions, labels and wineries.

@@ -76,12 +76,13 @@ void Label_Form::Add_Label_for_Wine() {
   Leave_to(wine);
 }
 
-// As told of the screen of regions, that one is loaded anew, and this one stays behind it.
+// Under RegionsMod the screen of the regions is loaded anew, and this one stays behind it.
 void Label_Form::Exit_Command_Click() {
   if (!May_Lose_Entered()) return;
   if (Command_Is("LabelMod")) {
     Leave_to(regions);
   } else if (Command_Is("RegionsMod")) {
+    Take_as_Stored();  // the question was answered
     Screen(regions).Open();
   } else if (Command_Is({"WineAdd", "WineryAdd"})) {
     Exit_to_Wine();

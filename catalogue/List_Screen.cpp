@@ -4,6 +4,7 @@
 #include "core/Globals.h"
 #include "core/tables/Geography_Tables.h"
 #include "platform/forms/Screens.h"
+#include "screens/Catalogue_Lists.h"
 #include "screens/Field_States.h"
 
 using Forms::Screen;
@@ -29,11 +30,8 @@ void List_Screen::Form_Load() {
     if (description_.screens.contains(Command())) Show_Region();
     return;
   }
-  constexpr int country = 1;
   description_.load(Rows_ListView);
-  Rows_ListView.Set_SortOrder(0);
-  Rows_ListView.Set_Sorted(true);
-  Rows_ListView.Set_SortKey(country);
+  Sort_by_Country(Rows_ListView);
 }
 
 void List_Screen::Show_Region() {

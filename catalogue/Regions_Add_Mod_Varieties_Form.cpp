@@ -61,14 +61,11 @@ void Regions_Add_Mod_Varieties_Form::Lay_Out() {
 }
 
 void Regions_Add_Mod_Varieties_Form::Form_Load() {
-  constexpr int country = 1;
   Load_Regions(Regions_ListView);
   Load_Varieties(Varieties_AvailableView);
   Varieties_Changed_Flag = false;
   Close_Commands();
-  Regions_ListView.Set_SortOrder(0);
-  Regions_ListView.Set_Sorted(true);
-  Regions_ListView.Set_SortKey(country);
+  Sort_by_Country(Regions_ListView);
   Regions_ListView.SetFocus();
   Take_as_Stored();
 }

@@ -54,9 +54,7 @@ void Regions_Form::Form_Load() {
 void Regions_Form::Load_Lists() {
   Initialize_Countries(Country_Combo, Wine_System.Country_Target);
   Load_Regions(Regions_ListView);
-  Regions_ListView.Set_SortOrder(0);
-  Regions_ListView.Set_Sorted(true);
-  Regions_ListView.Set_SortKey(1);
+  Sort_by_Country(Regions_ListView);
 }
 
 // The arrow keys pick only where a pick does no more than show.
@@ -108,9 +106,11 @@ void Regions_Form::Compute_Next_Region_Group() {
   Regions.Region_SubGr = full ? 1 : subgroup + 1;
 }
 
-// The winery's; only a wine's new winery leaves it open.
+// The winery's; as designed a wine's new winery leaves it open.
 void Regions_Form::Set_Country() {
-  if (Command_Is("WineAdd")) return Show_Country(Current_Country_Short);
+  if (Command_Is("WineAdd") && Is_Kept(Fault::New_Region_Can_Be_Lost)) {
+    return Show_Country(Current_Country_Short);
+  }
   const Screen winery(wineries);
   const int chosen = winery.Get<Forms::Item_List>("Country_Combo").ListIndex();
   Show_Country(winery.Get<Forms::Item_List>("Country_Short_Combo").List(chosen));
@@ -174,6 +174,14 @@ void Regions_Form::Form_Activate() {
 }
 
 // ---- leaving ----
+
+// Where a winery waits behind it, it is the only way back there.
+bool Regions_Form::May_Be_Replaced() {
+  if (!Is_From_Winery() || Is_Kept(Fault::Entered_Row_Goes_Without_A_Word)) {
+    return Catalogue_Screen::May_Be_Replaced();
+  }
+  return !Screen(wineries).Is_Loaded();
+}
 
 bool Regions_Form::Exit_Ends_the_Run() const {
   return Command_Is({"WineAdd", "WineryAdd"}) && Is_Kept(Fault::Region_For_Winery_Ends_The_Run);

@@ -21,6 +21,7 @@ class Regions_Form : public Catalogue_Screen {
  protected:
   void Form_Load() override;
   void Form_Activate() override;
+  bool May_Be_Replaced() override;
   std::vector<Forms::Placed_Control*> Gate_Fields() override {
     return {&Name_Text, &Country_Combo};
   }

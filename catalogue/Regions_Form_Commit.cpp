@@ -3,6 +3,7 @@
 #include "core/Globals.h"
 #include "core/Ownership.h"
 #include "core/tables/Catalogue.h"
+#include "links/Referred_Rows.h"
 #include "platform/run_time/Conversions.h"
 #include "screens/Field_States.h"
 
@@ -61,6 +62,7 @@ void Regions_Form::Modify_Region() {
   const bool renamed = Name_Text.Text() != Regions.Region_Name;
   if (renamed && (Is_Refused_Name(Name_Text, refused) || Is_Refused_as_Double())) return;
   Own_Row.Store([this] { Form_to_Memory(Text_Of::Stored_Row); });
+  if (renamed) Rename_Region_in_Wineries();
   Region_Or_Label_Changed = true;
   Message_Box("Region was MODIFIED successfully.", "SUCCESSFULL REGION MODIFICATION");
   Memory_to_Form();

@@ -28,8 +28,7 @@ void Regions_Form::Regions_ListView_ItemClick(List_Item item) {
   Set_Photos();
   Take_as_Stored();
   if (Command_Is("VarietiesAddRegion")) {
-    Screen("Select_Mult_Varieties_Form").Open();
-    Hide();
+    if (Screen("Select_Mult_Varieties_Form").Open()) Hide();
   }
   if (Command_Is("RegionsMod")) Show_Whose_Region();
   if (Command_Is("RegionsDel")) Delete_Region();
@@ -118,8 +117,7 @@ void Regions_Form::Modify_Label() {
 }
 
 void Regions_Form::Open_Label() {
-  Screen("Label_Form").Open();
-  Hide();
+  if (Screen("Label_Form").Open()) Hide();
 }
 
 void Regions_Form::Delete_Label() {

@@ -86,6 +86,7 @@ void Wineries_Form::Setup_for_Add() {
   Lock(Region_Combo);
   Region_Combo.Set_Tag("0");
   General_Command.Set_Enabled(false);
+  if (!Is_Kept(Fault::New_Region_Can_Be_Lost)) Wine_Region_Add_Command.Set_Enabled(false);
   Wineries_Form_Previous_Command.Set_Visible(false);
   Wineries_Form_Next_Command.Set_Visible(false);
   Init_Wineries_Record();
@@ -132,8 +133,7 @@ void Wineries_Form::Load_for_View() {
 void Wineries_Form::Wine_Region_Add_Command_Click() {
   if (!Screen(region_screen).Exists()) return;
   Current_Country_Short = Country_Combo.Key();
-  Screen(region_screen).Open();
-  Hide();
+  if (Screen(region_screen).Open()) Hide();
 }
 
 void Wineries_Form::Form_Activate() {

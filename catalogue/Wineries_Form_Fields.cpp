@@ -134,9 +134,9 @@ void Wineries_Form::Choose_Country() {
 }
 
 void Wineries_Form::Choose_State() {
-  if (State_Combo.ListCount() == 0) {
-    Province_Text.Set_Text(Given_Or_Blank(Wineries.State));
-  } else {
+  const bool listed = State_Combo.ListCount() > 0;
+  Province_Text.Set_Text(listed ? " " : Given_Or_Blank(Wineries.State));
+  if (listed) {
     const int place = Place_of_Text(State_Combo, Wineries.State);
     if (place < State_Combo.ListCount()) State_Combo.Set_ListIndex(place);
   }

@@ -13,7 +13,7 @@ void Wineries_Form::Lay_Out() {
   Available_Wines_ListView.Set_Empty_Text("Shown in the list of wineries.");
   const auto field = [](Placed_Control& control) { return Place(control).Wide(field_width); };
   const Place list =
-      Column({Winery_List_Label, Place(Wineries_ListView).Wide(list_width).High(20, 8).Grow(),
+      Column({Winery_List_Label, Place(Wineries_ListView).Wide(list_width).High(18, 8).Grow(),
               Row({Wineries_Form_Previous_Command, Wineries_Form_Next_Command, Stretch()})});
   const Place address = Fields({{Name_Label, field(Name_Text)},
                                 {Add1_Label, field(Add1_Text)},
@@ -30,12 +30,12 @@ void Wineries_Form::Lay_Out() {
                {Zip_Code_Label, field(Zip_Code_Text)}}),
        Below(State_Label, One_Place({field(State_Combo), field(Province_Text)}))});
   const Place labels =
-      Below(Winery_Labels_Label, Place(Winery_Labels_List).Wide(field_width).High(8, 4).Grow());
+      Below(Winery_Labels_Label, Place(Winery_Labels_List).Wide(field_width).High(6, 4).Grow());
   const Place wines = Below(Wines_for_Selected_Label_Label,
-                            Place(Available_Wines_ListView).Wide(32).High(8, 4).Grow());
+                            Place(Available_Wines_ListView).Wide(32).High(6, 4).Grow());
   const Place winery =
-      Column({Row({address.Grow(), origin.Grow()}),
-              Row({Below(History_Label, Place(History_Text).Wide(40).High(4, 2).Grow()).Grow(3),
+      Column({Row({address.Grow(2), origin.Grow(3)}),
+              Row({Below(History_Label, Place(History_Text).Wide(40).High(3, 2).Grow()).Grow(3),
                    Place(Winery_Image).Wide(18).High(5, 3).Grow()})
                   .Grow(),
               Row({labels.Grow(), wines.Grow(2)}).Grow(2)});

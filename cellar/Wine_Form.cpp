@@ -261,9 +261,7 @@ void Wine_Form::Winery_Add_Command_Click() {
 }
 
 void Wine_Form::Label_Add_Command_Click() {
-  if (!Screen("Label_Form").Exists()) return;
-  Screen("Label_Form").Open();
-  Hide();
+  if (Screen("Label_Form").Exists() && Screen("Label_Form").Open()) Hide();
 }
 
 void Wine_Form::Pairings_Add_Command_Click() {

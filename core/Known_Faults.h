@@ -119,6 +119,10 @@ enum class Fault {
   /// "New Region" of a winery that is modified, or made for a general wine, opens a screen that
   /// stores nothing / a region is added as for a new winery.
   New_Region_Needs_New_Winery,
+  /// On the way to a winery a region can be made before the winery has a country, or in another
+  /// one:
+  /// it is not taken over / the country comes first, and is the region's.
+  New_Region_Can_Be_Lost,
   /// SAVE of a winery opened from the general list does nothing / it is stored and handed over.
   Winery_For_General_List_Is_Not_Stored,
   /// PROCEED for a region that shows a grape of a sub-region is 35600 / such grapes are skipped.
@@ -140,6 +144,8 @@ enum class Fault {
   Rows_Of_Deleted_Row_Stay,
   /// A label's wines name it by its text, and by the old one once it is renamed / they follow it.
   Renamed_Label_Loses_Its_Wines,
+  /// A winery keeps the old name of its region / it takes the new one.
+  Renamed_Region_Loses_Its_Wineries,
   /// A winery that is moved to another region or country leaves its wines counted in the old one /
   /// they are counted where it is.
   Moved_Winery_Leaves_Counters,

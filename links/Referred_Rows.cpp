@@ -87,6 +87,18 @@ void Rename_Label_in_Wines(const Text& name) {
   Close_Table(Wines_Recordset);
 }
 
+void Rename_Region_in_Wineries() {
+  if (Is_Kept(Fault::Renamed_Region_Loses_Its_Wineries)) return;
+  for (Open_Table(Wineries_Recordset, "Wineries"); !Wineries_Recordset.Eof();
+       Wineries_Recordset.MoveNext()) {
+    if (Wineries_Recordset.Fields("Region_ID").As_Long() != Regions.Region_ID) continue;
+    Wineries_Recordset.Edit();
+    Wineries_Recordset.Fields("Region") = Regions.Region_Name;
+    Wineries_Recordset.Update();
+  }
+  Close_Table(Wineries_Recordset);
+}
+
 void Remove_Rows_of_Region() {
   Remove_Data_Text(Regions.Description);
   Remove_Data_Text(Regions.History);

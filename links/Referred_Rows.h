@@ -17,8 +17,11 @@ bool Is_Label_Referred_To();
 /// Wines of the cellars, which name it and have a winery of its country; labels of the class.
 bool Is_Classification_Referred_To();
 
-/// Mended alone, the wines of the cellars that name the label in the memory record take this name.
+/// The wines of the cellars that name the label in the memory record take this name. As designed
+/// nothing.
 void Rename_Label_in_Wines(const Text& name);
+/// The wineries of the region in the memory record take its name. As designed nothing.
+void Rename_Region_in_Wineries();
 
 /// Its texts, its grapes (each counted out) and its rows of photos. Changes `Decoded_Items` and the
 /// memory record of `Varieties`.

@@ -94,6 +94,13 @@ void Load_Varieties(Row_List& list) {
   });
 }
 
+void Sort_by_Country(Row_List& list) {
+  constexpr int country = 1;
+  list.Set_SortOrder(0);
+  list.Set_Sorted(true);
+  list.Set_SortKey(country);
+}
+
 void Add_Labels_of_Region(Row_List& list, Long region_id,
                           const std::function<void(List_Item row)>& action) {
   Open_Labels_Of_Region(region_id);

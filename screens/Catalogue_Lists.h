@@ -8,8 +8,7 @@
 #include "screens/Keyed.h"
 #include "screens/Row_List.h"
 
-// ---- all rows of a table, in its order; a row that is not confirmed is left out but of wineries
-// --
+// ---- all rows of a table, in its order; rows that are not confirmed are listed of wineries alone
 
 /// Name, country by its English name.
 void Load_Regions(Row_List& list);
@@ -21,6 +20,9 @@ void Load_Classifications(Row_List& list,
                           const std::function<void(Forms::List_Item row)>& action = {});
 /// Name, colour.
 void Load_Varieties(Row_List& list);
+
+/// The order in which the lists of regions begin.
+void Sort_by_Country(Row_List& list);
 
 // ---- what belongs to a region ----
 

@@ -65,7 +65,7 @@ class Form {
   virtual void Form_Activate() {}
   /// At the unload.
   virtual void Form_Unload() {}
-  /// Asked where this form is in sight and is to be opened anew: whether it may go.
+  /// Asked where this form is to be opened anew: whether it may go.
   virtual bool May_Be_Replaced() { return true; }
 
   /// For this room and the tests.

@@ -133,7 +133,7 @@ bool Screen::Visible() const { return Is_Loaded() && Loaded(name_)->Visible(); }
 bool Screen::Open() const {
   if (!Exists()) return true;
   Form* form = Loaded(name_);
-  const bool stays = form != nullptr && form->Visible() && !form->May_Be_Replaced();
+  const bool stays = form != nullptr && !form->May_Be_Replaced();
   if (!stays) Unload();
   Show();
   return !stays;

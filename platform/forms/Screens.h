@@ -24,9 +24,9 @@ class Screen {
   bool Is_Loaded() const;
   bool Visible() const;
 
-  /// Loads it anew and shows it: an instance left behind is unloaded first. Where that is in sight
-  /// and does not let go of what was entered on it, it comes to the front instead, and the answer
-  /// is False.
+  /// Loads it anew and shows it: an instance left behind is unloaded first. Where that
+  /// does not let go of what was entered on it, it comes to the front instead, and the answer is
+  /// False.
   bool Open() const;
   /// As Open, with `caller` waiting: that one takes no input as long as this screen is shown, stays
   /// below it, and takes it along when it is unloaded.

@@ -37,7 +37,7 @@ function(add_room_tests name)
   add_executable(${name} ${ROOM_SOURCES})
   target_link_libraries(${name} PRIVATE wine_cellar_flags ${ROOM_USES} GTest::gtest GTest::gmock)
   gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_TIMEOUT 60
-    PROPERTIES TIMEOUT 300)
+    PROPERTIES TIMEOUT 600)
 endfunction()
 
 include(GoogleTest)

@@ -9,6 +9,7 @@
 #include "platform/forms/Screens.h"
 #include "platform/run_time/Guard.h"
 #include "tests/forms/Row_Clicks.h"
+#include "tests/support/Hostile_Texts.h"
 #include "tests/support/Program_Folder.h"
 
 namespace {
@@ -19,6 +20,7 @@ constexpr const char* main_window = "Wine_Cellar_Form";
 const Texts entries = Cells_of(
     "Wine_Add Wine_Add Wine_Add Wine_Mod Wine_Mod Wine_Mod Wine_Uncork Wine_Del Wine_Del "
     "Cellar1_View Cellar2_View Wines_Cellar_List Pairing_Search_Cellar Pairing_Search_Cellar "
+    "Pairing_Search_Cellar Pairing_Search_Cellar Pairing_Search_Cellar Winery_Del Labels_Add "
     "Pairing_Search_General Pairing_Add Pairing_Mod Pairings_List Cellar_Add Cellar_Mod "
     "Cellar_View Help_Comments Winery_Add Winery_Mod Winery_Mod Winery_Del Winery_Del Winery_List "
     "Region_Add Region_Add "
@@ -36,14 +38,6 @@ const std::vector<std::pair<const char*, const char*>> without_entry{
 
 const Texts numbers{"0", "1", "2", "7", " 12 ", "1,250", "1e3", "40", "32767"};
 const Texts dates{"1/1/2020", "2020-02-29", "6/15/2026 14:30:05", "12/31/2006 23:59", ""};
-const Texts hostile = Cells_of(
-    "~ ~x~x ~-1~12.5~-0~1e400~NaN~It's \"x\"; -- ' OR 1=1~first\r\nsecond\r\n\r\n fourth ~\r\n~"
-    "\t\\0 %s &amp; <b>&</b>~🍷👨‍👩‍👧 \u202eabc\u202c שלום مرحبا~à la "
-    "fin\u00a0: "
-    "12\u202f%~１２~|~" +
-        QString("Ünï🍇").repeated(150).toStdString(),
-    "~");
-
 const Texts keys{"Tab", "Shift+Tab", "Return", "Esc", "Space", "Delete", "Ctrl+Return"};
 
 // What the buttons have in common that store something or lead on with it.
@@ -91,8 +85,12 @@ void Random_User::Act(bool refused) {
     const std::vector<QWidget*> usable = Usable_Controls(form);
     const char* of_labels = "Regions_Form/Labels_ListView";
     const bool labels = Current_Command.starts_with("Label") && Is_Usable(of_labels);
-    const char* list = labels ? of_labels : "Wine_Cellar_ListView";
-    const bool picks = Random(4) == 0 && Is_Usable(list) && Current_Command != "WineAdd";
+    const bool deletes = Current_Command == "WineryDel";
+    const char* list = labels    ? of_labels
+                       : deletes ? "Wineries_Form/Wineries_ListView"
+                                 : "Wine_Cellar_ListView";
+    const bool picks =
+        Random(deletes ? 2 : 4) == 0 && Is_Usable(list) && Current_Command != "WineAdd";
     if (!usable.empty()) Use(picks ? Find(list) : *One_of(usable));
   }
 }
@@ -153,7 +151,8 @@ int Random_User::One_of_Rows(const Texts& names) {
   for (std::size_t row = 0; row < names.size(); ++row) {
     if (names[row].starts_with('#')) own.push_back(static_cast<int>(row));
   }
-  const std::size_t first_ones = std::min<std::size_t>(own.size(), 3);
+  const bool any = Current_Command.ends_with("Del");
+  const std::size_t first_ones = any ? own.size() : std::min<std::size_t>(own.size(), 3);
   return own.empty() || Random(3) == 0 ? Random(names.size()) : own[Random(first_ones)];
 }
 
@@ -197,8 +196,8 @@ void Random_User::Use_List(const std::string& name, int rows) {
 void Random_User::Fill(const std::string& name) {
   static const std::set<std::string> of_numbers{"Total_Bottles_Text", "Price_Text", "Alcohol_Text"};
   const bool of_a_date = name.starts_with("Date") || name.starts_with("Last_Date");
-  const Texts& fitting = of_a_date ? dates : of_numbers.contains(name) ? numbers : hostile;
-  std::string text = One_of(Random(4) > 0 ? fitting : hostile);
+  const Texts& fitting = of_a_date ? dates : of_numbers.contains(name) ? numbers : Hostile_Texts();
+  std::string text = One_of(Random(4) > 0 ? fitting : Hostile_Texts());
   // A name that the bar of the menus has room for.
   if (name.starts_with("Cellar")) text = QString::fromStdString(text).left(20).toStdString();
   // No two pairings of one name: their names are what the test knows them by. Other names are what

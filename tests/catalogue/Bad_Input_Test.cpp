@@ -24,13 +24,8 @@ struct Way {
 const std::array<Way, 3> ways{
     Way{"Region_Add", "Region_Mod_Other", "max(Region_ID) FROM Regions", regions, "Regions_Form",
         Cells_of("Name_Text Description_Text History_Text", " "), 2},
-    Way{"Labels_Add",
-        "Labels_Mod",
-        "max(Label_ID) FROM Labels",
-        labels,
-        "Label_Form",
-        {"Name_Text"},
-        1},
+    Way{"Labels_Add", "Labels_Mod", "max(Label_ID) FROM Labels", labels, "Label_Form",
+        Texts(1, "Name_Text"), 1},
     Way{"Winery_Add", "Winery_Mod", "max(Winery_ID) FROM Wineries", wineries, "Wineries_Form",
         Cells_of("Name_Text Add1_Text Add2_Text City_Text Province_Text Zip_Code_Text Phone_Text "
                  "Web_Text E_Mail_Text History_Text",
@@ -177,11 +172,12 @@ TEST_F(Bad_Input, A_row_whose_links_dangle_leaves_blanks) {
   std::vector<std::array<Text, 3>> entries{
       {"Region_Mod_Var", "Regions_Add_Mod_Varieties_Form/Regions_ListView"},
       {"Winery_List", wineries, "Winery_Labels_List"}};
-  for (const char* entry : {"Region_Del", "Region_Pair_Varieties"})
-    entries.push_back({entry, regions});
-  for (const char* entry : {"Winery_Mod", "Winery_Del"}) entries.push_back({entry, wineries});
-  for (const char* entry :
-       {"Region_Mod_Other", "Regions_List", "Labels_View", "Labels_Mod", "Labels_Del"}) {
+  for (const Text& entry : Cells_of("Winery_Mod Winery_Del", " ")) {
+    entries.push_back({entry, wineries});
+  }
+  for (const Text& entry : Cells_of("Region_Del Region_Pair_Varieties Region_Mod_Other "
+                                    "Regions_List Labels_View Labels_Mod Labels_Del",
+                                    " ")) {
     entries.push_back({entry, regions, labels});
   }
   for (const bool mended : {false, true}) {

@@ -131,34 +131,6 @@ TEST_F(Label_Screen, A_label_is_renamed_and_its_row_behind_follows) {
   EXPECT_THAT(Labels_of_Own(), ElementsAre("First", "Left behind"));
 }
 
-// By EXIT, the frame and Esc: where one is afterwards, and which rows are there.
-TEST_F(Label_Screen, Every_mode_is_left_without_a_row_and_mended_with_a_question) {
-  for (const bool mended : {false, true}) {
-    const Faults_Mended faults(mended);
-    for (const char* entry : {"Labels_Add", "Labels_Mod", "Region_Mod_Other"}) {
-      for (const bool by_frame : {false, true}) {
-        SCOPED_TRACE(entry + Text(by_frame ? " by the frame" : ""));
-        const bool adds = entry == Text("Labels_Add");
-        const int rows = Rows_in("Labels");
-        adds ? Open(entry) : Open_Label(entry, "First");
-        const auto away = [by_frame] { by_frame ? Close_Window(form) : Click(leave); };
-        EXPECT_EQ(Rows_in("Labels"), adds ? rows + 1 : rows);
-        Press("Esc");
-        Type_Into(name, "Typed");
-        if (mended) {
-          EXPECT_THAT(Denied_By(away), ElementsAre(StartsWith("ENTRY NOT STORED?")));
-          EXPECT_EQ(Shown_Text(name), "Typed");
-        }
-        EXPECT_THAT(Told_By(away), testing::SizeIs(mended ? 1 : 0));
-        EXPECT_TRUE(Is_Seen(adds ? main_window : regions_form));
-        EXPECT_EQ(Forms::Screen(form).Is_Loaded(), entry == Text("Region_Mod_Other"));
-        EXPECT_EQ(Rows_in("Labels"), rows);
-        EXPECT_THAT(Labels_of_Own(), ElementsAre("First"));
-      }
-    }
-  }
-}
-
 // As designed both ends end the run, and EXIT takes a region along that is not the screen's.
 TEST_F(Label_Screen, A_label_on_the_way_to_a_wine) {
   const auto open = [this] {

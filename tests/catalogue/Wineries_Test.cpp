@@ -319,27 +319,6 @@ TEST_F(Wineries_Screen, What_other_screens_do_meanwhile_stays_theirs) {
 
 // ---- every way out ----
 
-TEST_F(Wineries_Screen, A_winery_that_moves_takes_its_wines_along_in_the_counters_where_mended) {
-  Put_Wine(Sample_Wine());
-  const auto used = [this](const Text& id) {
-    return To_Long(One("SELECT Used FROM Regions WHERE Region_ID = " + id));
-  };
-  for (const bool mended : {false, true}) {
-    const Faults_Mended faults(mended);
-    const Sample_Winery& from = Sample(mended ? 1 : 0);
-    const Sample_Winery& to = Sample(mended ? 0 : 1);
-    const Long before = used(from.region_id);
-    const Long there = used(to.region_id);
-    Start_With("Winery_Mod");
-    Pick_Winery(Sample().id);
-    Choose(country, to.country_name);
-    Choose(region, to.region);
-    EXPECT_THAT(Told_By([] { Click(button); }), ElementsAre(StartsWith("WINERY MODIFIED")));
-    EXPECT_EQ(used(from.region_id), before - (mended ? 1 : 0));
-    EXPECT_EQ(used(to.region_id), there + (mended ? 1 : 0));
-  }
-}
-
 TEST_F(Wineries_Screen, A_row_clicked_and_any_way_out_leave_no_row_behind) {
   const Texts before = Rows();
   struct Use {

@@ -34,7 +34,7 @@ void Wineries_Form::Lay_Out() {
   const Place wines = Below(Wines_for_Selected_Label_Label,
                             Place(Available_Wines_ListView).Wide(32).High(6, 4).Grow());
   const Place winery =
-      Column({Row({address.Grow(2), origin.Grow(3)}),
+      Column({Row({address.Grow(5), origin.Grow(6)}),
               Row({Below(History_Label, Place(History_Text).Wide(40).High(3, 2).Grow()).Grow(3),
                    Place(Winery_Image).Wide(18).High(5, 3).Grow()})
                   .Grow(),

@@ -2,6 +2,7 @@
 
 #include <QMenuBar>
 #include <QScreen>
+#include <QWindow>
 
 #include "platform/forms/Form_Data.h"
 #include "platform/forms/Window_Memory.h"
@@ -52,7 +53,11 @@ void Fit_To_Desktop(const Form_Data& form) {
   const QSize size = Opening_Size(form, desktop.size() - window_frame);
   form.window->resize(size);
   const QSize around = (desktop.size() - window_frame - size) / 2;
-  form.window->move(desktop.topLeft() + QPoint(around.width(), around.height()));
+  const QPoint corner = desktop.topLeft() + QPoint(around.width(), around.height());
+  form.window->move(corner);
+  // A window that exists already, though unseen, would have its content at this corner, and its
+  // frame outside.
+  if (QWindow* window = form.window->windowHandle()) window->setFramePosition(corner);
 }
 
 }  // namespace Forms

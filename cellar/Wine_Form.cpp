@@ -196,6 +196,7 @@ void Wine_Form::Form_Activate() {
   const bool winery_or_label_is_new = Tag() == "1";
   if (winery_or_label_is_new) Update_for_New_Winery();
   Set_Tag("0");
+  Ask_Again_for_Gone_Winery();
   if (const Text label = Label_Add_Command.Tag(); !label.empty()) Update_for_New_Label(label);
   Should_Multi_Command_Be_Enabled();
   if (Pairings_Add_Command.Tag() == "1") Take_Over_Pairings();
@@ -211,6 +212,15 @@ void Wine_Form::Have_Own_Records_Back() {
   Wineries = own_records_->wineries;
   Regions = own_records_->regions;
   own_records_.reset();
+}
+
+// The screen that deletes wineries may stand beside this one.
+void Wine_Form::Ask_Again_for_Gone_Winery() {
+  if (!Command_Is("WineAdd") || Is_Kept(Fault::Gone_Row_Ends_The_Run)) return;
+  if (chosen_winery_.empty() || Find_By_Key(Wineries_Table, chosen_winery_)) return;
+  chosen_winery_.clear();
+  Load_Wineries_in_Country(Country_Combo.Key());
+  Require(Winery_Combo);
 }
 
 void Wine_Form::Update_for_New_Winery() {
@@ -233,10 +243,12 @@ void Wine_Form::Update_for_New_Label(const Text& label_id) {
   Label_Combo.Choose(label_id);
 }
 
-// Under WineMod the keys keep their old lines ahead of the new ones; nothing reads them there.
+// As designed, under WineMod, the keys keep their old lines ahead of the new ones; nothing reads
+// them there.
 void Wine_Form::Take_Over_Pairings() {
   if (!Command_Is("WineAdd") && !Command_Is("WineMod")) return;
-  if (Command_Is("WineAdd")) Pairing_List.Keys().Clear();
+  const bool old_keys = Command_Is("WineMod") && Is_Kept(Fault::Pairings_Chosen_Last_Are_Stored);
+  if (!old_keys) Pairing_List.Keys().Clear();
   Pairing_List.List_Box::Clear();
   Pairing_List.Set_BackColor(Forms::Window_Color);
   Pairings_Add_Command.Set_Tag("0");

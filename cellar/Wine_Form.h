@@ -46,6 +46,7 @@ class Wine_Form : public Cellar_Wine_Screen {
   static bool Cellars_Are_Named();
   void Tell_What_Empty_Lists_Wait_for();
   void Update_for_New_Winery();
+  void Ask_Again_for_Gone_Winery();
   void Update_for_New_Label(const Text& label_id);
   void Take_Over_Pairings();
   void Show_Requested_Wine();

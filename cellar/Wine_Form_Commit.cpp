@@ -219,9 +219,10 @@ void Wine_Form::Store_Varieties() {
 
 // An empty list may stand beside a selection of another wine.
 void Wine_Form::Store_Pairings() {
-  if (Pairing_List.ListCount() == 0) {
-    if (Is_Kept(Fault::Emptied_Pairings_Stay)) return;
-    Selected_Count = 0;
+  if (!Is_Kept(Fault::Pairings_Chosen_Last_Are_Stored)) {
+    Select_All(Pairing_List);
+  } else if (Pairing_List.ListCount() == 0) {
+    return;
   }
   Store_Wine_Maridages();
 }

@@ -44,8 +44,9 @@ enum class Fault {
   Marks_Of_General_Wines_Show,
   /// The dates that can be typed are not stored / they are.
   Typed_Dates_Are_Not_Stored,
-  /// Pairings all taken out stay stored / they go.
-  Emptied_Pairings_Stay,
+  /// A wine is stored with the pairings chosen last, on whatever screen, but not with none / with
+  /// those that its list shows.
+  Pairings_Chosen_Last_Are_Stored,
   /// A MODIFY and a search count the pairings as used once more, each time / only those that a
   /// wine newly has are counted, and those that it lost counted out.
   Pairings_Count_Again,

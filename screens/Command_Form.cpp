@@ -30,7 +30,9 @@ void Command_Form::Leave_Beside() {
   if (in_sight) Screen(main_window).Show();
 }
 
+// The next window comes to the front as this one goes, and need not be the one that is shown.
 void Command_Form::Leave_to(std::string_view screen) {
   Unload();
+  Current_Command = command_;
   Screen(Screen(screen).Exists() ? screen : main_window).Show();
 }

@@ -1,5 +1,8 @@
 #include "screens/Keyed.h"
 
+#include "links/Varieties_Processes.h"
+#include "platform/run_time/Conversions.h"
+
 int Place_of_Text(const Forms::Item_List& list, std::string_view text, int from) {
   int place = from;
   while (place < list.ListCount() && list.List(place) != text) ++place;
@@ -37,4 +40,12 @@ bool Keyed_List::Choose(std::string_view key, int from) {
   const int place = Place_Of(key, from);
   if (place >= 0) Shown().Set_ListIndex(place);
   return place >= 0;
+}
+
+void Select_All(const Keyed_List& list) {
+  Selected_Count = To_Integer(static_cast<double>(list.Shown().ListCount()));
+  for (int entry = 1; entry <= Selected_Count; ++entry) {
+    Selected_Names[entry] = list.Shown().List(entry - 1);
+    Selected_IDs[entry] = list.Key(entry - 1);
+  }
 }

@@ -52,6 +52,9 @@ class Keyed_List {
   Forms::Item_List* keys_ = nullptr;
 };
 
+/// The entries become the selection of links/Varieties_Processes.h. More than 100 are failure 9.
+void Select_All(const Keyed_List& list);
+
 /// The list that is seen is a `Seen`; its twin is a `Twin`.
 template <class Seen, class Twin = Seen>
 class Keyed : public Seen, public Keyed_List {

@@ -60,12 +60,14 @@ void Picker_Form::Choose_Those_of(const char* screen, const char* list, const ch
   }
 }
 
-// Of a stored wine the list on its screen is the selection; the keys beside it may be older.
+// As designed a stored wine's list is the selection, and the keys beside it may be older.
 void Picker_Form::Choose_Pairings_of_Wine() {
-  if (Command_Is("WineAdd") && !Is_Kept(Fault::Chooser_Begins_Empty)) {
-    Choose_Those_of("Wine_Form", "Pairing_List", "Pairing_Index_List");
+  const bool is_new = Command_Is("WineAdd");
+  if ((!is_new && !Command_Is("WineMod")) || !Screen("Wine_Form").Is_Loaded()) return;
+  if (!Is_Kept(is_new ? Fault::Chooser_Begins_Empty : Fault::Pairings_Chosen_Last_Are_Stored)) {
+    return Choose_Those_of("Wine_Form", "Pairing_List", "Pairing_Index_List");
   }
-  if (!Command_Is("WineMod") || !Screen("Wine_Form").Is_Loaded()) return;
+  if (is_new) return;
   const auto& pairings = Screen("Wine_Form").Get<Forms::List_Box>("Pairing_List");
   for (int pairing = 1; pairing <= pairings.ListCount(); ++pairing) {
     Choose({pairings.List(pairing - 1), Selected_IDs[pairing]});
@@ -131,11 +133,7 @@ void Picker_Form::Remove_by_Key() {
 }
 
 void Picker_Form::MultSelect_Click() {
-  Selected_Count = To_Integer(static_cast<double>(SelectList.ListCount()));
-  for (int entry = 1; entry <= Selected_Count; ++entry) {
-    Selected_Names[entry] = SelectList.List(entry - 1);
-    Selected_IDs[entry] = SelectList.Key(entry - 1);
-  }
+  Select_All(SelectList);
   Proceed();
 }
 

@@ -167,8 +167,8 @@ void Combo_Widget::Step(QKeyEvent& event) {
 // The toolkit closes the list at some keys before they are pressed.
 bool Combo_Widget::Keeps_From_Toolkit(QKeyEvent& event) const {
   const bool ends_word = event.key() == Qt::Key_Escape && typing_.Has_Word();
-  if (!ends_word && !Opens_Or_Closes(event) && !(Is_Enter(event) && typing_.Found_Nothing()))
-    return false;
+  const bool no_choice = Is_Enter(event) && (typing_.Found_Nothing() || Has_Command_Key(event));
+  if (!ends_word && !Opens_Or_Closes(event) && !no_choice) return false;
   event.accept();
   return true;
 }

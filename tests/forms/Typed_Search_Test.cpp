@@ -135,8 +135,9 @@ TEST_F(Typed_Search_Test, A_key_with_another_one_changes_no_combo_box_but_opens_
   Taken();
   for (const bool open : {false, true}) {
     if (open) Press("Alt+Down");
-    for (const char* key : {"Alt+S", "Ctrl+S", "Meta+S", "Ctrl+Alt+G", "Alt+Shift+G", "Ctrl+Down",
-                            "Ctrl+Up", "Meta+End", "Alt+Home", "Alt+PgDown", "Ctrl+Space"}) {
+    for (const char* key :
+         {"Alt+S", "Ctrl+S", "Meta+S", "Ctrl+Alt+G", "Alt+Shift+G", "Ctrl+Down", "Ctrl+Up",
+          "Meta+End", "Alt+Home", "Alt+PgDown", "Ctrl+Space", "Ctrl+Return", "Alt+Return"}) {
       Press(key);
       EXPECT_EQ(QApplication::activePopupWidget() != nullptr, open) << key;
     }

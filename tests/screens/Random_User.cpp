@@ -60,13 +60,23 @@ std::vector<QWidget*> Usable_Controls(const std::string& form) {
 std::string Random_User::Front() {
   const QWidget* active = QApplication::activeWindow();
   if (active != nullptr) return active->objectName().toStdString();
-  if (Forms::Screen(main_window).Visible()) return main_window;
-  for (const std::string& name : Forms::Screens::Names_For_Tests()) {
-    if (!Forms::Screen(name).Visible()) continue;
-    Find(name).activateWindow();
-    return name;
-  }
-  return main_window;
+  Texts names = Forms::Screens::Names_For_Tests();
+  names.insert(names.begin(), main_window);
+  const auto next = std::ranges::find_if(
+      names, [](const std::string& name) { return Forms::Screen(name).Visible(); });
+  if (next == names.end()) return main_window;
+  Find(*next).activateWindow();
+  Settle_Events();
+  return *next;
+}
+
+// One that waits for another hands the keys on to that.
+void Random_User::Switch_Window() {
+  Texts names = Forms::Screens::Names_For_Tests();
+  std::erase_if(names, [](const std::string& name) { return !Forms::Screen(name).Visible(); });
+  if (names.size() < 2) return;
+  Find(One_of(names)).activateWindow();
+  Settle_Events();
 }
 
 void Random_User::Act(bool refused) {
@@ -74,7 +84,7 @@ void Random_User::Act(bool refused) {
   if (form == main_window) {
     Choose_Entry();
   } else if (refused && Random(4) > 0) {
-    Paste_Into(Focused(), One_of(Texts{"", "", "6"}));
+    Paste_Into(form + "/" + Focused(), One_of(Texts{"", "", "6"}));
   } else if (Random(20) == 0) {
     const std::string key = One_of(keys);
     about_to(key);
@@ -83,12 +93,12 @@ void Random_User::Act(bool refused) {
     return;
   } else {
     const std::vector<QWidget*> usable = Usable_Controls(form);
-    const char* of_labels = "Regions_Form/Labels_ListView";
-    const bool labels = Current_Command.starts_with("Label") && Is_Usable(of_labels);
+    const bool labels =
+        Current_Command.starts_with("Label") && Is_Usable(form + "/Labels_ListView");
     const bool deletes = Current_Command == "WineryDel";
-    const char* list = labels    ? of_labels
-                       : deletes ? "Wineries_Form/Wineries_ListView"
-                                 : "Wine_Cellar_ListView";
+    const std::string list = form + (labels    ? "/Labels_ListView"
+                                     : deletes ? "/Wineries_ListView"
+                                               : "/Wine_Cellar_ListView");
     const bool picks =
         Random(deletes ? 2 : 4) == 0 && Is_Usable(list) && Current_Command != "WineAdd";
     if (!usable.empty()) Use(picks ? Find(list) : *One_of(usable));
@@ -113,7 +123,7 @@ bool Random_User::Fill_Required(const std::string& form) {
   for (QWidget* control : Usable_Controls(form)) {
     const std::string name = control->objectName().toStdString();
     const bool colored = name.ends_with("_Combo") || name.ends_with("Text");
-    if (colored && Color_of(name) == "required") required.push_back(control);
+    if (colored && Color_of(form + "/" + name) == "required") required.push_back(control);
   }
   if (required.empty()) return false;
   Use(*One_of(required));
@@ -131,8 +141,10 @@ bool Random_User::Commit(const std::string& form) {
   return false;
 }
 
+// Screens beside it have controls of the same names.
 void Random_User::Use(QWidget& control) {
-  const std::string name = control.objectName().toStdString();
+  const std::string name =
+      (control.window()->objectName() + "/" + control.objectName()).toStdString();
   about_to(name);
   if (qobject_cast<QComboBox*>(&control) != nullptr) {
     Choose_By_Keys(name);
@@ -162,7 +174,7 @@ void Random_User::Choose_By_Keys(const std::string& name) {
   const Texts entries = Shown_Rows(name);
   std::vector<std::string> wanted(entries.begin() + (entries.size() > 1 && Random(20) > 0 ? 1 : 0),
                                   entries.end());
-  if (name == "Country_Combo" && Random(4) > 0) {
+  if (name.ends_with("/Country_Combo") && Random(4) > 0) {
     std::erase_if(wanted,
                   [this](const std::string& country) { return !countries_.contains(country); });
   }
@@ -184,7 +196,7 @@ void Random_User::Use_List(const std::string& name, int rows) {
     const bool named = name.ends_with("ListView");
     const int row =
         named ? One_of_Rows(Shown_Column(name, 0)) : Random(static_cast<std::size_t>(rows));
-    if (name == "Variety_Combo") {
+    if (name == "Wine_Form/Variety_Combo") {
       Click_Tick(name, row);
     } else {
       Click_Row(name, row);
@@ -193,7 +205,8 @@ void Random_User::Use_List(const std::string& name, int rows) {
   }
 }
 
-void Random_User::Fill(const std::string& name) {
+void Random_User::Fill(const std::string& control) {
+  const std::string name = control.substr(control.find('/') + 1);
   static const std::set<std::string> of_numbers{"Total_Bottles_Text", "Price_Text", "Alcohol_Text"};
   const bool of_a_date = name.starts_with("Date") || name.starts_with("Last_Date");
   const Texts& fitting = of_a_date ? dates : of_numbers.contains(name) ? numbers : Hostile_Texts();
@@ -204,6 +217,6 @@ void Random_User::Fill(const std::string& name) {
   // this user finds its rows by.
   const bool pairing = name.starts_with("CAT") || name.starts_with("Cat");
   const bool numbered = pairing || (name == "Name_Text" && Random(10) > 0);
-  Paste_Into(name, numbered ? "#" + std::to_string(++typed_) + "-" + text : text);
+  Paste_Into(control, numbered ? "#" + std::to_string(++typed_) + "-" + text : text);
   if (Random(2) == 0) Press("Tab");
 }

@@ -18,8 +18,10 @@ class Random_User {
 
   /// The form that takes the next action: the active one, or the main window.
   static std::string Front();
-  /// One action in it. `refused`: a box has just said that the field with the focus cannot hold
-  /// what was typed.
+  /// To any that is in sight.
+  void Switch_Window();
+  /// One action in the form in front. `refused`: a box has just said that the field with the focus
+  /// cannot hold what was typed.
   void Act(bool refused);
 
   /// Called before each action, with the name of what is used, or the key.
@@ -39,7 +41,7 @@ class Random_User {
   int One_of_Rows(const Texts& names);
   void Choose_By_Keys(const std::string& name);
   void Use_List(const std::string& name, int rows);
-  void Fill(const std::string& name);
+  void Fill(const std::string& control);
 
   std::mt19937 random_;
   std::set<std::string> countries_;

@@ -54,9 +54,9 @@ Shown_Wine Shown_Wines::Shown() {
         "Description_Text", "Comments_Text"}) {
     shown[field] = As_Read(Shown_Text(std::string("Wine_Form/") + field));
   }
-  shown["grapes"] = Joined(Ticked_Rows("Variety_Combo"));
+  shown["grapes"] = Joined(Ticked_Rows("Wine_Form/Variety_Combo"));
   shown["marks"] = Joined(Ticked_Boxes());
-  shown["pairings"] = Joined(Pairing_Keys(Shown_Rows("Pairing_List")));
+  shown["pairings"] = Joined(Pairing_Keys(Shown_Rows("Wine_Form/Pairing_List")));
   return shown;
 }
 

@@ -132,7 +132,7 @@ Texts Cellar_Program::Ticked_Boxes() {
   for (const auto& [kind, last] : {std::pair{"Taste_Check_", 5}, {"Aroma_Check_", 7}}) {
     for (int box = 0; box <= last; ++box) {
       const Text name = kind + std::to_string(box);
-      if (Is_Ticked(name)) ticked.push_back(name);
+      if (Is_Ticked("Wine_Form/" + name)) ticked.push_back(name);
     }
   }
   return ticked;

@@ -42,7 +42,8 @@ void Wineries_Form::Save_Winery() {
 void Wineries_Form::Modify_Winery() {
   const Kept_Winery kept;
   Own_Row.Read();
-  if (Name_Text.Text() != Wineries.Winery_Name && Is_Double()) return;
+  const bool moved = Region_Combo.Key() != To_Text(Wineries.Region_ID);
+  if ((moved || Name_Text.Text() != Wineries.Winery_Name) && Is_Double()) return;
   const bool counted = !Is_Kept(Fault::Moved_Winery_Leaves_Counters);
   const Uses before = counted ? Uses_of_Wines_of(Own_Row.Key()) : Uses();
   Own_Row.Store([this] { Form_to_Memory(); });

@@ -386,6 +386,16 @@ TEST_F(Wineries_Screen, Mended_no_name_is_double_or_x_and_nothing_goes_without_a
   EXPECT_EQ(Wineries.Winery_Name, "Newly found");
   EXPECT_EQ(Stored("SELECT Country FROM Wineries WHERE Winery_Name = 'Newly found'"),
             Texts{Sample().country});
+  const Text id = One("SELECT max(Winery_ID) FROM Wineries");
+  for (const bool moves_there : {false, true}) {
+    Start_With("Winery_Mod");
+    Pick_Winery(id);
+    Type_Into("Name_Text", Sample().name);
+    Choose(country, moves_there ? Sample().country_name : Name_of_Country("LBN"));
+    Choose(region, moves_there ? Sample().region : Cells_of(Region_of("LBN"))[0]);
+    EXPECT_THAT(Told_By([] { Click(button); }),
+                ElementsAre(StartsWith(moves_there ? "WINERY ADD ERROR" : "WINERY MODIFIED")));
+  }
 }
 
 }  // namespace

@@ -55,7 +55,7 @@ Shown_Wine Shown_Wines::Shown() {
     shown[field] = As_Read(Shown_Text(std::string("Wine_Form/") + field));
   }
   shown["grapes"] = Joined(Ticked_Rows("Wine_Form/Variety_Combo"));
-  shown["marks"] = Joined(Ticked_Boxes());
+  shown["marks"] = Joined(Ticked_Boxes("Wine_Form/"));
   shown["pairings"] = Joined(Pairing_Keys(Shown_Rows("Wine_Form/Pairing_List")));
   return shown;
 }

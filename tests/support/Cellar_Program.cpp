@@ -127,12 +127,12 @@ std::size_t Cellar_Program::Key_Column(const char* list) {
   return static_cast<std::size_t>(view.model()->columnCount()) - 1;
 }
 
-Texts Cellar_Program::Ticked_Boxes() {
+Texts Cellar_Program::Ticked_Boxes(const Text& form) {
   Texts ticked;
   for (const auto& [kind, last] : {std::pair{"Taste_Check_", 5}, {"Aroma_Check_", 7}}) {
     for (int box = 0; box <= last; ++box) {
       const Text name = kind + std::to_string(box);
-      if (Is_Ticked("Wine_Form/" + name)) ticked.push_back(name);
+      if (Is_Ticked(form + name)) ticked.push_back(name);
     }
   }
   return ticked;

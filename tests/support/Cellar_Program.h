@@ -64,7 +64,7 @@ class Cellar_Program : public Program_Folder {
     return Forms::Screen("Wine_Form").Control(control).Tag();
   }
   /// The names of the ticked boxes of taste and aroma.
-  static Texts Ticked_Boxes();
+  static Texts Ticked_Boxes(const Text& form = {});
 
   Date now_ = Date::Of(2026, 6, 15, 14, 30, 5);
 };

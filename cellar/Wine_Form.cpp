@@ -282,7 +282,7 @@ void Wine_Form::Pairings_Add_Command_Click() {
 
 void Wine_Form::Winery_Combo_DblClick() {
   if (!Screen("Wineries_Form").Exists()) return;
-  own_records_.emplace();
+  own_records_ = Own_Records{};
   Current_Command = "WineryList";
   Screen("Wineries_Form").Open();
 }

@@ -81,12 +81,14 @@ void Make_Links(const Uses& grapes) {
   }
   Close_Table(Varieties_Recordset);
   std::vector<Link_Row> rows;
+  rows.reserve(masks.size());
   for (const auto& [group, mask] : masks) rows.push_back({To_Long(group * 10.0), mask});
   Make_Rows(Varieties_of_Regions, fields_of_links, rows);
 }
 
 void Make_Pairs(const Uses& grapes) {
   std::vector<Link_Row> rows;
+  rows.reserve(grapes.size());
   for (const Use& grape : grapes) rows.push_back({0, 0, grape.key});
   Make_Rows(Pairs_of_Regions, fields_of_pairs, rows);
 }

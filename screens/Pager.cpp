@@ -1,5 +1,7 @@
 #include "screens/Pager.h"
 
+#include "platform/run_time/Conversions.h"
+
 Pager::Pager(Forms::Command_Button& previous, Forms::Command_Button& next)
     : previous_(previous), next_(next) {
   previous_.Click = [this] { Step(-1); };
@@ -15,7 +17,7 @@ void Pager::Go_Through(Row_List& list, Integer& index) {
 
 void Pager::Set_Previous_and_Next(const Text& key) {
   const std::optional<Forms::List_Item> row = list_->Row_of(key);
-  *index_ = row ? static_cast<Integer>(row->Index()) : 0;
+  *index_ = row ? To_Integer(static_cast<double>(row->Index())) : 0;
   previous_.Set_Enabled(*index_ > 1);
   next_.Set_Enabled(row && *index_ < list_->Count());
 }

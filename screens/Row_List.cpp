@@ -6,6 +6,7 @@ namespace {
 
 std::vector<std::string> Texts_of(const std::vector<Forms::List_Column>& columns) {
   std::vector<std::string> texts;
+  texts.reserve(columns.size());
   for (const Forms::List_Column& column : columns) texts.push_back(column.text);
   return texts;
 }
@@ -13,7 +14,7 @@ std::vector<std::string> Texts_of(const std::vector<Forms::List_Column>& columns
 }  // namespace
 
 Row_List::Row_List(Forms::Form& form, std::string_view name,
-                   std::vector<Forms::List_Column> columns, std::vector<std::string> words)
+                   const std::vector<Forms::List_Column>& columns, std::vector<std::string> words)
     : List_View(form, name, columns),
       key_column_(static_cast<int>(columns.size()) - 1),
       words_(words.empty() ? Texts_of(columns) : std::move(words)) {

@@ -17,7 +17,7 @@ class Row_List : public Forms::List_View {
   /// Each column answers to a header that reads as in the design; `words` tells what they answer to
   /// where that is something else, column by column. A header that no column answers to turns the
   /// order and leaves the column as it is.
-  Row_List(Forms::Form& form, std::string_view name, std::vector<Forms::List_Column> columns,
+  Row_List(Forms::Form& form, std::string_view name, const std::vector<Forms::List_Column>& columns,
            std::vector<std::string> words = {});
   void Set_Key_Column(int column) { key_column_ = column; }
 

@@ -69,9 +69,9 @@ void Search_General_Pairings_Form::Show_Varieties() {
 }
 
 void Search_General_Pairings_Form::Add_Varieties_of_Pairing(Long maridage_id) {
-  Record_Store::Recordset& pairs = Varieties_Per_Maridage_Recordset;
-  Each_Row_Of(pairs, "Maridage_ID", maridage_id, [&] {
-    if (Find_Row(Varieties_Table, pairs.Fields("Variety_ID").As_Long())) Add_Variety();
+  Each_Row_Of(Varieties_Per_Maridage_Recordset, "Maridage_ID", maridage_id, [this] {
+    const Long key = Varieties_Per_Maridage_Recordset.Fields("Variety_ID").As_Long();
+    if (Find_Row(Varieties_Table, key)) Add_Variety();
   });
 }
 

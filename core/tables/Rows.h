@@ -24,6 +24,11 @@ struct Table_In_Use {
   void Write() const { description.Write(rows, record); }
 };
 
+// clang-tidy does not find it by itself.
+template <class Record>
+Table_In_Use(const Table<Record>&, Record_Store::Recordset&, Record&, const char*)
+    -> Table_In_Use<Record>;
+
 }  // namespace Tables
 
 /// Opens the table in the order of its keys. Failures are those of Open_Table.

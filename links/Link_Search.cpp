@@ -92,8 +92,7 @@ std::vector<Long> Matching_Owners(const Link_Table& links) {
   };
   for (int group = 1; group <= Group_Count; ++group) Each_Match(links, group, take);
   std::ranges::sort(owners);
-  const auto doubles = std::ranges::unique(owners);
-  owners.erase(doubles.begin(), doubles.end());
+  owners.erase(std::unique(owners.begin(), owners.end()), owners.end());
   return owners;
 }
 

@@ -162,6 +162,7 @@ void Check_English(const Library& library, std::string_view form,
 void Check_Program_Texts(const Library& library, Problems& problems) {
   std::vector<std::string_view> english;
   const Forms::Texts_Of_Forms texts;
+  english.reserve(std::size(Screen_Words::Form_Texts));
   for (const auto& row : Screen_Words::Form_Texts) english.emplace_back(texts.*row.text);
   Check_English(library, "Form_Texts", english, problems);
   english.clear();

@@ -133,7 +133,7 @@ void Source_Table::Read_Row(std::string_view line, const Place& place, Problems&
   }
   for (const auto& [name, at] : columns_) {
     const std::string fault = Fault_Of_Text(row.cells_[static_cast<std::size_t>(at)], blanks);
-    if (!fault.empty()) problems.Report(place, name + " " + fault);
+    if (!fault.empty()) problems.Report(place, std::string(name).append(" ").append(fault));
   }
   rows_.push_back(std::move(row));
 }

@@ -61,7 +61,8 @@ QString Cut_Choice(const QComboBox& combo) {
 
 bool Show_Cut_Text(QWidget& widget, const QHelpEvent& event) {
   const Placed_Control* control = Focus_Watch::The().Control_Of(&widget);
-  const QString cut = control == nullptr ? QString() : Cut_Text_At(widget, event.pos());
+  if (control == nullptr) return false;
+  const QString cut = Cut_Text_At(widget, event.pos());
   if (cut.isEmpty()) return false;
   QString tip = Qt::convertFromPlainText(cut, Qt::WhiteSpaceNormal);
   if (const QString more = control->Widget()->toolTip(); !more.isEmpty()) {

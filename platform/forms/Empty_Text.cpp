@@ -17,7 +17,8 @@ constexpr QMargins margin(12, 6, 12, 6);
 
 }  // namespace
 
-void Set_Empty_Text(QAbstractItemView& view, std::string_view text, std::function<void()> changed) {
+void Set_Empty_Text(QAbstractItemView& view, std::string_view text,
+                    const std::function<void()>& changed) {
   const bool known = view.property(empty_text).isValid();
   view.setProperty(empty_text, To_Show(text));
   view.viewport()->update();
@@ -43,7 +44,7 @@ void Paint_Empty_Text(const QAbstractItemView& view) {
   const QString text = Empty_Text_Of(view);
   if (text.isEmpty()) return;
   QPainter painter(view.viewport());
-  const QPalette colors = view.palette();
+  const QPalette& colors = view.palette();
   painter.setPen(Mixed(colors.color(QPalette::Base), colors.color(QPalette::Text), faint));
   const QRect room = view.viewport()->rect().marginsRemoved(margin);
   constexpr int wrapped = Qt::TextWordWrap | Qt::AlignHCenter;

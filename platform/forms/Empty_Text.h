@@ -10,7 +10,8 @@ class QAbstractItemView;
 namespace Forms {
 
 /// `changed` is called whenever the list gets its first rows or loses its last ones.
-void Set_Empty_Text(QAbstractItemView& view, std::string_view text, std::function<void()> changed);
+void Set_Empty_Text(QAbstractItemView& view, std::string_view text,
+                    const std::function<void()>& changed);
 /// "" while the list has rows.
 QString Empty_Text_Of(const QAbstractItemView& view);
 /// For the view's paintEvent, after the view has painted itself.

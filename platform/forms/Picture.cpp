@@ -49,7 +49,8 @@ class Picture_Widget : public QLabel {
     const QResource pixels(path);
     const QSize size = drawing_->defaultSize();
     if (!pixels.isValid() || pixels.size() != qint64{4} * size.width() * size.height()) return;
-    photo_ = QPixmap::fromImage(QImage(pixels.data(), size.width(), size.height(), 4 * size.width(),
+    photo_ = QPixmap::fromImage(QImage(pixels.data(), size.width(), size.height(),
+                                       qsizetype{4} * size.width(),
                                        QImage::Format_ARGB32_Premultiplied));
   }
 

@@ -62,7 +62,8 @@ Hits Hits_Of(const QString& word, const QAbstractItemModel& entries, int column)
     const Match match = Match_Of(Folded(text), wanted);
     if (match != Match::None) hits.push_back({row, match});
   }
-  std::ranges::stable_partition(hits, [](Hit hit) { return hit.match != Match::Later_Word; });
+  std::stable_partition(hits.begin(), hits.end(),
+                        [](Hit hit) { return hit.match != Match::Later_Word; });
   return hits;
 }
 

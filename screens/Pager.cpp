@@ -17,7 +17,7 @@ void Pager::Go_Through(Row_List& list, Integer& index) {
 
 void Pager::Set_Previous_and_Next(const Text& key) {
   const std::optional<Forms::List_Item> row = list_->Row_of(key);
-  *index_ = row ? To_Integer(static_cast<double>(row->Index())) : 0;
+  *index_ = row ? To_Integer(static_cast<double>(row->Index())) : Integer{0};
   previous_.Set_Enabled(*index_ > 1);
   next_.Set_Enabled(row && *index_ < list_->Count());
 }
